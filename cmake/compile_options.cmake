@@ -1,0 +1,14 @@
+# What every target of the project is compiled with.
+add_library(coltre_compile_options INTERFACE)
+target_compile_options(
+    coltre_compile_options
+    INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+              # A formula gives the same bits on every processor: no fused multiply-add.
+              -ffp-contract=off)
+
+set(COLTRE_SANITIZE "" CACHE STRING "Sanitizers to compile with, comma-separated (address,undefined); empty: none")
+if(COLTRE_SANITIZE)
+    target_compile_options(coltre_compile_options INTERFACE -fsanitize=${COLTRE_SANITIZE} -fno-sanitize-recover=all
+                                                            -fno-omit-frame-pointer)
+    target_link_options(coltre_compile_options INTERFACE -fsanitize=${COLTRE_SANITIZE})
+endif()

@@ -1,0 +1,129 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "engine/checked.h"
+#include "engine/program_cells.h"
+
+// What the calculations tell while they run, and how they stop.
+namespace coltre {
+
+/// A result cell under the name that users see.
+struct ResultCell {
+    std::string_view name;
+    double ProgramCells::*cell;
+};
+
+/// The result cells, in the order in which their calculations fill them.
+namespace results {
+inline constexpr ResultCell qs_1{"qs_1", &ProgramCells::qs_1}, qe_1{"qe_1", &ProgramCells::qe_1};
+inline constexpr ResultCell qs_2a{"qs_2a", &ProgramCells::qs_2a}, qs_2b{"qs_2b", &ProgramCells::qs_2b},
+    qe_2a{"qe_2a", &ProgramCells::qe_2a}, qe_2b{"qe_2b", &ProgramCells::qe_2b},
+    qs_2c{"qs_2c", &ProgramCells::qs_2c}, qs_2d{"qs_2d", &ProgramCells::qs_2d},
+    qe_2c{"qe_2c", &ProgramCells::qe_2c}, qe_2d{"qe_2d", &ProgramCells::qe_2d};
+inline constexpr ResultCell qs_3a{"qs_3a", &ProgramCells::qs_3a}, qs_3b{"qs_3b", &ProgramCells::qs_3b},
+    qs_3c{"qs_3c", &ProgramCells::qs_3c};
+inline constexpr ResultCell L1{"L1", &ProgramCells::L1}, L2{"L2", &ProgramCells::L2},
+    qs_4a{"qs_4a", &ProgramCells::qs_4a}, qs_4b{"qs_4b", &ProgramCells::qs_4b},
+    qs_4c{"qs_4c", &ProgramCells::qs_4c}, qe_4a{"qe_4a", &ProgramCells::qe_4a},
+    qe_4b{"qe_4b", &ProgramCells::qe_4b}, qe_4c{"qe_4c", &ProgramCells::qe_4c};
+inline constexpr ResultCell level_mu2{"mu2", &ProgramCells::level_mu2},
+    level_qs1{"qs1", &ProgramCells::level_qs1}, level_qs2{"qs2", &ProgramCells::level_qs2},
+    level_ls{"ls", &ProgramCells::level_ls};
+inline constexpr ResultCell wall_mu2{"mu2", &ProgramCells::mu2}, wall_qs1{"qs1", &ProgramCells::wall_qs1},
+    wall_qs2{"qs2", &ProgramCells::wall_qs2}, wall_ls{"ls", &ProgramCells::wall_ls};
+inline constexpr ResultCell Fs{"Fs", &ProgramCells::Fs};
+}  // namespace results
+
+/// The roof families, numbered as the tabs of the main window.
+enum class RoofFamily { one_pitch = 0, two_pitches = 1, several_pitches = 2, cylindrical = 3 };
+
+/// The special cases, numbered as the pages of the special cases window.
+enum class SpecialCase { level_change = 0, wall = 1, snow_guard = 2 };
+
+/// Geometry of a roof; each family reads its own members.
+struct Roof {
+    RoofFamily family = RoofFamily::one_pitch;
+    double alfa1 = 0;  ///< pitch of the roof, of its side 1, degrees
+    double alfa2 = 0;  ///< pitch of side 2, degrees (two and several pitches)
+    double L = 0;      ///< width (span) of a cylindrical roof, m
+    double H = 0;      ///< rise of a cylindrical roof, m
+};
+
+/// Entries of a special case; each case reads its own members.
+struct SpecialCaseEntries {
+    SpecialCase special_case = SpecialCase::level_change;
+    double b1 = 0;    ///< width of the upper roof, m (level change)
+    double b2 = 0;    ///< width of the lower roof, m (level change)
+    double h = 0;     ///< difference of level, or height of the wall, m
+    double alfa = 0;  ///< slope, degrees (level change: of the upper roof; snow guard)
+    double qs = 0;    ///< snow load on the roof, kN/m2 (snow guard)
+    double b = 0;     ///< horizontal distance from the obstacle to the ridge, m (snow guard)
+};
+
+/// One load case of a roof, as soon as it is known.
+struct LoadCase {
+    std::string_view label;    ///< its coefficient as the report names it: "mu1", "0.5mu1(alfa1)", ...
+    double mu;                 ///< shape coefficient
+    double qs;                 ///< roof load, kN/m2
+    std::optional<double> qe;  ///< load of the snow overhanging the eaves, kN/m; several pitches have none
+};
+
+/// Whoever wants to hear of results as they are computed: the report, the command. So each holds exactly what
+/// had been computed when a calculation stops early.
+class CalculationObserver {
+  public:
+    virtual ~CalculationObserver() = default;
+    /// A result cell has taken a value. A step may set a cell that an earlier step has set already.
+    virtual void on_cell(const ResultCell& /*cell*/, double /*value*/) {}
+    /// The shape coefficient of a load case is known, under the label of that load case.
+    virtual void on_coefficient(std::string_view /*label*/, double /*mu*/) {}
+    /// The first load cases of the roof are known: its section of the report starts.
+    virtual void on_roof(const Roof& /*roof*/) {}
+    /// A load case is complete.
+    virtual void on_load_case(const LoadCase& /*load_case*/) {}
+    /// A special case is complete, its results in the cells.
+    virtual void on_special_case(const SpecialCaseEntries& /*entries*/) {}
+};
+
+/// How a calculation ended: all well, or the fault and the quantity whose step met it.
+struct CalculationEnd {
+    Fault fault = Fault::none;
+    std::string_view quantity;  ///< what could not be computed: a result cell's name, or a coefficient's
+
+    [[nodiscard]] bool stopped() const { return fault != Fault::none; }
+};
+
+/// The running calculation: sets cells and tells the observer, until the first fault.
+class Calculation {
+  public:
+    Calculation(ProgramCells& cells, CalculationObserver& observer) : m_cells(cells), m_observer(observer) {}
+
+    /// Sets the cell to the result, or keeps the fault and leaves the cell as it was.
+    /// @return true if the calculation goes on
+    bool set(const ResultCell& cell, Checked result) {
+        if (result.fault() != Fault::none) {
+            stop(result.fault(), cell.name);
+            return false;
+        }
+        m_cells.*cell.cell = result.value();
+        m_observer.on_cell(cell, result.value());
+        return true;
+    }
+
+    /// Keeps the fault of a step that sets no result cell.
+    /// @param quantity  what the step was to compute
+    void stop(Fault fault, std::string_view quantity) { m_end = {fault, quantity}; }
+
+    [[nodiscard]] ProgramCells& cells() { return m_cells; }
+    [[nodiscard]] CalculationObserver& observer() { return m_observer; }
+    [[nodiscard]] CalculationEnd end() const { return m_end; }
+
+  private:
+    ProgramCells& m_cells;
+    CalculationObserver& m_observer;
+    CalculationEnd m_end;
+};
+
+}  // namespace coltre

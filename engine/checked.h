@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cmath>
+
+// Arithmetic in which every step is checked. A formula written with Checked reads like the plain one; the
+// first fault on the way is what it yields, and nothing after that step counts.
+namespace coltre {
+
+/// Why a calculation stopped.
+enum class Fault {
+    none,
+    division_by_zero,        ///< x / 0 with x not 0
+    numeric_error,           ///< 0 / 0, logarithm of 0 or of a negative number, overflow
+    invalid_conversion,      ///< a text that must be a number is none
+    incongruent_dimensions,  ///< a cylindrical roof that rises more than half its width
+};
+
+/// A double, or the fault that the steps towards it met first. Underflow is no fault.
+class Checked {
+  public:
+    /// @param value  finite
+    constexpr Checked(double value)
+        : m_value(value) {}  // NOLINT(google-explicit-constructor): numbers are operands
+    constexpr Checked(Fault fault) : m_fault(fault) {}  // NOLINT(google-explicit-constructor)
+
+    /// The result; meaningful without a fault alone.
+    [[nodiscard]] constexpr double value() const { return m_value; }
+    [[nodiscard]] constexpr Fault fault() const { return m_fault; }
+
+    friend Checked operator+(Checked a, Checked b) { return step(a, b, a.m_value + b.m_value); }
+    friend Checked operator-(Checked a, Checked b) { return step(a, b, a.m_value - b.m_value); }
+    friend Checked operator*(Checked a, Checked b) { return step(a, b, a.m_value * b.m_value); }
+    friend Checked operator/(Checked a, Checked b) {
+        if (b.m_value == 0 && a.m_fault == Fault::none && b.m_fault == Fault::none) {
+            return a.m_value == 0 ? Fault::numeric_error : Fault::division_by_zero;
+        }
+        return step(a, b, a.m_value / b.m_value);
+    }
+    /// The square, as the general power with exponent 2.
+    friend Checked squared(Checked a) { return step(a, a, std::pow(a.m_value, 2.0)); }
+    /// Natural logarithm; of 0 and of negative numbers a numeric error.
+    friend Checked ln(Checked a) {
+        if (a.m_fault == Fault::none && a.m_value <= 0) return Fault::numeric_error;
+        return step(a, a, std::log(a.m_value));
+    }
+    friend Checked tan(Checked a) { return step(a, a, std::tan(a.m_value)); }
+    friend Checked arctan(Checked a) { return step(a, a, std::atan(a.m_value)); }
+    friend Checked sin(Checked a) { return step(a, a, std::sin(a.m_value)); }
+
+  private:
+    static Checked step(Checked a, Checked b, double result) {
+        if (a.m_fault != Fault::none) return a.m_fault;
+        if (b.m_fault != Fault::none) return b.m_fault;
+        if (!std::isfinite(result)) return Fault::numeric_error;
+        return result;
+    }
+
+    double m_value = 0;
+    Fault m_fault = Fault::none;
+};
+
+}  // namespace coltre

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "engine/checked.h"
+#include "engine/program_cells.h"
+
+// Ground snow load of the site.
+// Source: Decree of 16 January 1996; circular of 4 July 1996.
+namespace coltre {
+
+/// Above this altitude, m, the local conditions decide and the user is told; the load is still computed from
+/// the altitude as typed.
+inline constexpr double highest_regulated_altitude = 1500;
+
+/// Sets the qsk cell to the characteristic ground load of the zone cell's zone, before the user's factors. A
+/// zone code outside 0 to 3 leaves the cell as it was. Constant up to and including 200 m, and not continuous
+/// there: zone II drops from 1.0 to 0.998 just above.
+/// @param altitude  above sea level, m
+/// @return a fault leaves the cell as it was
+Fault set_base_ground_load(ProgramCells& cells, Checked altitude);
+
+/// Multiplies the qsk cell by the return period factor, CE and Ct, in this order.
+/// @param CE  exposure coefficient   @param Ct  thermal coefficient
+/// @return a fault leaves the cell as it was
+Fault apply_load_factors(ProgramCells& cells, Checked CE, Checked Ct);
+
+/// Factor of the ground load for a return period: 0.273 (1 - 0.5 ln(-ln(1 - 1/Tr))).
+/// 10 years give 0.5802, 50 give 0.8056, 500 give 1.1212.
+/// @param Tr  years; up to 1 year, and so many that 1/Tr is lost beside 1, are numeric errors
+Checked return_period_factor(double Tr);
+
+}  // namespace coltre

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <cstdio>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+// The door to the file system. Directory values are texts in the suite's notation, with "\" between the
+// names. Here "\" and "/" are accepted alike, and an existing name is found whatever its letter case, as the
+// suite's own system does: the suite's root comes back in lower case from the command line.
+namespace coltre {
+
+/// The path that a text in the suite's notation names. Each name that does not exist as written is looked for
+/// in its directory without regard to letter case; one that does not exist at all is kept as written.
+std::filesystem::path find_path(std::string_view suite_path);
+
+/// The path as a text in the suite's notation, without a separator at its end.
+std::string suite_notation(const std::filesystem::path& path);
+
+/// True when the path names a directory that exists and can be asked for.
+bool is_directory(std::string_view suite_path);
+
+/// All bytes of a file.
+/// @return nothing if it cannot be opened or read, or is anything but a regular file
+std::optional<std::string> read_file(std::string_view suite_path);
+
+/// First line of a text file, without its line end, as UTF-8; empty for an empty file. A line of more than 64
+/// KiB is cut there.
+/// @return nothing if the file cannot be opened or read
+std::optional<std::string> read_first_line(std::string_view suite_path);
+
+/// A text line as the program's files hold it: Windows-1252, CR LF at its end. Line ends inside become "?".
+std::string file_line(std::string_view utf8);
+
+/// Gives the file another name in the same directory; an existing file of that name is replaced.
+/// @return false if the system refuses
+bool rename_file(const std::filesystem::path& from, const std::filesystem::path& to);
+
+/// Writes a file anew and puts it in place in one step: everything goes into a temporary file beside it,
+/// which takes its name when it is complete. Whatever happens before, the old file stays as it was. A file
+/// that its owner made read-only is not replaced.
+class FileReplacement {
+  public:
+    /// Creates the temporary file. After a failure good() is false and reason() says why.
+    explicit FileReplacement(std::string_view suite_path);
+    /// Without a commit() before, drops what was written.
+    ~FileReplacement();
+    FileReplacement(const FileReplacement&) = delete;
+    FileReplacement& operator=(const FileReplacement&) = delete;
+
+    [[nodiscard]] bool good() const { return m_reason.empty(); }
+    /// Why the file could not be written, in Italian; empty while all is well.
+    [[nodiscard]] const std::string& reason() const { return m_reason; }
+
+    void write(std::string_view bytes);
+
+    /// Completes the temporary file, so that only the change of names is left to do.
+    /// @return good()
+    bool complete();
+
+    /// Puts the file in place, after complete() if that was not called.
+    /// @return good()
+    bool commit();
+
+    /// The file that is replaced, as found on disk.
+    [[nodiscard]] const std::filesystem::path& target() const { return m_target; }
+
+  private:
+    int open();
+    void fail(int error_number);
+    void drop();
+
+    std::filesystem::path m_target;
+    std::filesystem::path m_temporary;
+    std::FILE* m_file = nullptr;
+    std::string m_reason;
+};
+
+}  // namespace coltre

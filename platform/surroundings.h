@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+namespace coltre {
+
+/// The directory that holds the program, in the suite's notation, without a separator at its end.
+/// @param invoked_as  how the program was called (argv[0]); used where the system does not tell
+std::string own_directory(const char* invoked_as);
+
+/// The decimal separator of the user's locale, for the strict number reading; "." where it cannot be told.
+char user_decimal_separator();
+
+}  // namespace coltre

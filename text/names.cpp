@@ -1,0 +1,82 @@
+#include "text/names.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <numeric>
+#include <utility>
+
+#include "text/characters.h"
+
+namespace coltre {
+
+namespace {
+
+struct Accented {
+    std::string_view letter;
+    std::string_view plain;
+};
+
+// Lower-case accented letters of the code page, and the apostrophes that stand for an accent.
+constexpr std::array<Accented, 32> accented_letters{{
+    {"à", "a"}, {"á", "a"}, {"â", "a"}, {"ã", "a"}, {"ä", "a"}, {"å", "a"},  {"æ", "ae"}, {"ç", "c"},
+    {"è", "e"}, {"é", "e"}, {"ê", "e"}, {"ë", "e"}, {"ì", "i"}, {"í", "i"},  {"î", "i"},  {"ï", "i"},
+    {"ñ", "n"}, {"ò", "o"}, {"ó", "o"}, {"ô", "o"}, {"õ", "o"}, {"ö", "o"},  {"ø", "o"},  {"ù", "u"},
+    {"ú", "u"}, {"û", "u"}, {"ü", "u"}, {"ý", "y"}, {"ÿ", "y"}, {"ß", "ss"}, {"’", ""},   {"‘", ""},
+}};
+
+/// Number of letters to insert, drop or change to turn one text into the other (Levenshtein).
+std::size_t edit_distance(std::string_view a, std::string_view b) {
+    std::vector<std::size_t> row(b.size() + 1);
+    std::iota(row.begin(), row.end(), std::size_t{0});
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        std::size_t diagonal = row[0];
+        row[0] = i + 1;
+        for (std::size_t j = 0; j < b.size(); ++j) {
+            const std::size_t change = diagonal + (a[i] == b[j] ? 0 : 1);
+            diagonal = row[j + 1];
+            row[j + 1] = std::min({row[j] + 1, row[j + 1] + 1, change});
+        }
+    }
+    return row.back();
+}
+
+}  // namespace
+
+std::string fold_name(std::string_view name) {
+    const std::string lower = lower_case(name);
+    std::string folded;
+    folded.reserve(lower.size());
+    for (std::string_view rest = lower; !rest.empty();) {
+        const std::string_view letter = first_character(rest);
+        rest.remove_prefix(letter.size());
+        if (letter == " " || letter == "'" || letter == "`") continue;
+        const auto accented = std::ranges::find(accented_letters, letter, &Accented::letter);
+        folded += letter.size() > 1 && accented != accented_letters.end() ? accented->plain : letter;
+    }
+    return folded;
+}
+
+std::vector<std::string> nearest_names(std::string_view typed, std::span<const std::string> names,
+                                       std::size_t most) {
+    // Longer than any name of a place: more letters would only cost time.
+    constexpr std::size_t longest = 64;
+    const std::string sought = fold_name(typed.substr(0, bytes_of_characters(typed, longest)));
+
+    std::vector<std::pair<std::size_t, std::size_t>> ranked;  // distance, place in the list
+    ranked.reserve(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const std::string folded = fold_name(names[i]);
+        const bool same_start = !sought.empty() && folded.starts_with(sought);
+        ranked.emplace_back(same_start ? 0 : edit_distance(sought, folded), i);
+    }
+    const std::size_t count = std::min(most, ranked.size());
+    std::partial_sort(ranked.begin(), ranked.begin() + static_cast<std::ptrdiff_t>(count), ranked.end());
+
+    std::vector<std::string> nearest;
+    for (std::size_t i = 0; i < count; ++i)
+        nearest.push_back(names[ranked[i].second]);
+    return nearest;
+}
+
+}  // namespace coltre
