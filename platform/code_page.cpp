@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstdint>
+
+#include "text/characters.h"
 
 namespace coltre {
 
@@ -14,6 +15,8 @@ constexpr std::array<char32_t, 32> characters_80_to_9f{
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+constexpr char32_t replacement_character = 0xFFFD;
 
 bool is_ascii(std::string_view text) {
     return std::ranges::none_of(text, [](char c) { return (static_cast<unsigned char>(c) & 0x80U) != 0; });
@@ -32,33 +35,16 @@ void append_utf8(std::string& text, char32_t character) {
     }
 }
 
-/// Takes one character from the front of the text; a byte that starts no valid sequence is taken alone.
+/// Takes one character from the front of the text; a byte that is no UTF-8 is taken alone.
 char32_t take_character(std::string_view& utf8) {
-    constexpr char32_t replacement = 0xFFFD;
-    const auto lead = static_cast<unsigned char>(utf8.front());
-    std::size_t length = 1;
-    char32_t character = replacement;
-    if (lead < 0x80) {
-        character = lead;
-    } else if (lead >= 0xC2 && lead < 0xE0) {
-        length = 2;
-        character = lead & 0x1FU;
-    } else if (lead >= 0xE0 && lead < 0xF0) {
-        length = 3;
-        character = lead & 0x0FU;
-    } else if (lead >= 0xF0 && lead < 0xF5) {
-        length = 4;
-        character = lead & 0x07U;
-    }
-    for (std::size_t i = 1; i < length; ++i) {
-        const auto byte = i < utf8.size() ? static_cast<unsigned char>(utf8[i]) : std::uint8_t{0};
-        if ((byte & 0xC0U) != 0x80U) {
-            utf8.remove_prefix(1);
-            return replacement;
-        }
-        character = (character << 6U) | (byte & 0x3FU);
-    }
-    utf8.remove_prefix(length);
+    const std::string_view bytes = first_character(utf8);
+    utf8.remove_prefix(bytes.size());
+    const auto lead = static_cast<unsigned char>(bytes[0]);
+    if (bytes.size() == 1) return lead < 0x80 ? lead : replacement_character;
+    // The lead byte of n bytes starts with n ones and a zero.
+    char32_t character = lead & (0x7FU >> bytes.size());
+    for (const char byte : bytes.substr(1))
+        character = (character << 6U) | (static_cast<unsigned char>(byte) & 0x3FU);
     return character;
 }
 

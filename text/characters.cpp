@@ -10,6 +10,31 @@ bool is_continuation(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
+/// Bytes that the lead byte announces; 1 for a byte that leads nothing.
+std::size_t announced_length(unsigned char lead) {
+    if (lead >= 0xC2 && lead < 0xE0) return 2;
+    if (lead >= 0xE0 && lead < 0xF0) return 3;
+    if (lead >= 0xF0 && lead < 0xF5) return 4;
+    return 1;
+}
+
+/// Whether the two bytes can start a character: no longer form than needed, no surrogate, none beyond
+/// U+10FFFF.
+bool is_shortest_form(unsigned char lead, unsigned char second) {
+    switch (lead) {
+        case 0xE0:
+            return second >= 0xA0;
+        case 0xED:
+            return second < 0xA0;
+        case 0xF0:
+            return second >= 0x90;
+        case 0xF4:
+            return second < 0x90;
+        default:
+            return true;
+    }
+}
+
 }  // namespace
 
 std::string_view trim_blanks(std::string_view text) {
@@ -19,23 +44,29 @@ std::string_view trim_blanks(std::string_view text) {
 }
 
 std::size_t character_count(std::string_view text) {
-    return static_cast<std::size_t>(
-        std::ranges::count_if(text, [](char byte) { return !is_continuation(byte); }));
+    std::size_t characters = 0;
+    for (; !text.empty(); ++characters)
+        text.remove_prefix(first_character(text).size());
+    return characters;
 }
 
 std::size_t bytes_of_characters(std::string_view text, std::size_t characters) {
-    std::size_t position = 0;
-    while (position < text.size() && characters > 0) {
-        ++position;
-        while (position < text.size() && is_continuation(text[position]))
-            ++position;
-        --characters;
-    }
-    return position;
+    std::string_view rest = text;
+    for (; !rest.empty() && characters > 0; --characters)
+        rest.remove_prefix(first_character(rest).size());
+    return text.size() - rest.size();
 }
 
 std::string_view first_character(std::string_view text) {
-    return text.substr(0, bytes_of_characters(text, 1));
+    if (text.empty()) return text;
+    const auto lead = static_cast<unsigned char>(text[0]);
+    const std::size_t length = announced_length(lead);
+    const std::string_view character = text.substr(0, length);
+    const bool whole =
+        character.size() == length && std::ranges::all_of(character.substr(1), is_continuation);
+    if (length > 1 && (!whole || !is_shortest_form(lead, static_cast<unsigned char>(text[1]))))
+        return text.substr(0, 1);
+    return character;
 }
 
 std::string lower_case(std::string_view text) {

@@ -10,13 +10,13 @@ namespace coltre {
 /// The text without the blanks at both ends. Blanks are spaces (U+0020) alone: a tab is no blank.
 std::string_view trim_blanks(std::string_view text);
 
-/// Number of characters (code points) of a UTF-8 text; a stray byte counts as one character.
+/// Number of characters (code points) of a UTF-8 text; a byte that is no UTF-8 counts as one character.
 std::size_t character_count(std::string_view text);
 
 /// Bytes that the first `characters` characters of the text take; the whole text if it has fewer.
 std::size_t bytes_of_characters(std::string_view text, std::size_t characters);
 
-/// The character that starts at the front of the text; empty for an empty text.
+/// The character at the front of the text, a byte alone where it is no UTF-8; empty for an empty text.
 std::string_view first_character(std::string_view text);
 
 /// The text in lower case: ASCII letters and the accented letters of Latin-1 (À to Þ).
