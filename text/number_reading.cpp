@@ -100,11 +100,12 @@ StrictNumber read_strictly(std::string_view text, char decimal_separator) {
 }
 
 bool read_whole_number(std::string_view text, int& value) {
-    if (text.size() > 10 || text.empty()) return false;
+    const bool negative = text.starts_with('-');
+    if (negative || text.starts_with('+')) text.remove_prefix(1);
+    if (text.empty() || text.size() > 9 || skip_digits(text, 0) != text.size()) return false;
     int read = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), read);
-    if (error != std::errc{} || end != text.data() + text.size()) return false;
-    value = read;
+    std::from_chars(text.data(), text.data() + text.size(), read);
+    value = negative ? -read : read;
     return true;
 }
 
