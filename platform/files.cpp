@@ -70,15 +70,17 @@ std::string system_reason(int error_number) {
         case ENAMETOOLONG:
             return "il nome è troppo lungo";
         case ELOOP:
-            return "i collegamenti formano un anello";
+            return "il collegamento non porta a un file";
         default:
             return "errore di sistema " + std::to_string(error_number);
     }
 }
 
-bool is_writable(const fs::path& path) {
+bool is_writable(const fs::path& path, const fs::file_status& status) {
+    // Also where permissions bind nobody: the administrator's account, some network file systems.
+    if ((status.permissions() & fs::perms::owner_write) == fs::perms::none) return false;
 #ifdef _WIN32
-    return (fs::status(path).permissions() & fs::perms::owner_write) != fs::perms::none;
+    return true;
 #else
     return ::access(path.c_str(), W_OK) == 0;
 #endif
@@ -185,7 +187,7 @@ int FileReplacement::open() {
     const fs::file_status status = fs::status(m_target, error);
     if (fs::exists(status)) {
         if (!fs::is_regular_file(status)) return EISDIR;
-        if (!is_writable(m_target)) return EACCES;
+        if (!is_writable(m_target, status)) return EACCES;
         // A link stays a link: what it points to is replaced.
         const fs::path linked = fs::canonical(m_target, error);
         if (!error) m_target = linked;
