@@ -1,5 +1,7 @@
 #include "text/VarieBanali_cond.h"
 
+#include <utility>
+
 #include "text/characters.h"
 
 namespace coltre {
@@ -27,17 +29,19 @@ LastReplacement replace_all(std::string& text, std::string_view find, std::strin
     const std::string sought = ignore_case ? lower_case(find) : std::string(find);
 
     std::string replaced;
-    LastReplacement last;
+    std::size_t last_start = 0;  // bytes of `replaced` before and up to the end of the last replacement
+    std::size_t last_end = 0;
     std::size_t copied = 0;
     for (std::size_t hit = searched.find(sought); hit != std::string::npos;
          hit = searched.find(sought, copied)) {
         replaced.append(text, copied, hit - copied);
-        last.position = position_of(replaced, replaced.size());
+        last_start = replaced.size();
         replaced += replacement;
-        last.end = position_of(replaced, replaced.size()) - 1;
+        last_end = replaced.size();
         copied = hit + find.size();
     }
-    if (last.position == 0) return last;
+    if (copied == 0) return {};
+    const LastReplacement last{position_of(replaced, last_start), position_of(replaced, last_end) - 1};
     replaced.append(text, copied);
     text = std::move(replaced);
     return last;
