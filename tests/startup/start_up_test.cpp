@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <filesystem>
 #include <string>
 
 #include "tests/startup/suite_tree.h"
