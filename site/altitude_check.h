@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// What in an altitude file would make a reader fail or take something else than was meant.
+//
+// Faults are: a province without its header, without municipalities, or not closed by an empty line; in the
+// block that counts for a province (the first of its name) a line without a blank, with a comma, a tab, or
+// more words than two, and an altitude that is no number or not just the last four characters; a sound line
+// of a new municipality behind the empty line that closed the block; a file in UTF-8.
+//
+// No faults are: text before the first header, later blocks of a province, blocks under another name, a
+// repeated copy of a block without a header. No reader ever gets there. Nor is a name that occurs twice: the
+// first counts.
+namespace coltre {
+
+/// A fault of an altitude file. The texts live as long as the program.
+struct AltitudeFault {
+    std::size_t line = 0;       ///< 1 for the first; 0 where something is missing from the whole file
+    std::string_view province;  ///< empty for a fault of the whole file
+    std::string_view reason;    ///< in Italian, as part of a sentence
+};
+
+/// The faults of an altitude file, those with a line first, in the order of the lines.
+/// The built-in table has two: the line "33543" in Vicenza, and Oristano's block that nothing closes.
+/// @param file  its bytes, any bytes at all
+std::vector<AltitudeFault> check_altitudes(std::string_view file);
+
+/// The file without its faults: check_altitudes() finds none in it. All other lines stay byte for byte. A
+/// faulty line is brought into shape if its altitude can be told, else it takes the built-in altitude of its
+/// municipality, else it is dropped. A province without header or municipalities gets its built-in block.
+std::string repair_altitudes(std::string_view file);
+
+/// What became of the check or the repair of altitudini.txt.
+struct AltitudeFileCheck {
+    std::vector<AltitudeFault> faults;  ///< found; after a repair they are gone
+    std::string failure;                ///< why the file could not be read or replaced, in Italian; or empty
+};
+
+/// Checks altitudini.txt.
+/// @param ProgramDirectory  in the suite's notation
+AltitudeFileCheck check_altitude_file(std::string_view ProgramDirectory);
+
+/// Repairs altitudini.txt in one step; the file as it was is kept, see replace_altitude_file(). A file
+/// without faults is left alone. Where there is no file yet, the repaired built-in table is put there.
+AltitudeFileCheck repair_altitude_file(std::string_view ProgramDirectory);
+
+}  // namespace coltre

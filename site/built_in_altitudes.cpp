@@ -1,0 +1,18 @@
+#include "site/built_in_altitudes.h"
+
+#include "platform/code_page.h"
+
+namespace coltre {
+
+std::string built_in_altitude_file() {
+    const std::string lines = to_code_page(built_in_altitudes());
+    std::string bytes;
+    bytes.reserve(lines.size() + lines.size() / 16);
+    for (const char c : lines) {
+        if (c == '\n') bytes += '\r';
+        bytes += c;
+    }
+    return bytes;
+}
+
+}  // namespace coltre
