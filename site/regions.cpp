@@ -109,6 +109,10 @@ void FillProvinces(int region_code, std::vector<std::string>& Provinciainput) {
         Provinciainput.emplace_back(province);
 }
 
+std::string_view zone_caption(SnowZone zone) {
+    return zone_table[static_cast<std::size_t>(zone)].caption;
+}
+
 ProvinceZone ZoneOfProvince(std::string_view province) {
     const std::string wanted = lower_case(province);
     std::size_t zone = 0;

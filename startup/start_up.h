@@ -11,9 +11,6 @@
 // The start of the program as far as it needs no window.
 namespace coltre {
 
-/// Items of `udmcombo` in their order: UnitSystem code minus 1. "Kgf" is capitalised in the second alone.
-inline constexpr std::array<std::string_view, 3> unit_items{"kN , m", "Kgf , m", "kgf , cm"};
-
 /// Items of `ComboEsp` in their order: the exposure coefficient CE.
 inline constexpr std::array<std::string_view, 3> exposure_items{"0.9", "1.0", "1.1"};
 
@@ -21,7 +18,7 @@ inline constexpr std::array<std::string_view, 3> exposure_items{"0.9", "1.0", "1
 struct StartUp {
     bool goes_on = false;                ///< false: the program has ended, and nothing else here counts
     std::optional<std::string> caption;  ///< of the main window; nothing: it stays as designed
-    int unit_item = 0;                   ///< of `udmcombo`
+    int unit_item = 0;                   ///< of `udmcombo` (unit_items)
     int exposure_item = 1;               ///< of `ComboEsp`: "1.0"
     int region_item = 15;                ///< of `regione`: "Piemonte"
 };

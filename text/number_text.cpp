@@ -120,6 +120,14 @@ std::string shortest_number_text(double value) {
     return {buffer.data(), end};
 }
 
+std::string fixed_number_text(double value, int decimals) {
+    std::array<char, 512> buffer;  // up to 309 digits before the point
+    const auto [end, error] =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), round_half_even(value, decimals),
+                      std::chars_format::fixed, decimals);
+    return {buffer.data(), end};
+}
+
 double round_half_even(double value, int decimals) {
     // From 2^52 on a double has no decimals.
     if (std::fabs(value) >= 4503599627370496.0) return value;

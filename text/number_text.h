@@ -21,6 +21,12 @@ std::string display_number_text(double value);
 /// @param value  finite
 std::string shortest_number_text(double value);
 
+/// The value with exactly `decimals` decimals, an exact tie going to the even neighbour: 1.2 with 4 ->
+/// "1.2000".
+/// @param value     finite
+/// @param decimals  0 to 99
+std::string fixed_number_text(double value, int decimals);
+
 /// The value rounded to `decimals` decimals; an exact tie goes to the even neighbour.
 /// @param value     finite
 /// @param decimals  0 to 99

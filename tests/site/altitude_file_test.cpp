@@ -7,7 +7,6 @@
 
 #include "platform/files.h"
 #include "site/built_in_altitudes.h"
-#include "site/site_choice.h"
 #include "tests/site/altitude_directory.h"
 #include "tests/support/fake_doors.h"
 
@@ -160,20 +159,6 @@ TEST_F(AltitudeFile, EndsOnceWhenItCannotBeWritten) {
     std::filesystem::create_directory(path() / "altitudini.txt");
     EXPECT_FALSE(read("Torino", "Torino"));
     expect_ended_with(write_error);
-}
-
-TEST_F(AltitudeFile, ChoiceOfASite) {
-    Program program;
-    program.directories.ProgramDirectory = text();
-    const ProvinceChoice enna = choose_province(program, "Enna", doors);
-    EXPECT_EQ(enna.zone_caption, "(Zona I Mediterranea)");
-    EXPECT_EQ(program.cells.zone, 1);
-    ASSERT_TRUE(enna.municipalities);
-    EXPECT_EQ(enna.municipalities->altitude, "931");
-    EXPECT_EQ(choose_municipality(program, "Ferrara", "Comacchio", doors), "0");
-    // The zone is set before the municipalities are looked for.
-    EXPECT_FALSE(choose_province(program, "Oristano", doors).municipalities);
-    EXPECT_EQ(program.cells.zone, 3);
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ TEST_F(StartOfProgram, StandAloneLivesInTheProgramsOwnDirectory) {
     const StartUp start = this->start("", "  d:\\programmi\\neve ");
     EXPECT_TRUE(start.goes_on);
     EXPECT_EQ(start.caption, std::nullopt);
-    EXPECT_EQ(unit_items.at(static_cast<std::size_t>(start.unit_item)), "kN , m");
+    EXPECT_EQ(start.unit_item, 0);
     EXPECT_EQ(exposure_items.at(static_cast<std::size_t>(start.exposure_item)), "1.0");
     EXPECT_EQ(start.region_item, 15);
     EXPECT_TRUE(program.StandaloneFlag);
@@ -64,7 +64,7 @@ TEST_F(StartOfProgram, SuiteShowsTheJobAndStartsOnKgfAndCm) {
     const StartUp start = this->start(suite.command_line(), "d:\\x");
     EXPECT_TRUE(start.goes_on);
     EXPECT_EQ(start.caption, "Coltre - ARCOVIA 15 - " + suite.jobs() + "\\job001");
-    EXPECT_EQ(unit_items.at(static_cast<std::size_t>(start.unit_item)), "kgf , cm");
+    EXPECT_EQ(start.unit_item, 2);
     EXPECT_EQ(start.exposure_item, 1);
     EXPECT_EQ(start.region_item, 15);
     EXPECT_EQ(program.unit_setting, "3");

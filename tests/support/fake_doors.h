@@ -6,16 +6,15 @@
 
 namespace coltre {
 
-/// Doors that record what goes through them; end() returns.
+/// A user who reads every message box, and a program end that ends nothing.
 class FakeDoors : public MessageBoxes, public ProgramEnd {
   public:
+    void show(const Message& message) override { shown.push_back(message); }
+    void end() override { ++ended; }
+    Doors doors() { return {*this, *this}; }
+
     std::vector<Message> shown;
     int ended = 0;
-
-    void show(const Message& m) override { shown.push_back(m); }
-    void end() override { ++ended; }
-
-    Doors doors() { return {*this, *this}; }
 };
 
 }  // namespace coltre

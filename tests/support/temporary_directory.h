@@ -10,15 +10,12 @@
 
 namespace coltre {
 
-/// A new empty directory, removed at the end with all that is in it.
+/// A directory of a test's own, removed with all that is in it.
 class TemporaryDirectory {
   public:
     TemporaryDirectory() {
-        static int count = 0;
-        const std::string name = "coltre-" + std::to_string(::getpid()) + "-";
-        do {
-            m_path = std::filesystem::temp_directory_path() / (name + std::to_string(++count));
-        } while (!std::filesystem::create_directory(m_path));
+        std::string name = (std::filesystem::temp_directory_path() / "coltre-XXXXXX").string();
+        m_path = ::mkdtemp(name.data());
     }
     ~TemporaryDirectory() {
         std::error_code error;
@@ -28,7 +25,7 @@ class TemporaryDirectory {
     TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;
 
     [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
-    /// The path in the suite's notation.
+    /// The directory in the suite's notation.
     [[nodiscard]] std::string text() const { return suite_notation(m_path); }
 
   private:

@@ -1,0 +1,49 @@
+#include "calculate/return_period.h"
+
+#include "calculate/click.h"
+#include "engine/ground_load.h"
+#include "text/characters.h"
+#include "text/number_text.h"
+
+namespace coltre {
+
+Message return_period_question() {
+    return {Icon::information, std::string(program_title),
+            "<Eventuali riduzioni del carico di riferimento qsk potranno essere autorizzate\r"
+            "dal Servizio Tecnico Centrale, sentito il Consiglio Superiore dei LL.PP.>\r"
+            "(Circ. 04/07/1996)\r"
+            "Modificare il Periodo di Ritorno?"};
+}
+
+ReturnPeriodOutcome confirm_return_period(std::string_view InputPerRIT, ProgramCells& cells,
+                                          MessageBoxes& message_boxes) {
+    FieldReader reader;
+    const double Tr = reader.lenient("periodo di ritorno", InputPerRIT);
+    if (reader.stop()) {
+        tell_stop(*reader.stop(), message_boxes);
+        return {std::nullopt, reader.stop()->fault};
+    }
+    cells.return_period = Tr;
+    if (Tr <= 0) {
+        message_boxes.show({Icon::error, std::string(program_title),
+                            "Il Periodo di Ritorno deve essere un numero maggiore di 0."});
+        return {};
+    }
+    // Up to 1 year the factor's logarithm is not defined.
+    if (Tr <= 1) {
+        message_boxes.show({Icon::error, std::string(program_title),
+                            "Il Periodo di Ritorno deve essere un numero maggiore di 1."});
+        return {};
+    }
+    const Checked factor = return_period_factor(Tr);
+    if (factor.fault() != Fault::none) {
+        tell_stop(
+            {factor.fault(), "Il Periodo di Ritorno è troppo lungo: il coefficiente non si può calcolare."},
+            message_boxes);
+        return {};
+    }
+    cells.return_period_factor = factor.value();
+    return {std::string(trim_blanks(display_number_text(Tr))), Fault::none};
+}
+
+}  // namespace coltre

@@ -1,0 +1,63 @@
+#include "cli/altitude_commands.h"
+
+#include <string>
+
+#include "cli/command.h"
+#include "platform/files.h"
+#include "site/altitude_check.h"
+#include "site/altitude_replacement.h"
+#include "site/built_in_altitudes.h"
+
+namespace coltre::cli {
+
+namespace {
+
+/// The file as the system writes its path.
+std::string shown_path(std::string_view directory) {
+    return find_path(altitude_file_name(suite_notation(directory))).string();
+}
+
+int complain(std::ostream& err, std::string_view what, std::string_view directory, std::string_view reason) {
+    err << "Impossibile " << what << " il file " << shown_path(directory) << ": " << reason << ".\n";
+    return failed;
+}
+
+void list(std::ostream& out, const std::vector<AltitudeFault>& faults) {
+    for (const AltitudeFault& fault : faults) {
+        if (fault.line > 0) out << "riga " << fault.line << ": ";
+        if (!fault.province.empty()) out << fault.province << ": ";
+        out << fault.reason << '\n';
+    }
+}
+
+}  // namespace
+
+int write_command(std::string_view directory, std::ostream& out, std::ostream& err) {
+    const std::string failure = replace_altitude_file(suite_notation(directory), built_in_altitude_file());
+    if (!failure.empty()) return complain(err, "scrivere", directory, failure);
+    out << "Scritto il file " << shown_path(directory) << ".\n";
+    return all_well;
+}
+
+int check_command(std::string_view directory, std::ostream& out, std::ostream& err) {
+    const AltitudeFileCheck check = check_altitude_file(suite_notation(directory));
+    if (!check.failure.empty()) return complain(err, "leggere", directory, check.failure);
+    list(out, check.faults);
+    if (!check.faults.empty()) return failed;
+    out << "Nessun difetto nel file " << shown_path(directory) << ".\n";
+    return all_well;
+}
+
+int repair_command(std::string_view directory, std::ostream& out, std::ostream& err) {
+    const AltitudeFileCheck check = repair_altitude_file(suite_notation(directory));
+    if (!check.failure.empty()) return complain(err, "riparare", directory, check.failure);
+    if (check.faults.empty()) {
+        out << "Nessun difetto nel file " << shown_path(directory) << ".\n";
+        return all_well;
+    }
+    list(out, check.faults);
+    out << "Riparato il file " << shown_path(directory) << "; quello di prima resta come altitudini.bak.\n";
+    return all_well;
+}
+
+}  // namespace coltre::cli

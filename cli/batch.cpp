@@ -1,0 +1,81 @@
+#include "cli/batch.h"
+
+#include <limits>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/json_request.h"
+
+namespace coltre::cli {
+
+namespace {
+
+/// Lines of a stream, in memory that does not grow with the length of a line.
+class LineReader {
+  public:
+    explicit LineReader(std::istream& in) : m_in(in), m_buffer(longest + 2) {}
+
+    /// Reads the next line.
+    /// @return false at the end of the stream
+    bool next() {
+        m_in.getline(m_buffer.data(), static_cast<std::streamsize>(m_buffer.size()));
+        const auto taken = static_cast<std::size_t>(m_in.gcount());
+        m_too_long = m_in.fail() && taken == longest + 1;
+        if (m_too_long) {
+            m_in.clear();
+            m_in.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+        } else if (m_in.fail()) {
+            return false;
+        }
+        // getline counts the line end that it takes away; the last line may have none.
+        m_line = {m_buffer.data(), m_in.eof() || m_too_long ? taken : taken - 1};
+        return true;
+    }
+
+    [[nodiscard]] std::string_view line() const { return m_line; }
+    [[nodiscard]] bool too_long() const { return m_too_long; }
+
+    static constexpr std::size_t longest = 1U << 20U;  // bytes: far beyond any request
+
+  private:
+    std::istream& m_in;
+    std::vector<char> m_buffer;
+    std::string_view m_line;
+    bool m_too_long = false;
+};
+
+Result perform_line(const LineReader& reader, const Surroundings& surroundings) {
+    Result result;
+    if (reader.too_long()) {
+        result.error = "la riga è più lunga di " + std::to_string(LineReader::longest) + " byte";
+        return result;
+    }
+    JsonRequest line = read_json_request(reader.line());
+    if (line.mistake.empty()) {
+        result = perform(line.request, surroundings);
+    } else {
+        result.kind = line.request.kind;
+        result.error = std::move(line.mistake);
+    }
+    result.id = std::move(line.id);
+    return result;
+}
+
+}  // namespace
+
+BatchEnd run_batch(std::istream& in, std::ostream& out, const Surroundings& surroundings) {
+    bool some_failed = false;
+    LineReader reader(in);
+    while (out && reader.next()) {
+        const Result result = perform_line(reader, surroundings);
+        some_failed = some_failed || !result.error.empty();
+        out << to_json(result) << '\n';
+        if (in.rdbuf()->in_avail() <= 0) out.flush();
+    }
+    out.flush();
+    if (!out) return BatchEnd::output_failed;
+    return some_failed ? BatchEnd::some_failed : BatchEnd::all_well;
+}
+
+}  // namespace coltre::cli

@@ -1,0 +1,192 @@
+#include "cli/command.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <ranges>
+#include <vector>
+
+#include "cli/altitude_commands.h"
+#include "cli/batch.h"
+#include "cli/help.h"
+
+namespace coltre::cli {
+
+namespace {
+
+/// The streams of a run.
+struct Streams {
+    std::istream& in;
+    std::ostream& out;
+    std::ostream& err;
+};
+
+int complain(std::ostream& err, std::string_view what) {
+    err << "coltre-calcolo: " << what << "\nPer l'aiuto: coltre-calcolo --help\n";
+    return bad_usage;
+}
+
+int check_output(std::ostream& out, std::ostream& err, int status) {
+    out.flush();
+    if (out) return status;
+    err << "coltre-calcolo: impossibile scrivere i risultati\n";
+    return failed;
+}
+
+/// A message box as lines of text.
+void print_message(std::ostream& err, const Message& message) {
+    std::string text = message.text;
+    std::ranges::replace(text, '\r', '\n');
+    err << message.title << ": " << text << '\n';
+}
+
+int run_calculation(const Request& request, bool json, const Surroundings& surroundings,
+                    const Streams& streams) {
+    const Result result = perform(request, surroundings);
+    if (json) {
+        streams.out << to_json(result) << '\n';
+    } else {
+        for (const Message& message : result.messages)
+            print_message(streams.err, message);
+        if (!result.wrong_request) streams.out << to_table(result);
+    }
+    // What a message box has said already is not said twice.
+    const bool told =
+        std::ranges::find(result.messages, result.error, &Message::text) != result.messages.end();
+    if (!result.error.empty() && !json && !told) {
+        if (result.wrong_request) return complain(streams.err, result.error);
+        streams.err << "Errore: " << result.error << '\n';
+    }
+    if (result.wrong_request) return check_output(streams.out, streams.err, bad_usage);
+    return check_output(streams.out, streams.err, result.error.empty() ? all_well : failed);
+}
+
+int run_batch_command(const std::string& file, const Surroundings& surroundings, const Streams& streams) {
+    const auto finish = [&](std::istream& in) {
+        const BatchEnd end = run_batch(in, streams.out, surroundings);
+        return check_output(streams.out, streams.err, end == BatchEnd::all_well ? all_well : failed);
+    };
+    if (file == "-") return finish(streams.in);
+
+    std::ifstream in(file, std::ios::binary);
+    std::error_code error;
+    if (!in || std::filesystem::is_directory(file, error)) {
+        return complain(streams.err, "impossibile leggere il file " + in_quotes(file));
+    }
+    return finish(in);
+}
+
+/// What the arguments ask for: the actions of the subcommands put themselves here.
+struct Choice {
+    Request request;
+    bool json = false;
+    std::string batch_file = "-";
+    std::string altitude_directory;
+    std::function<std::string()> help = general_help;
+    std::function<int()> action;
+};
+
+/// Every option takes one text, whatever it looks like; a repeated one is told by name afterwards.
+void add_options(CLI::App& calculation, Kind kind, Choice& choice) {
+    const auto add = [&](Key key) {
+        calculation
+            .add_option_function<std::vector<std::string>>(
+                "--" + std::string(info(key).name),
+                [&choice, key](const std::vector<std::string>& values) {
+                    choice.request.value(key) = values.front();
+                })
+            ->expected(1)
+            ->take_all();
+    };
+    std::ranges::for_each(info(kind).entries, add);
+    std::ranges::for_each(common_keys(), add);
+    calculation.add_flag("--json", choice.json);
+}
+
+CLI::App& add_subcommand(CLI::App& parent, std::string_view name, Choice& choice,
+                         std::function<std::string()> help) {
+    CLI::App& command = *parent.add_subcommand(std::string(name));
+    command.set_help_flag("-h,--help");
+    command.allow_extras();
+    command.parse_complete_callback([] {});
+    command.preparse_callback([&choice, help = std::move(help)](std::size_t) { choice.help = help; });
+    return command;
+}
+
+/// An Italian sentence for arguments that cannot be taken apart.
+std::string usage_mistake(const CLI::ParseError& error) {
+    const std::string text = error.what();
+    const std::string option = text.substr(0, text.find(':'));
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return "manca il valore di " + option;
+    return "argomenti errati: " + text;
+}
+
+}  // namespace
+
+int run(std::span<const std::string> arguments, const Surroundings& surroundings, std::istream& in,
+        std::ostream& out, std::ostream& err) {
+    const Streams streams{in, out, err};
+    Choice choice;
+    CLI::App app;
+    app.set_help_flag("-h,--help");
+    app.set_version_flag("--version", "coltre-calcolo " COLTRE_VERSION);
+    app.allow_extras();
+
+    for (const KindInfo& kind : kinds()) {
+        CLI::App& calculation =
+            add_subcommand(app, kind.name, choice, [&kind] { return calculation_help(kind.kind); });
+        add_options(calculation, kind.kind, choice);
+        calculation.callback([&choice, &surroundings, &streams, &kind] {
+            choice.request.kind = kind.kind;
+            choice.action = [&] {
+                return run_calculation(choice.request, choice.json, surroundings, streams);
+            };
+        });
+    }
+
+    CLI::App& batch = add_subcommand(app, "lotto", choice, batch_help);
+    batch.add_option("file", choice.batch_file);
+    batch.callback(
+        [&] { choice.action = [&] { return run_batch_command(choice.batch_file, surroundings, streams); }; });
+
+    CLI::App& altitudes = add_subcommand(app, "altitudini", choice, altitudes_help);
+    choice.altitude_directory = surroundings.own_directory;
+    const auto add_altitude_command = [&](std::string_view name, auto command) {
+        CLI::App& action = add_subcommand(altitudes, name, choice, altitudes_help);
+        action.add_option("dir", choice.altitude_directory);
+        action.callback([&choice, &streams, command] {
+            choice.action = [&choice, &streams, command] {
+                return check_output(streams.out, streams.err,
+                                    command(choice.altitude_directory, streams.out, streams.err));
+            };
+        });
+    };
+    add_altitude_command("scrivi", write_command);
+    add_altitude_command("verifica", check_command);
+    add_altitude_command("ripara", repair_command);
+
+    try {
+        // The library takes its arguments from the end of the list.
+        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    } catch (const CLI::CallForHelp&) {
+        out << choice.help();
+        return check_output(out, err, all_well);
+    } catch (const CLI::CallForVersion& version) {
+        out << version.what() << '\n';
+        return check_output(out, err, all_well);
+    } catch (const CLI::ParseError& error) {
+        return complain(err, usage_mistake(error));
+    }
+    if (const auto extras = app.remaining(true); !extras.empty()) {
+        return complain(err, "argomento sconosciuto: " + in_quotes(extras.front()));
+    }
+    if (!choice.action) {
+        return complain(
+            err, altitudes.parsed() ? "manca il comando: scrivi, verifica o ripara" : "manca il calcolo");
+    }
+    return choice.action();
+}
+
+}  // namespace coltre::cli

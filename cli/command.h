@@ -1,0 +1,20 @@
+#pragma once
+
+#include <istream>
+#include <ostream>
+#include <span>
+#include <string>
+
+#include "cli/perform.h"
+
+namespace coltre::cli {
+
+/// Exit statuses of the command.
+enum ExitStatus { all_well = 0, failed = 1, bad_usage = 2 };
+
+/// Runs the command with its arguments, the program's name not among them.
+/// @return the exit status
+int run(std::span<const std::string> arguments, const Surroundings& surroundings, std::istream& in,
+        std::ostream& out, std::ostream& err);
+
+}  // namespace coltre::cli

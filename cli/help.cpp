@@ -1,0 +1,88 @@
+#include "cli/help.h"
+
+#include <algorithm>
+
+#include "text/characters.h"
+
+namespace coltre::cli {
+
+namespace {
+
+void append_row(std::string& help, std::string_view left, std::string_view right) {
+    constexpr std::size_t column = 26;
+    std::string row = "  " + std::string(left);
+    row.append(column - std::min(column, character_count(row)), ' ');
+    help += row + " " + std::string(right) + "\n";
+}
+
+void append_option(std::string& help, Key key) {
+    append_row(help, "--" + std::string(info(key).name) + " " + std::string(info(key).placeholder),
+               info(key).meaning);
+}
+
+}  // namespace
+
+std::string general_help() {
+    std::string help =
+        "Carico neve sulle coperture secondo il D.M. 16 gennaio 1996 e la circolare 4 luglio 1996.\n\n"
+        "Uso: coltre-calcolo CALCOLO OPZIONI\n"
+        "     coltre-calcolo lotto [FILE | -]\n"
+        "     coltre-calcolo altitudini scrivi | verifica | ripara [DIR]\n\n"
+        "Calcoli:\n";
+    for (const KindInfo& kind : kinds())
+        append_row(help, kind.name, kind.meaning);
+    help += "\nAltri comandi:\n";
+    append_row(help, "lotto", "una richiesta JSON per riga, un risultato JSON per riga");
+    append_row(help, "altitudini", "scrive, verifica o ripara il file altitudini.txt");
+    help += "\nOpzioni:\n";
+    append_row(help, "-h, --help", "questo aiuto; dopo un comando, il suo");
+    append_row(help, "--version", "la versione");
+    help += "\nEsempio:\n  coltre-calcolo una-falda " + std::string(info(Kind::una_falda).example) + "\n";
+    return help;
+}
+
+std::string calculation_help(Kind kind) {
+    const KindInfo& calculation = info(kind);
+    std::string help = "coltre-calcolo " + std::string(calculation.name) + ": " +
+                       std::string(calculation.meaning) + "\n\nDati del calcolo (tutti necessari):\n";
+    for (const Key key : calculation.entries)
+        append_option(help, key);
+    help += "\nSito (provincia e comune, oppure zona e altitudine) e opzioni comuni:\n";
+    for (const Key key : common_keys())
+        append_option(help, key);
+    append_row(help, "--json", "un oggetto JSON invece della tabella");
+    append_row(help, "-h, --help", "questo aiuto");
+    help += "\nEsempio:\n  coltre-calcolo " + std::string(calculation.name) + " " +
+            std::string(calculation.example) + "\n";
+    return help;
+}
+
+std::string batch_help() {
+    return "coltre-calcolo lotto [FILE | -]: un lotto di calcoli\n\n"
+           "Legge una richiesta JSON per riga dal FILE (senza, o con -, dallo standard input) e scrive un "
+           "risultato\n"
+           "JSON per riga, nello stesso ordine. Le chiavi di una richiesta sono \"calcolo\", un \"id\" "
+           "facoltativo che\n"
+           "torna nel risultato, e i nomi delle opzioni di quel calcolo. Una riga errata dà un risultato con "
+           "il suo\n"
+           "errore, e il lotto continua.\n\n"
+           "Stato di uscita: 0 tutto bene, 1 qualche richiesta non riuscita, 2 uso errato.\n\n"
+           "Esempio:\n"
+           "  echo '{\"calcolo\": \"una-falda\", \"zona\": 0, \"altitudine\": 239, \"alfa\": 15}' | "
+           "coltre-calcolo "
+           "lotto\n";
+}
+
+std::string altitudes_help() {
+    return "coltre-calcolo altitudini scrivi | verifica | ripara [DIR]: il file altitudini.txt\n\n"
+           "  scrivi      scrive il file dalla tabella del programma; un file diverso resta come "
+           "altitudini.bak\n"
+           "  verifica    elenca le righe in cui la lettura inciampa; stato di uscita 1 se ce ne sono\n"
+           "  ripara      conserva il file come altitudini.bak e ne scrive una copia senza quei difetti;\n"
+           "              le altitudini modificate dall'utente restano\n\n"
+           "Senza DIR vale la cartella del programma.\n\n"
+           "Esempio:\n"
+           "  coltre-calcolo altitudini verifica .\n";
+}
+
+}  // namespace coltre::cli

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+#include "cli/request.h"
+
+// The Italian help of the command.
+namespace coltre::cli {
+
+std::string general_help();
+std::string calculation_help(Kind kind);
+std::string batch_help();
+std::string altitudes_help();
+
+}  // namespace coltre::cli

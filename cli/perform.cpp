@@ -1,0 +1,211 @@
+#include "cli/perform.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "calculate/Calcola.h"
+#include "calculate/Calcola2.h"
+#include "calculate/return_period.h"
+#include "calculate/site_choice.h"
+#include "report/unit_systems.h"
+#include "site/regions.h"
+#include "text/names.h"
+
+namespace coltre::cli {
+
+namespace {
+
+/// Keeps the message boxes that the windows would have shown; a program end ends the request alone.
+class CollectedMessages : public MessageBoxes, public ProgramEnd {
+  public:
+    explicit CollectedMessages(std::vector<Message>& messages) : m_messages(messages) {}
+    void show(const Message& message) override { m_messages.push_back(message); }
+    void end() override {}
+    Doors doors() { return {*this, *this}; }
+
+  private:
+    std::vector<Message>& m_messages;
+};
+
+/// Keeps coefficients and result cells as they are set.
+class ResultCollector : public CalculationObserver {
+  public:
+    explicit ResultCollector(Result& result) : m_result(result) {}
+    void on_cell(const ResultCell& cell, double value) override {
+        // The cut of a drift sets its cells once more.
+        const auto earlier =
+            std::ranges::find(m_result.results, cell.name, &std::pair<std::string_view, double>::first);
+        if (earlier != m_result.results.end()) {
+            earlier->second = value;
+        } else {
+            m_result.results.emplace_back(cell.name, value);
+        }
+    }
+    void on_coefficient(std::string_view label, double mu) override { m_result.mu.emplace_back(label, mu); }
+
+  private:
+    Result& m_result;
+};
+
+/// A name as the table spells it: the one that is typed exactly or, failing that, the only one that differs
+/// in case, accents, apostrophes and blanks alone.
+struct NameSearch {
+    std::string found;
+    std::string mistake;  ///< Italian; empty if the name was found
+};
+
+NameSearch find_name(std::string_view what, std::string_view typed, std::span<const std::string> names) {
+    if (std::ranges::find(names, typed) != names.end()) return {std::string(typed), {}};
+
+    const std::string folded = fold_name(typed);
+    std::vector<std::string> hits;
+    for (const std::string& name : names) {
+        if (fold_name(name) == folded && std::ranges::find(hits, name) == hits.end()) hits.push_back(name);
+    }
+    if (hits.size() == 1) return {hits.front(), {}};
+
+    const auto nearest = hits.empty() ? nearest_names(typed, names, 3) : hits;
+    std::string mistake = std::string(what) + (hits.empty() ? " sconosciut" : " ambigu");
+    mistake += what == "provincia" ? "a" : "o";
+    mistake += ": " + in_quotes(typed);
+    for (std::size_t i = 0; i < nearest.size(); ++i)
+        mistake += (i == 0 ? "; forse " : ", ") + nearest[i];
+    return {{}, mistake};
+}
+
+std::vector<std::string> all_provinces() {
+    std::vector<std::string> provinces;
+    for (int region = 0; region < static_cast<int>(regions().size()); ++region)
+        FillProvinces(region, provinces);
+    return provinces;
+}
+
+/// Chooses province and municipality as the window does.
+/// @return the altitude text; nothing, with the error in the result, where the site cannot be had
+std::optional<std::string> choose_site(const Request& request, Program& program, Doors doors,
+                                       Result& result) {
+    static const std::vector<std::string> provinces = all_provinces();
+    const NameSearch province = find_name("provincia", *request.value(Key::provincia), provinces);
+    if (!province.mistake.empty()) {
+        result.error = province.mistake;
+        return std::nullopt;
+    }
+    result.province = province.found;
+    const ProvinceChoice choice = choose_province(program, province.found, doors);
+    if (!choice.municipalities) {
+        result.municipality = *request.value(Key::comune);
+        result.error = result.messages.back().text;
+        return std::nullopt;
+    }
+    const NameSearch municipality =
+        find_name("comune", *request.value(Key::comune), choice.municipalities->names);
+    result.municipality = municipality.mistake.empty() ? municipality.found : *request.value(Key::comune);
+    if (!municipality.mistake.empty()) {
+        result.error = municipality.mistake;
+        return std::nullopt;
+    }
+    auto altitude =
+        ReadAltitude(program.directories.ProgramDirectory, province.found, municipality.found, doors);
+    if (!altitude) result.error = result.messages.back().text;
+    return altitude;
+}
+
+MainWindowFields main_window_fields(const Request& request, std::string altitude) {
+    MainWindowFields fields;
+    fields.asinput = std::move(altitude);
+    fields.ComboEsp = request.value_or(Key::ce, "1.0");
+    fields.TextCTermico = request.value_or(Key::ct, "1.0");
+    fields.SSTab1 = static_cast<RoofFamily>(*request.kind);
+    fields.inputalfa = request.value_or(Key::alfa, "");
+    fields.inputalfa1 = fields.inputalfa3 = request.value_or(Key::alfa1, "");
+    fields.inputalfa2 = fields.inputalfa4 = request.value_or(Key::alfa2, "");
+    fields.Lcopcil = request.value_or(Key::larghezza, "");
+    fields.hcopcil = request.value_or(Key::altezza, "");
+    fields.udmcombo = request.value_or(Key::unita, unit_items.front());
+    fields.Check1Box = request.value(Key::relazione).has_value();
+    return fields;
+}
+
+SpecialCasesFields special_cases_fields(const Request& request, std::string altitude,
+                                        char decimal_separator) {
+    SpecialCasesFields fields;
+    fields.asinput = std::move(altitude);
+    fields.ComboEsp = request.value_or(Key::ce, "1.0");
+    fields.TextCTermico = request.value_or(Key::ct, "1.0");
+    fields.cartelle =
+        static_cast<SpecialCase>(static_cast<int>(*request.kind) - static_cast<int>(Kind::discontinuita));
+    fields.b1input = request.value_or(Key::b1, "");
+    fields.b2input = request.value_or(Key::b2, "");
+    fields.h2input = fields.h3input = request.value_or(Key::h, "");
+    fields.deltainput = fields.angoloinput = request.value_or(Key::alfa, "");
+    fields.qsinput = request.value_or(Key::qs, "");
+    fields.biinput = request.value_or(Key::b, "");
+    fields.udmcombo = request.value_or(Key::unita, unit_items.front());
+    fields.Check1Box = request.value(Key::relazione).has_value();
+    fields.decimal_separator = decimal_separator;
+    return fields;
+}
+
+/// DIR/name, whatever separator DIR may end with.
+std::string report_path(std::string directory, std::string_view name) {
+    while (directory.size() > 1 && directory.back() == '/')
+        directory.pop_back();
+    if (directory != "/") directory += '/';
+    return directory.append(name);
+}
+
+}  // namespace
+
+Result perform(const Request& request, const Surroundings& surroundings) {
+    Result result;
+    result.kind = request.kind;
+    result.error = find_mistake(request);
+    result.wrong_request = !result.error.empty();
+    if (result.wrong_request) return result;
+
+    CollectedMessages collected(result.messages);
+    Program program;
+    program.directories.ProgramDirectory = surroundings.own_directory;
+    if (const auto& directory = request.value(Key::altitudini)) {
+        program.directories.ProgramDirectory = suite_notation(*directory);
+    }
+    if (const auto& directory = request.value(Key::relazione)) {
+        program.directories.WorkDirectory = suite_notation(*directory);
+    }
+    program.directories.JobName = request.value_or(Key::lavoro, "");
+
+    std::optional<std::string> altitude;
+    if (request.value(Key::provincia)) {
+        altitude = choose_site(request, program, collected.doors(), result);
+        if (!altitude) return result;
+    }
+    if (const auto& given = request.value(Key::altitudine)) altitude = given;
+    if (const auto& given = request.value(Key::zona)) program.cells.zone = *zone_of(*given);
+    result.zone = program.cells.zone;
+
+    if (const auto& Tr = request.value(Key::periodo_ritorno)) {
+        const Fault fault = confirm_return_period(*Tr, program.cells, collected).fault;
+        if (fault != Fault::none) {
+            result.error = fault_text(fault);
+            return result;
+        }
+    }
+
+    ResultCollector collector(result);
+    const bool special = *request.kind >= Kind::discontinuita;
+    const ClickOutcome outcome =
+        special ? Calcola2(special_cases_fields(request, *altitude, surroundings.decimal_separator), program,
+                           collected, collector)
+                : Calcola(main_window_fields(request, *altitude), program, collected, collector);
+    result.altitude = outcome.altitude;
+    result.qsk = outcome.qsk;
+    result.error =
+        outcome.fault != Fault::none ? std::string(fault_text(outcome.fault)) : outcome.file_failure;
+    if (outcome.report_written) {
+        result.report =
+            report_path(*request.value(Key::relazione), special ? "coltrecasipart.txt" : "coltre.txt");
+    }
+    return result;
+}
+
+}  // namespace coltre::cli

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "cli/request.h"
+#include "engine/program_cells.h"
+#include "platform/message_boxes.h"
+
+namespace coltre::cli {
+
+/// What a request gave, as far as it came.
+struct Result {
+    std::string id;  ///< as JSON; empty if the request had none
+    std::optional<Kind> kind;
+    std::string province;  ///< in the spelling of the table; empty when the site was not given by name
+    std::string municipality;
+    std::optional<double> altitude;  ///< m
+    std::optional<SnowZone> zone;
+    std::optional<double> qsk;                            ///< kN/m2
+    std::vector<std::pair<std::string_view, double>> mu;  ///< by the label of the load case
+    std::vector<std::pair<std::string_view, double>>
+        results;                    ///< by the name of the cell, in their order of setting
+    std::string report;             ///< path of the report; empty if none was written
+    std::vector<Message> messages;  ///< the message boxes, in order
+    std::string error;              ///< empty if all is well
+    bool wrong_request = false;     ///< the request itself was wrong, and touched no file
+};
+
+/// The result as one JSON object on one line, without a line end.
+std::string to_json(const Result& result);
+
+/// The result as a short Italian table with units, line by line, without messages and error.
+std::string to_table(const Result& result);
+
+}  // namespace coltre::cli

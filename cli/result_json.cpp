@@ -1,0 +1,92 @@
+#include "cli/json_text.h"
+#include "cli/result.h"
+#include "text/number_text.h"
+
+namespace coltre::cli {
+
+namespace {
+
+std::string_view icon_name(Icon icon) {
+    switch (icon) {
+        case Icon::error:
+            return "errore";
+        case Icon::information:
+            return "informazione";
+        case Icon::warning:
+            return "avviso";
+        case Icon::none:
+            break;
+    }
+    return "nessuna";
+}
+
+/// Members of a JSON object, appended one after the other.
+class ObjectWriter {
+  public:
+    explicit ObjectWriter(std::string& json) : m_json(json) { m_json += '{'; }
+
+    /// The name is one of the program's own: nothing in it needs an escape.
+    std::string& member(std::string_view name) {
+        if (m_json.back() != '{') m_json += ", ";
+        m_json += '"';
+        m_json += name;
+        m_json += "\": ";
+        return m_json;
+    }
+    void text(std::string_view name, std::string_view value) { append_json_string(member(name), value); }
+    void number(std::string_view name, double value) { member(name) += shortest_number_text(value); }
+    void numbers(std::string_view name, const std::vector<std::pair<std::string_view, double>>& values) {
+        member(name);
+        ObjectWriter object(m_json);
+        for (const auto& [label, value] : values)
+            object.number(label, value);
+        object.close();
+    }
+    void close() { m_json += '}'; }
+
+  private:
+    std::string& m_json;
+};
+
+void append_messages(std::string& json, const std::vector<Message>& messages) {
+    json += '[';
+    for (const Message& message : messages) {
+        if (json.back() != '[') json += ", ";
+        ObjectWriter object(json);
+        object.text("icona", icon_name(message.icon));
+        object.text("titolo", message.title);
+        object.text("testo", message.text);
+        object.close();
+    }
+    json += ']';
+}
+
+}  // namespace
+
+std::string to_json(const Result& result) {
+    std::string json;
+    json.reserve(512);
+    ObjectWriter object(json);
+    if (!result.id.empty()) object.member("id") += result.id;
+    if (result.kind) object.text("calcolo", info(*result.kind).name);
+    if (!result.province.empty()) {
+        object.text("provincia", result.province);
+        object.text("comune", result.municipality);
+    }
+    if (result.altitude) object.number("altitudine", *result.altitude);
+    if (result.zone) object.number("zona", *result.zone);
+    if (result.qsk) object.number("qsk", *result.qsk);
+    object.numbers("mu", result.mu);
+    object.numbers("risultati", result.results);
+    if (!result.report.empty()) object.text("relazione", result.report);
+    append_messages(object.member("messaggi"), result.messages);
+    if (result.error.empty()) {
+        object.member("errore") += "null";
+    } else {
+        object.text("errore", result.error);
+    }
+    object.close();
+    return json;
+}
+
+}  // namespace coltre::cli
