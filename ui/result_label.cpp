@@ -1,0 +1,16 @@
+#include "ui/result_label.h"
+
+#include "text/number_text.h"
+
+namespace coltre {
+
+ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+}
+
+void ResultLabel::show_number(double value, int decimals) {
+    setText(QString::fromStdString(display_number_text(round_half_even(value, decimals))));
+}
+
+}  // namespace coltre
