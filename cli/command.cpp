@@ -44,7 +44,8 @@ void print_message(std::ostream& err, const Message& message) {
 
 int run_calculation(const Request& request, bool json, const Surroundings& surroundings,
                     const Streams& streams) {
-    const Result result = perform(request, surroundings);
+    SiteMemory memory;
+    const Result result = perform(request, surroundings, memory);
     if (json) {
         streams.out << to_json(result) << '\n';
     } else {
