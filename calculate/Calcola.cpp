@@ -101,7 +101,7 @@ std::optional<Stop> calculate_family(const MainWindowFields& fields, ProgramCell
     BothObservers both(labels, observer);
     CalculationObserver& observers = roof.family == RoofFamily::cylindrical ? both : observer;
 
-    const CalculationEnd end = calculate_roof(cells, roof, observers);
+    const CalculationEnd end = calculate_roof(cells, roof, &observers);
     if (end.fault == Fault::incongruent_dimensions) {
         outcome.fault = end.fault;
         message_boxes.show(

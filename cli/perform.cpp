@@ -106,7 +106,7 @@ std::optional<Site> choose_site(std::string_view typed_province, std::string_vie
         result.error = result.messages.back().text;
         return std::nullopt;
     }
-    return Site{province.found, municipality.found, *altitude};
+    return Site{province.found, municipality.found, *altitude, program.cells.zone};
 }
 
 /// The site of a request that names one, with its zone in the zone cell.
@@ -123,7 +123,7 @@ std::optional<Site> site_by_name(const Request& request, Program& program, Doors
     // An answer without a site still says which one was asked for.
     result.province = site ? site->province : province;
     result.municipality = site ? site->municipality : municipality;
-    if (site) program.cells.zone = ZoneOfProvince(site->province).zone;
+    if (site) program.cells.zone = site->zone;
     return site;
 }
 

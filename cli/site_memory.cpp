@@ -7,35 +7,36 @@
 
 namespace coltre::cli {
 
-namespace {
-
-std::optional<FileState> altitude_file_state(std::string_view directory) {
-    const std::filesystem::path file = find_path(altitude_file_name(directory));
-    std::error_code time_error;
-    std::error_code size_error;
-    const FileState state{std::filesystem::last_write_time(file, time_error),
-                          std::filesystem::file_size(file, size_error)};
-    if (time_error || size_error) return std::nullopt;
-    return state;
+SiteMemory::WriteTime SiteMemory::write_time(std::string_view directory) {
+    if (directory != m_directory || m_file.empty()) {
+        m_directory = directory;
+        m_file = find_path(altitude_file_name(directory));
+        m_sites.clear();
+    }
+    std::error_code error;
+    const auto written = std::filesystem::last_write_time(m_file, error);
+    if (!error) return written;
+    m_file.clear();  // looked for again the next time
+    return std::nullopt;
 }
-
-}  // namespace
 
 std::optional<Site> SiteMemory::recall(std::string_view directory, std::string_view province,
                                        std::string_view municipality) {
-    m_state = altitude_file_state(directory);
-    const auto found = m_sites.find(Names{directory, province, municipality});
-    if (found == m_sites.end() || !m_state || found->second.state != *m_state) return std::nullopt;
-    return found->second.site;
+    const WriteTime written = write_time(directory);
+    if (written != m_written) m_sites.clear();
+    m_written = written;
+    const auto found = m_sites.find({std::string(province), std::string(municipality)});
+    if (found == m_sites.end()) return std::nullopt;
+    return found->second;
 }
 
 void SiteMemory::keep(std::string_view directory, std::string_view province, std::string_view municipality,
                       const Site& site) {
     // A file that was written or changed while it was read is not worth remembering.
-    if (!m_state || altitude_file_state(directory) != m_state) return;
+    if (!m_written || write_time(directory) != m_written) return;
     constexpr std::size_t most_sites = 10000;  // more than there are municipalities; a few MB
     if (m_sites.size() >= most_sites) m_sites.clear();
-    m_sites.insert_or_assign(Names{directory, province, municipality}, Kept{*m_state, site});
+    m_sites.insert_or_assign({std::string(province), std::string(municipality)}, site);
 }
 
 }  // namespace coltre::cli

@@ -5,7 +5,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <tuple>
+#include <utility>
+
+#include "engine/program_cells.h"
 
 namespace coltre::cli {
 
@@ -14,14 +16,7 @@ struct Site {
     std::string province;  ///< in the spelling of the table
     std::string municipality;
     std::string altitude;  ///< text of the altitude field
-};
-
-/// Which state of a file: it changes whenever the file is written anew or replaced.
-struct FileState {
-    std::filesystem::file_time_type written;
-    std::uintmax_t size = 0;
-
-    bool operator==(const FileState&) const = default;
+    SnowZone zone = 0;     ///< of the province
 };
 
 /// The sites that a batch has found by name, so that a million requests do not read altitudini.txt a million
@@ -39,14 +34,15 @@ class SiteMemory {
               const Site& site);
 
   private:
-    using Names = std::tuple<std::string, std::string, std::string>;
-    struct Kept {
-        FileState state;
-        Site site;
-    };
+    using WriteTime = std::optional<std::filesystem::file_time_type>;
 
-    std::map<Names, Kept> m_sites;
-    std::optional<FileState> m_state;  // at the last recall()
+    /// When the file of the directory was written; nothing if it cannot be told.
+    WriteTime write_time(std::string_view directory);
+
+    std::string m_directory;       // of the sites below
+    std::filesystem::path m_file;  // its altitudini.txt
+    WriteTime m_written;           // when the file was written that the sites come from
+    std::map<std::pair<std::string, std::string>, Site> m_sites;  // by the names as given
 };
 
 }  // namespace coltre::cli

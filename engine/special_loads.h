@@ -13,7 +13,8 @@ namespace coltre {
 ///    long as the lower roof or longer is cut at its end: qs1 grows to the load there, ls becomes b2.
 ///  - wall: mu2 = 2h / G between 0.8 and 2.0; ls = 2h between 5 and 15 m, never cut.
 ///  - snow guard: Fs = qs b sin(alfa); the ground load plays no part.
+/// @param observer  nullptr if nobody listens
 CalculationEnd calculate_special_case(ProgramCells& cells, const SpecialCaseEntries& entries,
-                                      CalculationObserver& observer);
+                                      CalculationObserver* observer);
 
 }  // namespace coltre
