@@ -48,6 +48,7 @@ casipart::casipart(Program& program, UserDialogs& dialogs, std::function<SiteFie
     connect(m_ui->Chiudi2, &QPushButton::clicked, this, &casipart::close);
     on_page();
     on_report_switch();
+    m_ui->h2input->setFocus();
 }
 
 casipart::~casipart() = default;
