@@ -65,6 +65,7 @@ class CasipartTest : public testing::Test {
             program, dialogs, [this] { return site; },
             [this] { shown_ground_loads.push_back(program.cells.qsk); });
         window->show();
+        window->activateWindow();  // without a window manager nobody else does
         ASSERT_TRUE(QTest::qWaitForWindowActive(window));
     }
     void wait_until_closed() {
