@@ -40,7 +40,9 @@ void level_change(Calculation& run, const SpecialCaseEntries& entries) {
     if (!run.set(level_qs2, Checked(cells.level_mu2) * G)) return;
     if (!run.set(level_qs1, Checked(mu1_flat) * G)) return;
     if (!set_drift_length(run, level_ls, entries.h)) return;
-    if (cells.level_ls >= entries.b2) {
+    const bool cut = cells.level_ls >= entries.b2;
+    run.observer().on_drift(cut);
+    if (cut) {
         const Checked qs1 = cells.level_qs1;
         const Checked ls = cells.level_ls;
         if (!run.set(level_qs1, qs1 + (cells.level_qs2 - qs1) / ls * (ls - entries.b2))) return;
