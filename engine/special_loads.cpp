@@ -41,7 +41,7 @@ void level_change(Calculation& run, const SpecialCaseEntries& entries) {
     if (!run.set(level_qs1, Checked(mu1_flat) * G)) return;
     if (!set_drift_length(run, level_ls, entries.h)) return;
     const bool cut = cells.level_ls >= entries.b2;
-    run.observer().on_drift(cut);
+    if (run.observer() != nullptr) run.observer()->on_drift(cut);
     if (cut) {
         const Checked qs1 = cells.level_qs1;
         const Checked ls = cells.level_ls;
