@@ -69,7 +69,7 @@ Drawing cylindrical_sketch(const Roof& roof, const ProgramCells* loads) {
     const double H = drawing.neutral ? 2 : roof.H;
     const double rise = span * H / L;
     const double half_angle = 2 * std::atan(2 * H / L);
-    const double springing = 2650 + 400 * rise / max_rise;
+    const double springing = 2400 + 650 * rise / max_rise;
     const Vault uniform{480, springing, rise, half_angle};
     const Vault asymmetric{4520, springing, rise, half_angle};
 
@@ -93,6 +93,7 @@ Drawing cylindrical_sketch(const Roof& roof, const ProgramCells* loads) {
     add_load(drawing, {{zone1, top(qs_uniform)}, {zone1 + zone, top(qs_uniform)}}, base);
     add_horizontal_dimension(drawing, zone1, zone1 + zone, zone_line, beyond_roof);
     add_eaves_load(drawing, uniform, true, qs_uniform);
+    add_eaves_load(drawing, uniform, false, qs_uniform);
 
     add_vault(drawing, asymmetric);
     const double zone2 = asymmetric.centre() - zone / 2;
@@ -105,11 +106,12 @@ Drawing cylindrical_sketch(const Roof& roof, const ProgramCells* loads) {
     add_eaves_load(drawing, asymmetric, true, qs_left);
     add_eaves_load(drawing, asymmetric, false, qs_right);
 
+    const double bottom_row = springing + 1020;
     if (!drawing.neutral) {
-        constexpr double span_line = 3900;
+        const double span_line = bottom_row - 170;
         add_horizontal_dimension(drawing, uniform.left, uniform.right(), span_line);
         add_text(drawing, Role::dimension, quantity(drawing, "L", roof.L, " m"),
-                 {uniform.centre(), span_line + 170}, Align::centre);
+                 {uniform.centre(), bottom_row}, Align::centre);
         const double rise_line = uniform.right() + 190;
         add_vertical_dimension(drawing, rise_line, springing - rise, springing);
         add_text(drawing, Role::dimension, quantity(drawing, "H", roof.H, " m"),
@@ -126,9 +128,7 @@ Drawing cylindrical_sketch(const Roof& roof, const ProgramCells* loads) {
     add_slot(drawing, "spor_8", {uniform.left - 400, eaves_row}, Align::left, "qe =", "kN/m");
     add_slot(drawing, "spor_9", {asymmetric.left + 900, eaves_row}, Align::right, "", "kN/m");
     add_slot(drawing, "spor_10", {7460, eaves_row}, Align::right, "", "kN/m");
-    add_text(drawing, Role::caption, "0.5µ3 a sinistra, µ3 a destra", {asymmetric.centre(), 4070},
-             Align::centre, 3400);
-    add_text(drawing, Role::caption, "µ1", {zone1 + zone + 130, base - room / 2}, Align::left);
+    add_caption(drawing, "0.5µ3 a sinistra, µ3 a destra", {asymmetric.centre(), bottom_row}, 3400);
     return drawing;
 }
 

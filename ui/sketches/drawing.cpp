@@ -5,8 +5,8 @@
 namespace coltre {
 
 const LabelSlot* Drawing::find_slot(const std::string& name) const {
-    const auto slot = std::ranges::find(slots, name, &LabelSlot::name);
-    return slot == slots.end() ? nullptr : &*slot;
+    const auto slot = std::ranges::find(label_slots, name, &LabelSlot::name);
+    return slot == label_slots.end() ? nullptr : &*slot;
 }
 
 double text_width(const std::string& text) {

@@ -7,7 +7,7 @@
 // and pens. Lengths in twips (1/1440 inch) of the printed sketch, x to the right, y downwards; texts UTF-8.
 namespace coltre {
 
-inline constexpr double text_height = 200;  ///< line height of every text, twips: 10 pt in print
+inline constexpr double text_height = 200;  ///< letter size of every text, twips: 10 pt in print
 
 struct Point {
     double x = 0;
@@ -91,7 +91,7 @@ struct Drawing {
     std::vector<Shape> shapes;
     std::vector<Arrow> arrows;
     std::vector<Text> texts;
-    std::vector<LabelSlot> slots;
+    std::vector<LabelSlot> label_slots;
 
     /// The slot of that name, or null.
     [[nodiscard]] const LabelSlot* find_slot(const std::string& name) const;

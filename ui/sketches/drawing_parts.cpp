@@ -61,7 +61,7 @@ double run_of_slope(double pitch, double max_run, double max_rise) {
 
 double ordinate(double load, double largest, double room) {
     if (!(load > 0) || !std::isfinite(load)) return 0;
-    return load >= largest ? room : room * (load / largest);
+    return load < largest ? room * (load / largest) : room;
 }
 
 std::string quantity(const Drawing& drawing, const std::string& name, double value, const std::string& unit) {
@@ -202,6 +202,11 @@ void add_text(Drawing& drawing, Role role, const std::string& text, Point at, Al
     drawing.texts.push_back({role, text, box, align});
 }
 
+void add_caption(Drawing& drawing, const std::string& text, Point centre, double room) {
+    const std::string note = "schizzo indicativo: dati non rappresentabili";
+    add_text(drawing, Role::caption, drawing.neutral ? note : text, centre, Align::centre, room);
+}
+
 double slot_width(const std::string& before, const std::string& after) {
     constexpr double gap = 60;
     double width = number_width;
@@ -217,7 +222,7 @@ void add_slot(Drawing& drawing, const std::string& name, Point at, Align align, 
     Rect area = box_at(at, align, slot_width(before, after), slot_height);
     const Rect& page = drawing.page;
     area.x = std::clamp(area.x, page.x + margin, page.right() - margin - area.width);
-    drawing.slots.push_back({name, area, before, after});
+    drawing.label_slots.push_back({name, area, before, after});
 }
 
 }  // namespace coltre

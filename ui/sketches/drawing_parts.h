@@ -80,6 +80,9 @@ void add_pitch_mark(Drawing& drawing, Point apex, double pitch, int direction, d
 void add_text(Drawing& drawing, Role role, const std::string& text, Point at, Align align,
               double room = 7300);
 
+/// A caption under the drawing, centred; in a neutral sketch the note that it is one, in the caption's place.
+void add_caption(Drawing& drawing, const std::string& text, Point centre, double room = 7300);
+
 /// Room of a label slot with its texts.
 double slot_width(const std::string& before, const std::string& after);
 

@@ -62,11 +62,11 @@ void add_eaves_wall(Drawing& drawing, Point eaves, const Side& side, int inwards
     if (side.run > 6 * wall_thickness) add_wall_stub(drawing, left, right, lower_end);
 }
 
-void add_eaves_load(Drawing& drawing, Point eaves, double roof_load) {
+/// Where the roof carries a load, the snow overhanging its eaves is one too.
+/// @param height  of the diagram of the roof load
+void add_eaves_load(Drawing& drawing, Point eaves, double height) {
     constexpr double length = 380;
-    if (ordinate(roof_load, roof_load, 1) > 0) {
-        drawing.arrows.push_back({Role::point_load, eaves, {eaves.x, eaves.y + length}});
-    }
+    if (height > 0) drawing.arrows.push_back({Role::point_load, eaves, {eaves.x, eaves.y + length}});
 }
 
 /// A roof of two sides with its loads, in its own column of the sketch.
@@ -78,9 +78,9 @@ void add_gable(Drawing& drawing, Point ridge, const Side& side1, const Side& sid
     const Point eaves2{ridge.x + side2.run, ridge.y + side2.fall};
     add_uniform_load(drawing, eaves1.x, ridge.x, base, height1);
     add_uniform_load(drawing, ridge.x, eaves2.x, base, height2);
-    add_line(drawing, Role::axis, {eaves1.x, base}, eaves1);
-    add_line(drawing, Role::axis, {eaves2.x, base}, eaves2);
-    add_line(drawing, Role::axis, {ridge.x, base}, ridge);
+    if (height1 > 0) add_line(drawing, Role::axis, {eaves1.x, base}, eaves1);
+    if (height2 > 0) add_line(drawing, Role::axis, {eaves2.x, base}, eaves2);
+    if (height1 > 0 || height2 > 0) add_line(drawing, Role::axis, {ridge.x, base}, ridge);
 
     // Two very steep sides leave no room for the usual slab.
     const double thickness = std::min(slab_thickness, 0.2 * (side1.run + side2.run));
@@ -107,22 +107,24 @@ Drawing one_pitch_sketch(const Roof& roof, const ProgramCells* loads) {
     const Point eaves{centre - side.run / 2, 2500 + 950 * side.fall / max_rise};
     const Point ridge{centre + side.run / 2, eaves.y - side.fall};
 
-    add_uniform_load(drawing, eaves.x, ridge.x, base, ordinate(qs, qs, 700));
-    add_line(drawing, Role::axis, {eaves.x, base}, eaves);
-    add_line(drawing, Role::axis, {ridge.x, base}, ridge);
+    const double height = ordinate(qs, qs, 700);
+    add_uniform_load(drawing, eaves.x, ridge.x, base, height);
+    if (height > 0) {
+        add_line(drawing, Role::axis, {eaves.x, base}, eaves);
+        add_line(drawing, Role::axis, {ridge.x, base}, ridge);
+    }
     add_section(drawing, Role::roof, slab_section({eaves, ridge}, slab_thickness));
     const double lower_end = eaves.y + 520;
     add_eaves_wall(drawing, eaves, side, 1, lower_end);
     add_eaves_wall(drawing, {ridge.x, ridge.y}, {-side.pitch, side.run, 0}, -1, lower_end);
     add_pitch_mark(drawing, ridge, side.pitch, -1, 900);
-    add_eaves_load(drawing, eaves, qs);
+    add_eaves_load(drawing, eaves, height);
 
     add_text(drawing, Role::dimension, quantity(drawing, "α", roof.alfa1, "°"), {ridge.x - 80, ridge.y - 150},
              Align::right);
     add_slot(drawing, "carico_1", {centre, top_row}, Align::centre, "qs =", "kN/m²");
     add_slot(drawing, "spor_1", {eaves.x - 150, eaves.y + 240}, Align::right, "qe =", "kN/m");
-    add_text(drawing, Role::caption, "qs sulla proiezione orizzontale, qe in gronda", {3750, bottom_row},
-             Align::centre);
+    add_caption(drawing, "qs sulla proiezione orizzontale, qe in gronda", {3750, bottom_row});
     return drawing;
 }
 
@@ -134,7 +136,7 @@ Drawing two_pitches_sketch(const Roof& roof, const ProgramCells* loads) {
     constexpr double room = 600;
     const Side side1 = make_side(drawing.neutral ? usual_pitch : roof.alfa1, 950, max_fall);
     const Side side2 = make_side(drawing.neutral ? usual_pitch : roof.alfa2, 950, max_fall);
-    const double ridge_y = 1500 + 0.3 * (max_fall - std::max(side1.fall, side2.fall));
+    const double ridge_y = 1500 + 0.5 * (max_fall - std::max(side1.fall, side2.fall));
 
     const double full1 = loads != nullptr ? loads->qs_2a : mu1_of(side1.pitch);
     const double full2 = loads != nullptr ? loads->qs_2c : mu1_of(side2.pitch);
@@ -179,8 +181,8 @@ Drawing two_pitches_sketch(const Roof& roof, const ProgramCells* loads) {
              {first_ridge.x - 60, first_ridge.y}, Align::right, half_column);
     add_text(drawing, Role::dimension, quantity(drawing, "α2", roof.alfa2, "°"),
              {first_ridge.x + 60, first_ridge.y}, Align::left, half_column);
-    add_text(drawing, Role::caption, "qs in kN/m² sulla proiezione orizzontale, qe in kN/m in gronda",
-             {3750, bottom_row}, Align::centre);
+    add_caption(drawing, "qs in kN/m² sulla proiezione orizzontale, qe in kN/m in gronda",
+                {3750, bottom_row});
     return drawing;
 }
 
@@ -223,7 +225,7 @@ Drawing several_pitches_sketch(const Roof& roof, const ProgramCells* loads) {
     add_break(drawing, {end2.x, end2.y + thickness / 2}, true);
     const double gutter = slab[7].y;  // underneath the valley
     add_wall_stub(drawing, {valley.x - wall_thickness / 2, gutter}, {valley.x + wall_thickness / 2, gutter},
-                  gutter + 300);
+                  gutter + 220);
     constexpr double mark = 800;
     add_pitch_mark(drawing, ridge1, side1.pitch, -1, mark);
     add_pitch_mark(drawing, ridge2, side2.pitch, 1, mark);
@@ -235,6 +237,7 @@ Drawing several_pitches_sketch(const Roof& roof, const ProgramCells* loads) {
     add_slot(drawing, "carico_8", {0, top_row}, Align::left, "qs =", "kN/m²");
     add_slot(drawing, "carico_9", {valley.x, top_row}, Align::centre, "qs =", "kN/m²");
     add_slot(drawing, "carico_10", {7500, top_row}, Align::right, "qs =", "kN/m²");
+    if (drawing.neutral) add_caption(drawing, "", {3750, bottom_row});
     return drawing;
 }
 
