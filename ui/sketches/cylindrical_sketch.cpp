@@ -121,8 +121,8 @@ Drawing cylindrical_sketch(const Roof& roof, const ProgramCells* loads) {
     constexpr double top_row = 240;
     const double eaves_row = springing + 600;
     add_slot(drawing, "carico_11", {uniform.centre(), top_row}, Align::centre, "qs =", "kN/m²");
-    add_slot(drawing, "carico_12", {asymmetric.centre() - 30, top_row}, Align::right, "", "kN/m²");
-    add_slot(drawing, "carico_13", {asymmetric.centre() + 30, top_row}, Align::left, "", "kN/m²");
+    add_slot(drawing, "carico_12", {7420 - slot_width("", "kN/m²"), top_row}, Align::right, "", "kN/m²");
+    add_slot(drawing, "carico_13", {7460, top_row}, Align::right, "", "kN/m²");
     add_slot(drawing, "L1output", {uniform.centre(), zone_row}, Align::centre, "L1 =", "m");
     add_slot(drawing, "L2output", {asymmetric.left, zone_row}, Align::left, "L2 =", "");
     add_slot(drawing, "spor_8", {uniform.left - 400, eaves_row}, Align::left, "qe =", "kN/m");

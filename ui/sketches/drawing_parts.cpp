@@ -35,6 +35,14 @@ double height_at(const std::vector<Point>& line, double x) {
     return line.back().y;
 }
 
+std::string named_number(const Drawing& drawing, const std::string& name, double number,
+                         const std::string& unit) {
+    if (drawing.neutral) return name;
+    std::string text = display_number_text(number);
+    if (text.starts_with(' ')) text.erase(0, 1);
+    return name + " = " + text + unit;
+}
+
 }  // namespace
 
 double radians(double degrees) {
@@ -65,10 +73,11 @@ double ordinate(double load, double largest, double room) {
 }
 
 std::string quantity(const Drawing& drawing, const std::string& name, double value, const std::string& unit) {
-    if (drawing.neutral) return name;
-    std::string number = display_number_text(round_significant(value, 5));
-    if (number.starts_with(' ')) number.erase(0, 1);
-    return name + " = " + number + unit;
+    return named_number(drawing, name, round_significant(value, 5), unit);
+}
+
+std::string pitch_text(const Drawing& drawing, const std::string& name, double degrees) {
+    return named_number(drawing, name, round_half_even(degrees, 2), "°");
 }
 
 std::vector<std::pair<Point, Point>> hatch_lines(const std::vector<Point>& polygon, double spacing) {

@@ -10,7 +10,7 @@
 namespace coltre {
 
 inline constexpr double slot_height = 320;    ///< of every label slot
-inline constexpr double number_width = 1120;  ///< room of the number in a label slot
+inline constexpr double number_width = 1080;  ///< room of the number in a label slot
 
 double radians(double degrees);
 
@@ -40,6 +40,9 @@ double ordinate(double load, double largest, double room);
 
 /// "b1 = 3.5 m": five significant digits; the name alone in a neutral sketch.
 std::string quantity(const Drawing& drawing, const std::string& name, double value, const std::string& unit);
+
+/// "α1 = 33.33°": two decimals; the name alone in a neutral sketch.
+std::string pitch_text(const Drawing& drawing, const std::string& name, double degrees);
 
 /// The diagonals of a section: pieces of lines rising to the right, within the polygon.
 std::vector<std::pair<Point, Point>> hatch_lines(const std::vector<Point>& polygon, double spacing);

@@ -46,11 +46,13 @@ void add_uniform_load(Drawing& drawing, double x0, double x1, double base, doubl
 }
 
 /// The wall under a side, at its eaves.
-/// @param inwards  direction from the eaves to the ridge, +1 or -1
-void add_eaves_wall(Drawing& drawing, Point eaves, const Side& side, int inwards, double lower_end) {
+/// @param inwards    direction from the eaves to the ridge, +1 or -1
+/// @param thickness  of the slab
+void add_eaves_wall(Drawing& drawing, Point eaves, const Side& side, int inwards, double thickness,
+                    double lower_end) {
     constexpr double overhang = 0.16;  // of the run
     const double slope = std::tan(radians(side.pitch));
-    const double underneath = slab_thickness / std::cos(radians(side.pitch));
+    const double underneath = thickness / std::cos(radians(side.pitch));
     const auto under_slab = [&](double distance) {
         return Point{eaves.x + inwards * distance, eaves.y - distance * slope + underneath};
     };
@@ -83,10 +85,10 @@ void add_gable(Drawing& drawing, Point ridge, const Side& side1, const Side& sid
     if (height1 > 0 || height2 > 0) add_line(drawing, Role::axis, {ridge.x, base}, ridge);
 
     // Two very steep sides leave no room for the usual slab.
-    const double thickness = std::min(slab_thickness, 0.2 * (side1.run + side2.run));
+    const double thickness = std::min(80.0, 0.2 * (side1.run + side2.run));
     add_section(drawing, Role::roof, slab_section({eaves1, ridge, eaves2}, thickness));
-    add_eaves_wall(drawing, eaves1, side1, 1, eaves1.y + 380);
-    add_eaves_wall(drawing, eaves2, side2, -1, eaves2.y + 380);
+    add_eaves_wall(drawing, eaves1, side1, 1, thickness, eaves1.y + 380);
+    add_eaves_wall(drawing, eaves2, side2, -1, thickness, eaves2.y + 380);
     constexpr double mark = 520;
     add_pitch_mark(drawing, ridge, side1.pitch, -1, mark);
     add_pitch_mark(drawing, ridge, side2.pitch, 1, mark);
@@ -115,12 +117,12 @@ Drawing one_pitch_sketch(const Roof& roof, const ProgramCells* loads) {
     }
     add_section(drawing, Role::roof, slab_section({eaves, ridge}, slab_thickness));
     const double lower_end = eaves.y + 520;
-    add_eaves_wall(drawing, eaves, side, 1, lower_end);
-    add_eaves_wall(drawing, {ridge.x, ridge.y}, {-side.pitch, side.run, 0}, -1, lower_end);
+    add_eaves_wall(drawing, eaves, side, 1, slab_thickness, lower_end);
+    add_eaves_wall(drawing, {ridge.x, ridge.y}, {-side.pitch, side.run, 0}, -1, slab_thickness, lower_end);
     add_pitch_mark(drawing, ridge, side.pitch, -1, 900);
     add_eaves_load(drawing, eaves, height);
 
-    add_text(drawing, Role::dimension, quantity(drawing, "α", roof.alfa1, "°"), {ridge.x - 80, ridge.y - 150},
+    add_text(drawing, Role::dimension, pitch_text(drawing, "α", roof.alfa1), {ridge.x - 80, ridge.y - 150},
              Align::right);
     add_slot(drawing, "carico_1", {centre, top_row}, Align::centre, "qs =", "kN/m²");
     add_slot(drawing, "spor_1", {eaves.x - 150, eaves.y + 240}, Align::right, "qe =", "kN/m");
@@ -160,7 +162,7 @@ Drawing two_pitches_sketch(const Roof& roof, const ProgramCells* loads) {
         const Point ridge{left + column / 2, ridge_y};
         add_gable(drawing, ridge, side1, side2, ordinate(it.qs1, largest, room),
                   ordinate(it.qs2, largest, room));
-        constexpr double from_ridge = 610;
+        constexpr double from_ridge = 640;
         constexpr double under_eaves = 640;
         add_slot(drawing, it.label1, {ridge.x - from_ridge, top_row}, Align::centre, "", "");
         add_slot(drawing, it.label2, {ridge.x + from_ridge, top_row}, Align::centre, "", "");
@@ -177,9 +179,9 @@ Drawing two_pitches_sketch(const Roof& roof, const ProgramCells* loads) {
     }
     const Point first_ridge{column / 2, ridge_y - 150};
     constexpr double half_column = 1130;
-    add_text(drawing, Role::dimension, quantity(drawing, "α1", roof.alfa1, "°"),
+    add_text(drawing, Role::dimension, pitch_text(drawing, "α1", roof.alfa1),
              {first_ridge.x - 60, first_ridge.y}, Align::right, half_column);
-    add_text(drawing, Role::dimension, quantity(drawing, "α2", roof.alfa2, "°"),
+    add_text(drawing, Role::dimension, pitch_text(drawing, "α2", roof.alfa2),
              {first_ridge.x + 60, first_ridge.y}, Align::left, half_column);
     add_caption(drawing, "qs in kN/m² sulla proiezione orizzontale, qe in kN/m in gronda",
                 {3750, bottom_row});
@@ -230,10 +232,10 @@ Drawing several_pitches_sketch(const Roof& roof, const ProgramCells* loads) {
     add_pitch_mark(drawing, ridge1, side1.pitch, -1, mark);
     add_pitch_mark(drawing, ridge2, side2.pitch, 1, mark);
 
-    add_text(drawing, Role::dimension, quantity(drawing, "α1", roof.alfa1, "°"),
-             {ridge1.x - 60, ridge1.y - 150}, Align::right);
-    add_text(drawing, Role::dimension, quantity(drawing, "α2", roof.alfa2, "°"),
-             {ridge2.x + 60, ridge2.y - 150}, Align::left);
+    add_text(drawing, Role::dimension, pitch_text(drawing, "α1", roof.alfa1), {ridge1.x - 60, ridge1.y - 150},
+             Align::right);
+    add_text(drawing, Role::dimension, pitch_text(drawing, "α2", roof.alfa2), {ridge2.x + 60, ridge2.y - 150},
+             Align::left);
     add_slot(drawing, "carico_8", {0, top_row}, Align::left, "qs =", "kN/m²");
     add_slot(drawing, "carico_9", {valley.x, top_row}, Align::centre, "qs =", "kN/m²");
     add_slot(drawing, "carico_10", {7500, top_row}, Align::right, "qs =", "kN/m²");

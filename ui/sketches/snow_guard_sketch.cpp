@@ -43,8 +43,8 @@ Drawing snow_guard_sketch(const SpecialCaseEntries& entries) {
     if (height > 0 && sine > 0) {
         drawing.arrows.push_back({Role::point_load, on_slope(750, 160), on_slope(0, 160)});
     }
-    add_text(drawing, Role::dimension, quantity(drawing, "α", entries.alfa, "°"),
-             {ridge.x - 80, ridge.y - 150}, Align::right);
+    add_text(drawing, Role::dimension, pitch_text(drawing, "α", entries.alfa), {ridge.x - 80, ridge.y - 150},
+             Align::right);
     if (!drawing.neutral) {
         const double width_row = foot.y + 560;
         const double top = height > 0 ? base : ridge.y;
