@@ -1,6 +1,8 @@
 #include "ui/sketches/sketch_painter.h"
 
 #include <QFontMetricsF>
+#include <QLineF>
+#include <QList>
 #include <QPolygonF>
 #include <algorithm>
 #include <cmath>
