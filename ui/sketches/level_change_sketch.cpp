@@ -55,8 +55,9 @@ void add_upper_roof(Drawing& drawing, const SpecialCaseEntries& entries, const L
                   shape.lower_level + 420);
     if (shape.upper_width.broken) add_break(drawing, {ridge.x, ridge.y + slab_thickness / 2}, true);
     add_pitch_mark(drawing, ridge, shape.alfa, 1, std::clamp(width, 400.0, 900.0));
-    add_text(drawing, Role::dimension, pitch_text(drawing, "α", entries.alfa),
-             {std::min(ridge.x + 1400, step - 60), ridge.y - 150}, Align::right);
+    const std::string pitch = pitch_text(drawing, "α", entries.alfa);
+    add_text(drawing, Role::dimension, pitch,
+             {std::min(ridge.x + 100 + text_width(pitch), step - 60), ridge.y - 150}, Align::right);
 }
 
 void add_dimensions(Drawing& drawing, const SpecialCaseEntries& entries, const LevelChange& shape) {

@@ -131,6 +131,14 @@ void SketchPainter::paint_shape(QPainter& painter, const Shape& shape) const {
     QPolygonF points;
     for (const Point p : shape.points)
         points << to_pixels(p);
+    if (shape.role == Role::break_mark && points.size() > 2) {
+        // The line that is broken off stops at the zigzag.
+        QPen gap = pen(shape.role);
+        gap.setColor(m_style.palette.color(QPalette::Base));
+        gap.setWidthF(3 * gap.widthF());
+        painter.setPen(gap);
+        painter.drawLine(points[1], points[points.size() - 2]);
+    }
     const bool filled = shape.role == Role::load_area || shape.role == Role::snow;
     painter.setPen(filled ? QPen(Qt::NoPen) : pen(shape.role));
     painter.setBrush(filled ? QBrush(colour(shape.role, m_style.palette)) : QBrush(Qt::NoBrush));
