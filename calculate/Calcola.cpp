@@ -18,7 +18,7 @@ Message altitude_message() {
             "(Circ. 4 luglio 1996)"};
 }
 
-Roof read_roof(const MainWindowFields& fields, FieldReader& reader) {
+Roof read_roof(const MainWindowFields& fields, EntryReader& reader) {
     Roof roof;
     roof.family = fields.SSTab1;
     switch (roof.family) {
@@ -44,7 +44,8 @@ Roof read_roof(const MainWindowFields& fields, FieldReader& reader) {
 /// Why the roof load under an overhang load is 0: the pitch that made it so, or the ground load.
 std::string zero_load_reason(std::string_view quantity, const Roof& roof, const ProgramCells& cells) {
     if (cells.qsk == 0) return "Il carico neve al suolo qsk è 0.";
-    if (roof.family == RoofFamily::cylindrical) return "Il coefficiente di forma mu3 è 0.";
+    if (roof.family == RoofFamily::cylindrical) return "Il carico sulla copertura è 0.";
+    if (cells.mu1 != 0) return "Il carico sulla falda è troppo piccolo.";
     const bool second_side = quantity == results::qe_2c.name || quantity == results::qe_2d.name;
     std::string_view name = "alfa";
     if (roof.family == RoofFamily::two_pitches) name = second_side ? "alfa2" : "alfa1";
@@ -64,7 +65,7 @@ Stop explain(const CalculationEnd& end, const Roof& roof, const ProgramCells& ce
 /// @param altitude  out: as read, m
 std::optional<Stop> set_ground_load(const MainWindowFields& fields, ProgramCells& cells, double& altitude,
                                     ClickOutcome& outcome, MessageBoxes& message_boxes) {
-    FieldReader reader;
+    EntryReader reader;
     altitude = reader.lenient("altitudine", fields.asinput);
     if (reader.stop()) return reader.stop();
     if (altitude > highest_regulated_altitude) {
@@ -94,7 +95,7 @@ std::optional<Stop> calculate_family(const MainWindowFields& fields, ProgramCell
         ClickOutcome& outcome;
     };
 
-    FieldReader reader;
+    EntryReader reader;
     const Roof roof = read_roof(fields, reader);
     if (reader.stop()) return reader.stop();
     WidthLabels labels(outcome);

@@ -8,7 +8,7 @@ namespace coltre {
 
 namespace {
 
-SpecialCaseEntries read_entries(const SpecialCasesFields& fields, FieldReader& reader) {
+SpecialCaseEntries read_entries(const SpecialCasesFields& fields, EntryReader& reader) {
     SpecialCaseEntries entries;
     entries.special_case = fields.cartelle;
     switch (entries.special_case) {
@@ -42,7 +42,7 @@ Stop explain(const CalculationEnd& end, const SpecialCaseEntries& entries, const
 
 std::optional<Stop> calculate_page(const SpecialCasesFields& fields, ProgramCells& cells,
                                    ClickOutcome& outcome, CalculationObserver& observer) {
-    FieldReader reader;
+    EntryReader reader;
     const SpecialCaseEntries entries = read_entries(fields, reader);
     if (reader.stop()) return reader.stop();
     const CalculationEnd end = calculate_special_case(cells, entries, &observer);
@@ -53,7 +53,7 @@ std::optional<Stop> calculate_page(const SpecialCasesFields& fields, ProgramCell
 
 std::optional<Stop> set_design_ground_load(const SpecialCasesFields& fields, ProgramCells& cells,
                                            double& altitude) {
-    FieldReader reader;
+    EntryReader reader;
     altitude = reader.lenient("altitudine", fields.asinput);
     const auto [CE, Ct] = reader.coefficients(fields.ComboEsp, fields.TextCTermico);
     if (reader.stop()) return reader.stop();

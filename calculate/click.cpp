@@ -35,14 +35,14 @@ void tell_stop(const Stop& stop, MessageBoxes& message_boxes) {
          "Calcolo interrotto: " + std::string(fault_text(stop.fault)) + ".\r" + stop.explanation});
 }
 
-double FieldReader::lenient(std::string_view name, std::string_view text) {
+double EntryReader::lenient(std::string_view name, std::string_view text) {
     if (m_stop) return 0;
     const LenientNumber number = read_leniently(text);
     if (number.beyond_range) m_stop = {Fault::numeric_error, beyond_range(name)};
     return number.value;
 }
 
-double FieldReader::strict(std::string_view name, std::string_view text, char decimal_separator) {
+double EntryReader::strict(std::string_view name, std::string_view text, char decimal_separator) {
     if (m_stop) return 0;
     const StrictNumber number = read_strictly(text, decimal_separator);
     switch (number.verdict) {
@@ -59,7 +59,7 @@ double FieldReader::strict(std::string_view name, std::string_view text, char de
     return number.value;
 }
 
-FieldReader::Coefficients FieldReader::coefficients(std::string_view ComboEsp,
+EntryReader::Coefficients EntryReader::coefficients(std::string_view ComboEsp,
                                                     std::string_view TextCTermico) {
     const double CE = lenient("coefficiente di esposizione", ComboEsp);
     return {CE, lenient("coefficiente termico", TextCTermico)};

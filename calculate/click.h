@@ -39,7 +39,7 @@ std::string_view fault_text(Fault fault);
 void tell_stop(const Stop& stop, MessageBoxes& message_boxes);
 
 /// Reads numeric fields until the first that cannot be used; from then on it reads nothing more.
-class FieldReader {
+class EntryReader {
   public:
     /// @param name  what the explanation of a fault calls the field
     double lenient(std::string_view name, std::string_view text);

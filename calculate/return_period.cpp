@@ -17,7 +17,7 @@ Message return_period_question() {
 
 ReturnPeriodOutcome confirm_return_period(std::string_view InputPerRIT, ProgramCells& cells,
                                           MessageBoxes& message_boxes) {
-    FieldReader reader;
+    EntryReader reader;
     const double Tr = reader.lenient("periodo di ritorno", InputPerRIT);
     if (reader.stop()) {
         tell_stop(*reader.stop(), message_boxes);
@@ -40,7 +40,7 @@ ReturnPeriodOutcome confirm_return_period(std::string_view InputPerRIT, ProgramC
         tell_stop(
             {factor.fault(), "Il Periodo di Ritorno è troppo lungo: il coefficiente non si può calcolare."},
             message_boxes);
-        return {};
+        return {std::nullopt, factor.fault()};
     }
     cells.return_period_factor = factor.value();
     return {std::string(trim_blanks(display_number_text(Tr))), Fault::none};

@@ -22,6 +22,11 @@ int complain(std::ostream& err, std::string_view what, std::string_view director
     return failed;
 }
 
+/// What became of an earlier file that was replaced.
+std::string_view kept(bool existed) {
+    return existed ? "; quello di prima resta come altitudini.bak" : "";
+}
+
 void list(std::ostream& out, const std::vector<AltitudeFault>& faults) {
     for (const AltitudeFault& fault : faults) {
         if (fault.line > 0) out << "riga " << fault.line << ": ";
@@ -33,9 +38,15 @@ void list(std::ostream& out, const std::vector<AltitudeFault>& faults) {
 }  // namespace
 
 int write_command(std::string_view directory, std::ostream& out, std::ostream& err) {
-    const std::string failure = replace_altitude_file(suite_notation(directory), built_in_altitude_file());
+    const std::string bytes = built_in_altitude_file();
+    const auto earlier = read_file(altitude_file_name(suite_notation(directory)));
+    const std::string failure = replace_altitude_file(suite_notation(directory), bytes);
     if (!failure.empty()) return complain(err, "scrivere", directory, failure);
-    out << "Scritto il file " << shown_path(directory) << ".\n";
+    if (earlier == bytes) {
+        out << "Il file " << shown_path(directory) << " era già uguale alla tabella del programma.\n";
+    } else {
+        out << "Scritto il file " << shown_path(directory) << kept(earlier.has_value()) << ".\n";
+    }
     return all_well;
 }
 
@@ -49,6 +60,7 @@ int check_command(std::string_view directory, std::ostream& out, std::ostream& e
 }
 
 int repair_command(std::string_view directory, std::ostream& out, std::ostream& err) {
+    const bool exists = read_file(altitude_file_name(suite_notation(directory))).has_value();
     const AltitudeFileCheck check = repair_altitude_file(suite_notation(directory));
     if (!check.failure.empty()) return complain(err, "riparare", directory, check.failure);
     if (check.faults.empty()) {
@@ -56,7 +68,7 @@ int repair_command(std::string_view directory, std::ostream& out, std::ostream& 
         return all_well;
     }
     list(out, check.faults);
-    out << "Riparato il file " << shown_path(directory) << "; quello di prima resta come altitudini.bak.\n";
+    out << "Riparato il file " << shown_path(directory) << kept(exists) << ".\n";
     return all_well;
 }
 

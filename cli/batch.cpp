@@ -14,14 +14,14 @@ namespace {
 /// Lines of a stream, in memory that does not grow with the length of a line.
 class LineReader {
   public:
-    explicit LineReader(std::istream& in) : m_in(in), m_buffer(longest + 2) {}
+    explicit LineReader(std::istream& in) : m_in(in), m_buffer(longest + 1) {}
 
     /// Reads the next line.
     /// @return false at the end of the stream
     bool next() {
         m_in.getline(m_buffer.data(), static_cast<std::streamsize>(m_buffer.size()));
         const auto taken = static_cast<std::size_t>(m_in.gcount());
-        m_too_long = m_in.fail() && taken == longest + 1;
+        m_too_long = m_in.fail() && taken == longest;
         if (m_too_long) {
             m_in.clear();
             m_in.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
@@ -76,6 +76,7 @@ BatchEnd run_batch(std::istream& in, std::ostream& out, const Surroundings& surr
     }
     out.flush();
     if (!out) return BatchEnd::output_failed;
+    if (in.bad()) return BatchEnd::input_failed;
     return some_failed ? BatchEnd::some_failed : BatchEnd::all_well;
 }
 

@@ -8,7 +8,7 @@
 namespace coltre::cli {
 
 /// How a batch went.
-enum class BatchEnd { all_well, some_failed, output_failed };
+enum class BatchEnd { all_well, some_failed, input_failed, output_failed };
 
 /// Performs the requests of a stream, one JSON object a line, and writes one result a line in the same order.
 /// Results are handed on as soon as no further request is waiting. A line that is no request gives a result

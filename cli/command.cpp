@@ -53,9 +53,7 @@ int run_calculation(const Request& request, bool json, const Surroundings& surro
             print_message(streams.err, message);
         if (!result.wrong_request) streams.out << to_table(result);
     }
-    // A fault has been told in a message box; a wrong request or an unknown place has not.
-    const bool told = !result.messages.empty() && result.messages.back().icon != Icon::information;
-    if (!result.error.empty() && !json && !told) {
+    if (!result.error.empty() && !json && !result.told) {
         if (result.wrong_request) return complain(streams.err, result.error);
         streams.err << "Errore: " << result.error << '\n';
     }
@@ -66,6 +64,8 @@ int run_calculation(const Request& request, bool json, const Surroundings& surro
 int run_batch_command(const std::string& file, const Surroundings& surroundings, const Streams& streams) {
     const auto finish = [&](std::istream& in) {
         const BatchEnd end = run_batch(in, streams.out, surroundings);
+        if (end == BatchEnd::input_failed)
+            streams.err << "coltre-calcolo: impossibile leggere le richieste\n";
         return check_output(streams.out, streams.err, end == BatchEnd::all_well ? all_well : failed);
     };
     if (file == "-") return finish(streams.in);
@@ -117,12 +117,25 @@ CLI::App& add_subcommand(CLI::App& parent, std::string_view name, Choice& choice
     return command;
 }
 
+/// The arguments with each "--option=value" as two, so that an empty value is one.
+std::vector<std::string> split_assignments(std::span<const std::string> arguments) {
+    std::vector<std::string> single;
+    for (const std::string& argument : arguments) {
+        const std::size_t equals = argument.find('=');
+        const bool assigns = argument.starts_with("--") && equals != std::string::npos &&
+                             key_of(std::string_view(argument).substr(2, equals - 2));
+        single.push_back(assigns ? argument.substr(0, equals) : argument);
+        if (assigns) single.push_back(argument.substr(equals + 1));
+    }
+    return single;
+}
+
 /// An Italian sentence for arguments that cannot be taken apart.
 std::string usage_mistake(const CLI::ParseError& error) {
     const std::string text = error.what();
     const std::string option = text.substr(0, text.find(':'));
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return "manca il valore di " + option;
-    return "argomenti errati: " + text;
+    return "argomenti errati";
 }
 
 }  // namespace
@@ -135,6 +148,7 @@ int run(std::span<const std::string> arguments, const Surroundings& surroundings
     app.set_help_flag("-h,--help");
     app.set_version_flag("--version", "coltre-calcolo " COLTRE_VERSION);
     app.allow_extras();
+    app.require_subcommand(0, 1);
 
     for (const KindInfo& kind : kinds()) {
         CLI::App& calculation =
@@ -154,11 +168,13 @@ int run(std::span<const std::string> arguments, const Surroundings& surroundings
         [&] { choice.action = [&] { return run_batch_command(choice.batch_file, surroundings, streams); }; });
 
     CLI::App& altitudes = add_subcommand(app, "altitudini", choice, altitudes_help);
+    altitudes.require_subcommand(0, 1);
     choice.altitude_directory = surroundings.own_directory;
     const auto add_altitude_command = [&](std::string_view name, auto command) {
         CLI::App& action = add_subcommand(altitudes, name, choice, altitudes_help);
         action.add_option("dir", choice.altitude_directory);
         action.callback([&choice, &streams, command] {
+            if (choice.altitude_directory.empty()) choice.mistake = "la cartella è vuota";
             choice.action = [&choice, &streams, command] {
                 return check_output(streams.out, streams.err,
                                     command(choice.altitude_directory, streams.out, streams.err));
@@ -171,7 +187,8 @@ int run(std::span<const std::string> arguments, const Surroundings& surroundings
 
     try {
         // The library takes its arguments from the end of the list.
-        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+        const std::vector<std::string> single = split_assignments(arguments);
+        app.parse(std::vector<std::string>(single.rbegin(), single.rend()));
     } catch (const CLI::CallForHelp&) {
         out << choice.help();
         return check_output(out, err, all_well);

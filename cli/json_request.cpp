@@ -9,10 +9,6 @@ namespace coltre::cli {
 
 namespace {
 
-std::string in_quotes(std::string_view name) {
-    return "«" + std::string(name) + "»";
-}
-
 /// Takes the request from the parser's events. The first mistake is kept and the reading goes on, so that the
 /// "id" is found wherever it stands. The value of "id", whatever it is, is written again as it comes.
 class RequestReader {
@@ -27,7 +23,7 @@ class RequestReader {
 
     bool null() { return literal("null"); }
     bool boolean(bool value) { return literal(value ? "true" : "false"); }
-    bool number_integer(number_integer_t value) { return number(std::to_string(value)); }
+    bool number_integer(number_integer_t value) { return number(value == 0 ? "-0" : std::to_string(value)); }
     bool number_unsigned(number_unsigned_t value) { return number(std::to_string(value)); }
     bool number_float(number_float_t /*value*/, const string_t& text) { return number(text); }
 
@@ -74,9 +70,12 @@ class RequestReader {
         constexpr int number_overflow = 406;
         if (m_in_id) m_result.id.clear();  // cut in the middle
         m_result.mistake = "JSON illeggibile al carattere " + std::to_string(position);
-        if (error.id == number_overflow) m_result.mistake += ": il numero è troppo grande";
+        m_number_end = error.id == number_overflow ? position : 0;
         return false;
     }
+
+    /// Where the number ends that is too large for the parser; 0 if there was none.
+    [[nodiscard]] std::size_t number_end() const { return m_number_end; }
 
   private:
     /// True when the value stands in no object: the line is no request.
@@ -161,6 +160,7 @@ class RequestReader {
     bool m_is_id = false;
     bool m_in_id = false;      // inside an "id" that is an object or a list
     bool m_after_key = false;  // the next value of the "id" follows its key
+    std::size_t m_number_end = 0;
 };
 
 }  // namespace
@@ -173,7 +173,21 @@ JsonRequest read_json_request(std::string_view line) {
     }
     RequestReader reader(result);
     nlohmann::json::sax_parse(line, &reader);
-    return result;
+    if (reader.number_end() == 0) return result;
+
+    // A number beyond the range of doubles ends the parser. Between quotation marks it is a text, which every
+    // field reads as what it is: too large. One such number is one too many for any request, so one try is
+    // enough.
+    constexpr std::string_view number_characters = "+-.0123456789Ee";
+    const std::size_t last = line.find_last_of(number_characters, reader.number_end() - 1);
+    const std::size_t before = line.find_last_not_of(number_characters, last);
+    const std::size_t start = before == std::string_view::npos ? 0 : before + 1;
+    std::string quoted(line);
+    quoted.insert(last + 1, 1, '"').insert(start, 1, '"');
+    JsonRequest second;
+    RequestReader second_reader(second);
+    nlohmann::json::sax_parse(quoted, &second_reader);
+    return second;
 }
 
 }  // namespace coltre::cli

@@ -6,6 +6,7 @@
 #include "platform/surroundings.h"
 
 int main(int argc, char** argv) {
+    coltre::take_file_size_limit_as_error();
     std::ios::sync_with_stdio(false);
     std::cin.tie(nullptr);  // a batch hands its results on by itself
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);

@@ -7,6 +7,7 @@
 #include "calculate/Calcola2.h"
 #include "calculate/return_period.h"
 #include "calculate/site_choice.h"
+#include "platform/files.h"
 #include "report/unit_systems.h"
 #include "site/regions.h"
 #include "text/names.h"
@@ -93,6 +94,7 @@ std::optional<Site> choose_site(std::string_view typed_province, std::string_vie
     const ProvinceChoice choice = choose_province(program, province.found, doors);
     if (!choice.municipalities) {
         result.error = result.messages.back().text;
+        result.told = true;
         return std::nullopt;
     }
     const NameSearch municipality = find_name("comune", typed_municipality, choice.municipalities->names);
@@ -104,6 +106,7 @@ std::optional<Site> choose_site(std::string_view typed_province, std::string_vie
         ReadAltitude(program.directories.ProgramDirectory, province.found, municipality.found, doors);
     if (!altitude) {
         result.error = result.messages.back().text;
+        result.told = true;
         return std::nullopt;
     }
     return Site{province.found, municipality.found, *altitude, program.cells.zone};
@@ -163,14 +166,6 @@ SpecialCasesFields special_cases_fields(const Request& request, std::string alti
     return fields;
 }
 
-/// DIR/name, whatever separator DIR may end with.
-std::string report_path(std::string directory, std::string_view name) {
-    while (directory.size() > 1 && directory.back() == '/')
-        directory.pop_back();
-    if (directory != "/") directory += '/';
-    return directory.append(name);
-}
-
 }  // namespace
 
 Result perform(const Request& request, const Surroundings& surroundings, SiteMemory& memory) {
@@ -205,6 +200,7 @@ Result perform(const Request& request, const Surroundings& surroundings, SiteMem
         const Fault fault = confirm_return_period(*Tr, program.cells, collected).fault;
         if (fault != Fault::none) {
             result.error = fault_text(fault);
+            result.told = true;
             return result;
         }
     }
@@ -220,8 +216,8 @@ Result perform(const Request& request, const Surroundings& surroundings, SiteMem
     result.error =
         outcome.fault != Fault::none ? std::string(fault_text(outcome.fault)) : outcome.file_failure;
     if (outcome.report_written) {
-        result.report =
-            report_path(*request.value(Key::relazione), special ? "coltrecasipart.txt" : "coltre.txt");
+        const std::string name = special ? "\\coltrecasipart.txt" : "\\coltre.txt";
+        result.report = find_path(program.directories.WorkDirectory + name).string();
     }
     return result;
 }

@@ -67,20 +67,19 @@ constexpr std::array<KindInfo, 7> all_kinds{{
 
 std::string find_missing(const Request& request) {
     for (const Key key : info(*request.kind).entries) {
-        if (!request.value(key)) return "manca la chiave " + in_quotes(info(key).name);
+        if (!request.value(key)) return "manca " + in_quotes(info(key).name);
     }
     const bool province = request.value(Key::provincia).has_value();
     const bool municipality = request.value(Key::comune).has_value();
     if (province != municipality) {
-        return "provincia e comune vanno dati insieme: manca la chiave " +
-               in_quotes(province ? "comune" : "provincia");
+        return "provincia e comune vanno dati insieme: manca " + in_quotes(province ? "comune" : "provincia");
     }
     if (province) return {};
     const bool zone = request.value(Key::zona).has_value();
     const bool altitude = request.value(Key::altitudine).has_value();
     if (!zone && !altitude) return "manca il sito: provincia e comune, oppure zona e altitudine";
-    if (!zone) return "manca la chiave " + in_quotes("zona");
-    if (!altitude) return "manca la chiave " + in_quotes("altitudine");
+    if (!zone) return "manca " + in_quotes("zona");
+    if (!altitude) return "manca " + in_quotes("altitudine");
     return {};
 }
 
@@ -131,12 +130,11 @@ std::optional<SnowZone> zone_of(std::string_view text) {
 }
 
 std::string find_mistake(const Request& request) {
-    if (!request.kind) return "manca la chiave " + in_quotes("calcolo");
+    if (!request.kind) return "manca " + in_quotes("calcolo");
     for (std::size_t i = 0; i < key_count; ++i) {
         const auto key = static_cast<Key>(i);
         if (request.value(key) && !takes(*request.kind, key)) {
-            return "la chiave " + in_quotes(info(key).name) + " non è del calcolo " +
-                   in_quotes(info(*request.kind).name);
+            return in_quotes(info(key).name) + " non è del calcolo " + in_quotes(info(*request.kind).name);
         }
     }
     if (std::string missing = find_missing(request); !missing.empty()) return missing;
@@ -146,6 +144,14 @@ std::string find_mistake(const Request& request) {
     }
     if (const auto& unit = request.value(Key::unita); unit && !unit_system_of(*unit)) {
         return "l'unità deve essere \"kN , m\", \"Kgf , m\" o \"kgf , cm\": " + in_quotes(*unit);
+    }
+    for (const Key key : {Key::relazione, Key::altitudini}) {
+        const auto& directory = request.value(key);
+        if (!directory) continue;
+        if (directory->empty()) return "la cartella di " + in_quotes(info(key).name) + " è vuota";
+        if (directory->find('\0') != std::string::npos) {
+            return "la cartella di " + in_quotes(info(key).name) + " contiene un carattere nullo";
+        }
     }
     return {};
 }

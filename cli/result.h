@@ -27,6 +27,7 @@ struct Result {
     std::string report;             ///< path of the report; empty if none was written
     std::vector<Message> messages;  ///< the message boxes, in order
     std::string error;              ///< empty if all is well
+    bool told = false;              ///< a message box has said what went wrong
     bool wrong_request = false;     ///< the request itself was wrong, and touched no file
 };
 

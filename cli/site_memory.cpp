@@ -1,30 +1,25 @@
 #include "cli/site_memory.h"
 
-#include <system_error>
-
-#include "platform/files.h"
 #include "site/altitude_replacement.h"
 
 namespace coltre::cli {
 
-SiteMemory::WriteTime SiteMemory::write_time(std::string_view directory) {
+std::optional<FileState> SiteMemory::state(std::string_view directory) {
     if (directory != m_directory || m_file.empty()) {
         m_directory = directory;
         m_file = find_path(altitude_file_name(directory));
         m_sites.clear();
     }
-    std::error_code error;
-    const auto written = std::filesystem::last_write_time(m_file, error);
-    if (!error) return written;
-    m_file.clear();  // looked for again the next time
-    return std::nullopt;
+    const auto now = file_state(m_file);
+    if (!now) m_file.clear();  // looked for again the next time
+    return now;
 }
 
 std::optional<Site> SiteMemory::recall(std::string_view directory, std::string_view province,
                                        std::string_view municipality) {
-    const WriteTime written = write_time(directory);
-    if (written != m_written) m_sites.clear();
-    m_written = written;
+    const auto now = state(directory);
+    if (now != m_state) m_sites.clear();
+    m_state = now;
     const auto found = m_sites.find({std::string(province), std::string(municipality)});
     if (found == m_sites.end()) return std::nullopt;
     return found->second;
@@ -33,8 +28,11 @@ std::optional<Site> SiteMemory::recall(std::string_view directory, std::string_v
 void SiteMemory::keep(std::string_view directory, std::string_view province, std::string_view municipality,
                       const Site& site) {
     // A file that was written or changed while it was read is not worth remembering.
-    if (!m_written || write_time(directory) != m_written) return;
-    constexpr std::size_t most_sites = 10000;  // more than there are municipalities; a few MB
+    if (!m_state || state(directory) != m_state) return;
+    // More sites than there are municipalities, and longer names than theirs: a few MB at most.
+    constexpr std::size_t most_sites = 10000;
+    constexpr std::size_t longest_name = 64;
+    if (province.size() > longest_name || municipality.size() > longest_name) return;
     if (m_sites.size() >= most_sites) m_sites.clear();
     m_sites.insert_or_assign({std::string(province), std::string(municipality)}, site);
 }

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "engine/program_cells.h"
+#include "platform/files.h"
 
 namespace coltre::cli {
 
@@ -34,14 +35,12 @@ class SiteMemory {
               const Site& site);
 
   private:
-    using WriteTime = std::optional<std::filesystem::file_time_type>;
+    /// State of the directory's altitudini.txt; nothing if it cannot be told.
+    std::optional<FileState> state(std::string_view directory);
 
-    /// When the file of the directory was written; nothing if it cannot be told.
-    WriteTime write_time(std::string_view directory);
-
-    std::string m_directory;       // of the sites below
-    std::filesystem::path m_file;  // its altitudini.txt
-    WriteTime m_written;           // when the file was written that the sites come from
+    std::string m_directory;                                      // of the sites below
+    std::filesystem::path m_file;                                 // its altitudini.txt
+    std::optional<FileState> m_state;                             // of the file that the sites come from
     std::map<std::pair<std::string, std::string>, Site> m_sites;  // by the names as given
 };
 

@@ -5,6 +5,8 @@ target_compile_options(
     INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
               # Wrong alarms of GCC 12 about joined texts.
               -Wno-restrict
+              # The square of a formula is the general power, to its last bit, not a product that stands for it.
+              -fno-builtin-pow
               # A formula gives the same bits on every processor: no fused multiply-add.
               -ffp-contract=off)
 

@@ -14,6 +14,7 @@
 #ifdef _WIN32
 #include <process.h>
 #else
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -42,8 +43,14 @@ fs::path find_name(const fs::path& directory, const fs::path& name) {
     return first == hits.end() ? name : *first;
 }
 
+/// The system would take what stands before a character of code 0 for the whole path.
+bool holds_code_0(const fs::path& path) {
+    return path.native().find(fs::path::value_type{}) != fs::path::string_type::npos;
+}
+
 /// Opens a regular file; a pipe or a device would make the program wait or never end.
 OpenFile open_to_read(const fs::path& path) {
+    if (holds_code_0(path)) return nullptr;
     std::error_code error;
     if (!fs::is_regular_file(path, error)) return nullptr;
     return OpenFile(std::fopen(path.string().c_str(), "rb"));
@@ -69,6 +76,8 @@ std::string system_reason(int error_number) {
             return "al suo posto c'è qualcosa che non è un file";
         case EFBIG:
             return "il file supera la grandezza concessa";
+        case EINVAL:
+            return "il nome non è valido";
         case ENAMETOOLONG:
             return "il nome è troppo lungo";
         case ELOOP:
@@ -168,10 +177,26 @@ std::optional<std::string> read_first_line(std::string_view suite_path) {
     return from_code_page(line);
 }
 
+std::optional<FileState> file_state(const std::filesystem::path& path) {
+#ifdef _WIN32
+    std::error_code error;
+    const auto written = fs::last_write_time(path, error);
+    if (error) return std::nullopt;
+    return FileState{written.time_since_epoch().count(), 0, 0};
+#else
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) return std::nullopt;
+    constexpr long long second = 1'000'000'000;  // ns
+    return FileState{status.st_mtim.tv_sec * second + status.st_mtim.tv_nsec,
+                     status.st_ctim.tv_sec * second + status.st_ctim.tv_nsec,
+                     static_cast<long long>(status.st_ino)};
+#endif
+}
+
 std::string file_line(std::string_view utf8) {
     std::string line = to_code_page(utf8);
     std::ranges::replace_if(
-        line, [](char c) { return c == '\r' || c == '\n'; }, '?');
+        line, [](char c) { return c == '\r' || c == '\n' || c == '\0'; }, '?');
     return line + "\r\n";
 }
 
@@ -186,6 +211,7 @@ FileReplacement::FileReplacement(std::string_view suite_path) : m_target(find_pa
 }
 
 int FileReplacement::open() {
+    if (holds_code_0(m_target)) return EINVAL;
     std::error_code error;
     const fs::file_status status = fs::status(m_target, error);
     if (fs::exists(status)) {

@@ -30,7 +30,22 @@ std::optional<std::string> read_file(std::string_view suite_path);
 /// @return nothing if the file cannot be opened or read
 std::optional<std::string> read_first_line(std::string_view suite_path);
 
-/// A text line as the program's files hold it: Windows-1252, CR LF at its end. Line ends inside become "?".
+/// A state of a file that changes whenever its bytes change, unless that happens within one tick of the file
+/// system's clock.
+struct FileState {
+    long long written;  ///< time of the last writing, ns
+    long long
+        changed;  ///< time of the last change of anything about the file, ns; 0 where the system has none
+    long long number;  ///< of the file in its file system; 0 where the system has none
+
+    bool operator==(const FileState&) const = default;
+};
+
+/// The state of a file; nothing if it cannot be told.
+std::optional<FileState> file_state(const std::filesystem::path& path);
+
+/// A text line as the program's files hold it: Windows-1252, CR LF at its end. Line ends and characters of
+/// code 0 inside become "?".
 std::string file_line(std::string_view utf8);
 
 /// Gives the file another name in the same directory; an existing file of that name is replaced.

@@ -1,5 +1,6 @@
 #include "platform/surroundings.h"
 
+#include <csignal>
 #include <filesystem>
 #include <locale>
 #include <stdexcept>
@@ -14,6 +15,12 @@ std::string own_directory(const char* invoked_as) {
     std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
     if (error) program = std::filesystem::absolute(invoked_as, error);
     return suite_notation(program.parent_path());
+}
+
+void take_file_size_limit_as_error() {
+#ifdef SIGXFSZ
+    std::signal(SIGXFSZ, SIG_IGN);
+#endif
 }
 
 char user_decimal_separator() {

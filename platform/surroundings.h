@@ -8,6 +8,10 @@ namespace coltre {
 /// @param invoked_as  how the program was called (argv[0]); used where the system does not tell
 std::string own_directory(const char* invoked_as);
 
+/// Has a write beyond the user's limit on the size of files fail, instead of killing the program in the
+/// middle of it.
+void take_file_size_limit_as_error();
+
 /// The decimal separator of the user's locale, for the strict number reading; "." where it cannot be told.
 char user_decimal_separator();
 

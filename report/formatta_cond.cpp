@@ -140,7 +140,7 @@ bool fit_field(std::string& text, double value, int width, int point, std::strin
 /// "(np_1)": a point at the end gives way to a blank; a right-aligned field keeps its width.
 void drop_trailing_point(std::string& text, const Keywords& keywords) {
     if (!trim_blanks(text).ends_with('.')) return;
-    text[text.rfind('.')] = ' ';
+    text[bytes_of_characters(text, static_cast<std::size_t>(last_occurrence(text, ".") - 1))] = ' ';
     if (keywords.has(Keywords::fd) && !keywords.has(Keywords::cd)) {
         text.pop_back();
         text.insert(0, 1, ' ');

@@ -99,14 +99,4 @@ StrictNumber read_strictly(std::string_view text, char decimal_separator) {
     return {StrictNumber::Verdict::number, value};
 }
 
-bool read_whole_number(std::string_view text, int& value) {
-    const bool negative = text.starts_with('-');
-    if (negative || text.starts_with('+')) text.remove_prefix(1);
-    if (text.empty() || text.size() > 9 || skip_digits(text, 0) != text.size()) return false;
-    int read = 0;
-    std::from_chars(text.data(), text.data() + text.size(), read);
-    value = negative ? -read : read;
-    return true;
-}
-
 }  // namespace coltre

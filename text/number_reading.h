@@ -32,8 +32,4 @@ struct StrictNumber {
 /// Not a number: "", "2m", "1.2.3", "1,234.5", "nan", "inf", "0x10".
 StrictNumber read_strictly(std::string_view text, char decimal_separator);
 
-/// The text as a whole number of at most nine digits with an optional sign, without anything around it.
-/// @return false, and `value` untouched, if it is none.
-bool read_whole_number(std::string_view text, int& value);
-
 }  // namespace coltre

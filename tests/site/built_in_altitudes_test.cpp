@@ -23,9 +23,9 @@ TEST(BuiltInAltitudes, HasTheKnownNumberOfLines) {
         if (name == line) continue;
         ++municipalities;
         if (!names.insert(name).second) ++repeated;
-        int altitude = -1;
-        EXPECT_TRUE(read_whole_number(trim_blanks(line.substr(name.size())), altitude)) << line;
-        highest = std::max(highest, altitude);
+        const StrictNumber altitude = read_strictly(line.substr(name.size()), '.');
+        EXPECT_EQ(altitude.verdict, StrictNumber::Verdict::number) << line;
+        highest = std::max(highest, static_cast<int>(altitude.value));
     }
     EXPECT_EQ(lines, 8618);
     EXPECT_EQ(empty, 105);

@@ -103,18 +103,5 @@ TEST(ReadStrictly, TakesTheWholeTextOrNothing) {
     }
 }
 
-TEST(ReadWholeNumber, TakesNineDigitsAndASign) {
-    int value = -1;
-    EXPECT_TRUE(read_whole_number("0", value) && value == 0);
-    EXPECT_TRUE(read_whole_number("+07", value) && value == 7);
-    EXPECT_TRUE(read_whole_number("999999999", value) && value == 999999999);
-    EXPECT_TRUE(read_whole_number("-999999999", value) && value == -999999999);
-    value = 5;
-    for (const char* text : {"", "+", "-", "+-1", "-+1", " 1", "1 ", "1.0", "1e3", "0x1", "1234567890",
-                             "-1234567890", "99999999999999999999"})
-        EXPECT_FALSE(read_whole_number(text, value)) << text;
-    EXPECT_EQ(value, 5);
-}
-
 }  // namespace
 }  // namespace coltre
