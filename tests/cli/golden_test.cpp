@@ -89,7 +89,7 @@ TEST(Golden, EveryCaseGivesItsResultAndItsReport) {
         fs::create_directory(own);
         request = with_directory(request, own.string());
     }
-    const auto results = run_batch_of(requests);
+    const auto results = run_command({"lotto"}, requests).results();
     const auto expected = lines_of(golden / "expected.jsonl");
     ASSERT_EQ(results.size(), expected.size());
     for (std::size_t i = 0; i < results.size(); ++i) {
@@ -115,10 +115,10 @@ TEST(Golden, OrderOfTheRequestsChangesNoResult) {
     std::vector<std::string> requests = lines_of(golden / "requests.jsonl");
     for (std::string& request : requests)
         request = with_directory(request, directory.path().string());
-    auto results = run_batch_of(requests);
+    auto results = run_command({"lotto"}, requests).results();
     std::ranges::reverse(requests);
     std::ranges::reverse(results);
-    EXPECT_EQ(run_batch_of(requests), results);
+    EXPECT_EQ(run_command({"lotto"}, requests).results(), results);
 }
 
 }  // namespace

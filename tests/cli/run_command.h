@@ -12,32 +12,34 @@ namespace coltre::cli {
 using Json = nlohmann::ordered_json;
 
 /// What a run of the command left.
-struct Run {
+struct CommandRun {
     int status;
     std::string out;
     std::string err;
+
+    /// The results of a batch.
+    [[nodiscard]] std::vector<Json> results() const {
+        std::istringstream lines(out);
+        std::vector<Json> results;
+        for (std::string line; std::getline(lines, line);)
+            results.push_back(Json::parse(line));
+        return results;
+    }
 };
 
-inline Run run_command(const std::vector<std::string>& arguments, const std::string& input = {},
-                       const Surroundings& surroundings = {}) {
-    std::istringstream in(input);
+inline CommandRun run_command(const std::vector<std::string>& arguments, std::istream& in) {
     std::ostringstream out;
     std::ostringstream err;
-    const int status = run(arguments, surroundings, in, out, err);
+    const int status = run(arguments, {}, in, out, err);
     return {status, out.str(), err.str()};
 }
 
-/// The results of a batch of these lines.
-inline std::vector<Json> run_batch_of(const std::vector<std::string>& lines,
-                                      const Surroundings& surroundings = {}) {
-    std::string input;
+inline CommandRun run_command(const std::vector<std::string>& arguments,
+                              const std::vector<std::string>& lines = {}) {
+    std::stringstream in;
     for (const std::string& line : lines)
-        input += line + '\n';
-    std::istringstream out(run_command({"lotto"}, input, surroundings).out);
-    std::vector<Json> results;
-    for (std::string line; std::getline(out, line);)
-        results.push_back(Json::parse(line));
-    return results;
+        in << line << '\n';
+    return run_command(arguments, in);
 }
 
 }  // namespace coltre::cli
