@@ -1,11 +1,9 @@
 #include <gmock/gmock.h>
 
-#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <streambuf>
 
-#include "platform/files.h"
 #include "tests/cli/run_command.h"
 #include "tests/support/temporary_directory.h"
 
@@ -21,49 +19,23 @@ std::string request(const std::string& site, const std::string& more = R"("alfa"
 
 const std::string by_number = R"("zona":0,"altitudine":100)";
 
-TEST(Batch, WrongRequestsSayWhyAndTouchNoFile) {
-    const TemporaryDirectory directory;
-    const std::string places = R"("altitudini":")" + directory.path().string() + R"(","relazione":")" +
-                               directory.path().string() + R"(")";
-    std::vector<std::string> lines;
-    std::vector<testing::Matcher<std::string>> errors;
-    for (const auto& [line, error] : std::vector<std::pair<std::string, testing::Matcher<std::string>>>{
-             {"", "riga vuota"},
-             {"{", HasSubstr("JSON illeggibile")},
-             {request(by_number, R"("alfa":1e400)"), HasSubstr("il numero è troppo grande")},
-             {"[" + request(by_number) + "]", "la richiesta deve essere un oggetto JSON"},
-             {"15", "la richiesta deve essere un oggetto JSON"},
-             {"{" + by_number + R"(,"alfa":15})", "manca la chiave «calcolo»"},
-             {R"({"calcolo":"tetto"})", "calcolo sconosciuto: «tetto»"},
-             {R"({"calcolo":null})", "«calcolo» deve essere un testo, non null"},
-             {request(by_number, R"("alfa":true)"), "«alfa» deve essere un numero o un testo, non true"},
-             {request(by_number, R"("alfa":[15])"), "«alfa» deve essere un numero o un testo, non una lista"},
-             {request(by_number, R"("alfa":1,"lavoro":7)"), "«lavoro» deve essere un testo, non un numero"},
-             {request(by_number, R"("alfa":1,"alfa":2)"), "chiave ripetuta: «alfa»"},
-             {request(by_number, R"("alfa":1,"Alfa":2)"), "chiave sconosciuta: «Alfa»"},
-             {request(by_number, R"("alfa":1,"alfa1":2)"), "la chiave «alfa1» non è del calcolo «una-falda»"},
-             {request(by_number, places), "manca la chiave «alfa»"},
-             {request(places), "manca il sito: provincia e comune, oppure zona e altitudine"},
-             {request(R"("zona":1,)" + places), "manca la chiave «altitudine»"},
-             {request(R"("provincia":"Torino",)" + places),
-              "provincia e comune vanno dati insieme: manca la chiave «comune»"},
-             {request(R"("altitudine":1,"zona":1.5,)" + places), "la zona deve essere 0, 1, 2 o 3: «1.5»"},
-             {request(R"("altitudine":1,"zona":4,)" + places), "la zona deve essere 0, 1, 2 o 3: «4»"},
-             {request(by_number, R"("alfa":1,"unita":"kgf , m",)" + places), HasSubstr("«kgf , m»")},
-             {std::string(2'000'000, ' '), HasSubstr("più lunga")},
-         }) {
-        lines.push_back(line);
-        errors.push_back(error);
-    }
-    lines.push_back(request(by_number));
+TEST(Batch, GoesOnAfterALineThatIsNoRequest) {
+    const std::vector<std::string> lines{"",
+                                         "{",
+                                         request(by_number, R"("alfa":1e400)"),
+                                         "[" + request(by_number) + "]",
+                                         "15",
+                                         std::string(2'000'000, ' '),
+                                         request(by_number)};
     const CommandRun run = run_command({"lotto"}, lines);
     EXPECT_EQ(run.status, failed);
-    const auto results = run.results();
-    ASSERT_EQ(results.size(), lines.size());
-    for (std::size_t i = 0; i < errors.size(); ++i)
-        EXPECT_THAT(results[i].value("errore", ""), errors[i]) << lines[i].substr(0, 100);
-    EXPECT_EQ(results.back()["risultati"]["qs_1"], 1.5 * 0.8) << "the batch went on";
-    EXPECT_TRUE(std::filesystem::is_empty(directory.path()));
+    std::vector<std::string> errors;
+    for (const Json& result : run.results())
+        errors.push_back(result["errore"].is_null() ? "" : result["errore"].get<std::string>());
+    const std::string no_object = "la richiesta deve essere un oggetto JSON";
+    EXPECT_THAT(errors,
+                testing::ElementsAre("riga vuota", HasSubstr("JSON illeggibile"), HasSubstr("troppo grande"),
+                                     no_object, no_object, HasSubstr("più lunga"), ""));
 }
 
 TEST(Batch, IdComesBackWhateverItIs) {
@@ -73,18 +45,6 @@ TEST(Batch, IdComesBackWhateverItIs) {
              {request(by_number, R"("alfa":15,"id":)" + id), R"({"id":)" + id + R"(,"alfa":{}})"})
             EXPECT_EQ(run_command({"lotto"}, {line}).results().at(0)["id"], Json::parse(id)) << line;
     }
-}
-
-TEST(Batch, TextIsReadAsItsFieldReadsIt) {
-    const auto results =
-        run_command({"lotto"}, {request(by_number, R"("alfa":" 45abc")"), request(by_number, R"("alfa":"")"),
-                                R"({"calcolo":"parete",)" + by_number + R"(,"h":" 3 "})",
-                                R"({"calcolo":"parete",)" + by_number + R"(,"h":"3 m"})"})
-            .results();
-    EXPECT_NEAR(results[0]["mu"]["mu1"].get<double>(), 0.4, 1e-12);
-    EXPECT_EQ(results[1]["mu"]["mu1"], 0.8);
-    EXPECT_EQ(results[2]["risultati"]["ls"], 6);
-    EXPECT_EQ(results[3]["errore"], "conversione non valida");
 }
 
 class BatchByName : public testing::Test {

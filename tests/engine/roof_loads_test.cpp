@@ -5,18 +5,18 @@
 #include <tuple>
 #include <utility>
 
+#include "engine/Calcolo_Mu.h"
+
 namespace coltre {
 namespace {
 
-// By hand: up to qs = 3 the smaller k is 3d = qs, so qe = qs^3 / 3; above it is 3/d = 9 / qs, so qe = 3 qs.
-TEST(OverhangLoad, TakesTheSmallerCoefficient) {
-    EXPECT_NEAR(qe(1.2).value(), 0.576, 1e-12);
-    EXPECT_NEAR(qe(2.7).value(), 6.561, 1e-12);
-    EXPECT_NEAR(qe(3).value(), 9, 1e-12);
-    EXPECT_NEAR(qe(3.3).value(), 9.9, 1e-12);
-    EXPECT_NEAR(qe(4).value(), 12, 1e-12);
-    EXPECT_EQ(qe(0).fault(), Fault::division_by_zero);
-    EXPECT_EQ(qe(1e155).fault(), Fault::numeric_error);
+TEST(ShapeCoefficients, Mu1NeverRisesWithTheSlope) {
+    ProgramCells cells;
+    double before = 0.8;
+    for (double alfa = 0; alfa <= 90; alfa += 0.0625, before = cells.mu1) {
+        mu1(cells, alfa);
+        EXPECT_LE(cells.mu1, before) << alfa;
+    }
 }
 
 TEST(TwoPitches, MirroredRoofHasMirroredLoads) {

@@ -22,7 +22,6 @@ TEST(Formatta, DirectivesInTheOrderOfTheirSteps) {
         std::string_view text;
     };
     for (const Case& c : {
-             Case{1.2, "(FD_08)(DV_04)(SC_|)", 1, "  1.2   |"},
              Case{-0.5, "", 1, "-.5"},
              Case{1.5, "", 2, "3"},
              Case{0.012345, "(dv_04)", 100, "1.23"},    // two decimals fewer
@@ -31,17 +30,14 @@ TEST(Formatta, DirectivesInTheOrderOfTheirSteps) {
              Case{4e6, "(dv_01)(zr_0)", 0.000002, "8.0000000"},  // shift 6
              Case{1.23456, "(CU_m_CM)(fd_08)(DV_04)", 1, "  123.46"},
              Case{1, "(cu_mm_m)(dv_04)(zr_0)", 1, ".0010000"},
-             Case{1.23456, "(dv_04)(Cu_Kn_kgF)", 1, "125.89"},
              Case{1, "(dv_04)(cu_mn_kgf)", 1, "101972."},  // no fewer than 0 decimals
              Case{1.5, "(cu_kgf_KGF)(dv_02)", 1, "1.5"},   // no command, but one unit twice
-             Case{1, "(dv_04)(cu_kn_kgf)(cu_m_cm)", 1, "100."},
              Case{1234.5, "(cs_03)", 1, "1230."},
              Case{0.012345, "(cs_02)", 1, ".012"},
              Case{98765, "(cs_02)(cs_04)", 1, "99000."},  // the first counts
              Case{1.23456, "(dv_4)(sc_|)", 1, "1.2346"},  // seven characters go, "(" among them
              Case{1.23456, "(dv_04)(cd_01)", 1, "1.2346"},
              Case{2.5, "(cd_00)", 1, "2."},  // to the even neighbour
-             Case{3.5, "(cd_00)", 1, "4."},
              Case{0.125, "(cd_02)", 1, ".12"},
              Case{1.26, "(CD_xx)", 1, "1."},  // no number is 0
              Case{1.5, "(cd_03)(zr_0)", 1, "1.500"},
@@ -54,7 +50,6 @@ TEST(Formatta, DirectivesInTheOrderOfTheirSteps) {
              Case{12.30001, "(fd_05)", 1, "12.3\0"sv},  // no fill was chosen
              Case{12.30001, "(cd_05)(fd_05)", 1, "12.3 "},
              Case{123.6, "(fd_03)", 1, "124"},
-             Case{123456789, "(FD_08)", 1, ".12346E9"},
              Case{123456789, "(FD_03)(sc_|)", 1, "***|"},
              Case{2e20, "(fd_08)(sc_|)", 1, "   .2E21|"},
              Case{1.5e-7, "(fd_06)", 1, ".15E-6"},
@@ -64,7 +59,6 @@ TEST(Formatta, DirectivesInTheOrderOfTheirSteps) {
              Case{3, "(np_1)", 1, "3"},
              Case{3, "(fd_05)(np_1)", 1, "    3"},
              Case{3, "(fd_05)(cd_00)(np_1)", 1, "   3 "},
-             Case{1.5, "(fd_05)(np_1)", 1, "  1.5"},
              Case{1.5, "(sc_ kN/m² )", 1, "1.5 kN/m² "},
              Case{1.5, "(sc_)(sc_|)", 1, "1.5"},
              Case{1.5, "(sc_|", 1, "1.5"},

@@ -8,8 +8,7 @@
 #include <map>
 #include <set>
 #include <string>
-#include <utility>
-#include <vector>
+#include <string_view>
 
 #include "text/characters.h"
 
@@ -23,28 +22,16 @@ std::string way_back(std::string_view command) {
     return "(cu_" + units.substr(between + 1) + "_" + units.substr(0, between) + ")";
 }
 
-std::string upper_case(std::string text) {
-    std::ranges::transform(text, text.begin(),
-                           [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    return text;
-}
-
 // The families have 10, 8, 4, 26, 34, 54, 8, 94, 60 and 2 rows.
 TEST(UnitTable, FamiliesStandInTheirOrder) {
     const auto table = unit_table();
     ASSERT_EQ(table.size(), 300U);
-    for (const auto& [row, command] :
-         std::vector<std::pair<std::size_t, const char*>>{{0, "(cu_m_cm)"},
-                                                          {10, "(cu_cm2_m2)"},
-                                                          {18, "(cu_cm3_m3)"},
-                                                          {22, "(cu_n_kgf)"},
-                                                          {48, "(cu_kgfcm_knm)"},
-                                                          {82, "(cu_kgf/cm_kn/m)"},
-                                                          {136, "(cu_cm/s_m/s)"},
-                                                          {144, "(cu_kgf/cm2_kgf/m2)"},
-                                                          {238, "(cu_kgf/m3_kgf/cm3)"},
-                                                          {298, "(cu_W/mK_W/cmK)"}})
-        EXPECT_EQ(table[row].command, command);
+    std::string first_commands;
+    for (const unsigned row : {0U, 10U, 18U, 22U, 48U, 82U, 136U, 144U, 238U, 298U})
+        first_commands += table[row].command;
+    EXPECT_EQ(first_commands,
+              "(cu_m_cm)(cu_cm2_m2)(cu_cm3_m3)(cu_n_kgf)(cu_kgfcm_knm)(cu_kgf/cm_kn/m)(cu_cm/s_m/s)"
+              "(cu_kgf/cm2_kgf/m2)(cu_kgf/m3_kgf/cm3)(cu_W/mK_W/cmK)");
 }
 
 TEST(UnitTable, EachCommandIsFoundInAnyLetterCase) {
@@ -53,8 +40,11 @@ TEST(UnitTable, EachCommandIsFoundInAnyLetterCase) {
     for (const UnitCommand& row : unit_table()) {
         EXPECT_NE(row.multiplier, 0) << row.command;
         const std::string command = lower_case(row.command);
+        std::string upper = command;
+        std::ranges::transform(upper, upper.begin(),
+                               [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
         if (!first.emplace(command, &row).second) twice.insert(command);
-        for (const std::string& written : {command, upper_case(command), "(DV_04)" + command + "(SC_|)"})
+        for (const std::string& written : {command, upper, "(DV_04)" + command + "(SC_|)"})
             EXPECT_EQ(find_unit_command(written), first[command]) << written;
     }
     EXPECT_THAT(twice, testing::ElementsAre("(cu_dan/cm3_tf/m3)", "(cu_kgf/cm3_tf/m3)", "(cu_tf/m3_dan/cm3)",
@@ -70,20 +60,19 @@ TEST(UnitTable, OfSeveralCommandsTheLowestRowWins) {
 
 // There and back is 1, and the decimals come back too, but for the rows that are known to be irregular.
 TEST(UnitTable, EveryCommandThereAndBack) {
-    std::set<std::string> no_way_back;
+    int no_way_back = 0;
     std::set<std::string> irregular;
     for (const UnitCommand& row : unit_table()) {
         const std::string command = lower_case(row.command);
         const UnitCommand* const back = find_unit_command(way_back(row.command));
         if (back == nullptr) {
-            no_way_back.insert(command);
+            ++no_way_back;
         } else if (std::fabs(row.multiplier * back->multiplier - 1) > 1e-5 ||
                    row.decimal_shift != -back->decimal_shift) {
             irregular.insert(command);
         }
     }
-    EXPECT_THAT(no_way_back, testing::ElementsAre("(cu_cm4_m4)", "(cu_cm4_mm4)", "(cu_n/m2_dan/m2)",
-                                                  "(cu_n/m2_kgf/m2)", "(cu_pa_dan/m2)", "(cu_pa_kgf/m2)"));
+    EXPECT_EQ(no_way_back, 6) << "two of cm4, and four from pascal to square metres";
     EXPECT_THAT(irregular,
                 testing::ElementsAre("(cu_cm/s_ft/s)", "(cu_dan/cm2_mn/m2)", "(cu_dan/cm2_mpa)",
                                      "(cu_ft/s_cm/s)", "(cu_kgf/cm2_mn/m2)", "(cu_kgf/cm2_mpa)",
