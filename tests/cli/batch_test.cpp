@@ -21,7 +21,7 @@ const std::string by_number = R"("zona":0,"altitudine":100)";
 
 TEST(Batch, GoesOnAfterALineThatIsNoRequest) {
     const std::vector<std::string> lines{"",
-                                         "{",
+                                         R"({"calcolo":"una-falda","id":[1,)",
                                          request(by_number, R"("alfa":1e400)"),
                                          "[" + request(by_number) + "]",
                                          "15",
