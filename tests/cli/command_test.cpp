@@ -38,7 +38,7 @@ TEST(Command, ExitStatusTellsWhoIsWrong) {
     for (const Case& c : std::vector<Case>{
              {{}, bad_usage, "manca il calcolo"},
              {{"tetto"}, bad_usage, "argomento sconosciuto: «tetto»"},
-             {{"parete", "--zona", "0", "--altitudine", "1"}, bad_usage, "manca la chiave «h»"},
+             {{"parete", "--zona", "0", "--altitudine", "1"}, bad_usage, "manca «h»"},
              {{"parete", "--h"}, bad_usage, "manca il valore di --h"},
              {{"parete", "--zona", "0", "--altitudine", "1", "--h", "1", "--h", "2"},
               bad_usage,

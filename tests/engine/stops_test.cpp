@@ -62,8 +62,8 @@ TEST(StoppedCalculation, SetsTheCellsBeforeTheFaultAlone) {
         Recorder recorder;
         const auto* const roof = std::get_if<Roof>(&c.what);
         const CalculationEnd end =
-            roof != nullptr ? calculate_roof(cells, *roof, recorder)
-                            : calculate_special_case(cells, std::get<SpecialCaseEntries>(c.what), recorder);
+            roof != nullptr ? calculate_roof(cells, *roof, &recorder)
+                            : calculate_special_case(cells, std::get<SpecialCaseEntries>(c.what), &recorder);
         EXPECT_EQ(end.fault, c.fault) << c.quantity;
         EXPECT_EQ(end.quantity, c.quantity);
         EXPECT_EQ(recorder.names, c.set);
