@@ -18,29 +18,6 @@ Message altitude_message() {
             "(Circ. 4 luglio 1996)"};
 }
 
-Roof read_roof(const MainWindowFields& fields, EntryReader& reader) {
-    Roof roof;
-    roof.family = fields.SSTab1;
-    switch (roof.family) {
-        case RoofFamily::one_pitch:
-            roof.alfa1 = reader.lenient("alfa", fields.inputalfa);
-            break;
-        case RoofFamily::two_pitches:
-            roof.alfa1 = reader.lenient("alfa1", fields.inputalfa1);
-            roof.alfa2 = reader.lenient("alfa2", fields.inputalfa2);
-            break;
-        case RoofFamily::several_pitches:
-            roof.alfa1 = reader.lenient("alfa1", fields.inputalfa3);
-            roof.alfa2 = reader.lenient("alfa2", fields.inputalfa4);
-            break;
-        case RoofFamily::cylindrical:
-            roof.L = reader.lenient("L", fields.Lcopcil);
-            roof.H = reader.lenient("H", fields.hcopcil);
-            break;
-    }
-    return roof;
-}
-
 /// Why the roof load under an overhang load is 0: the pitch that made it so, or the ground load.
 std::string zero_load_reason(std::string_view quantity, const Roof& roof, const ProgramCells& cells) {
     if (cells.qsk == 0) return "Il carico neve al suolo qsk è 0.";
@@ -115,6 +92,29 @@ std::optional<Stop> calculate_family(const MainWindowFields& fields, ProgramCell
 }
 
 }  // namespace
+
+Roof read_roof(const MainWindowFields& fields, EntryReader& reader) {
+    Roof roof;
+    roof.family = fields.SSTab1;
+    switch (roof.family) {
+        case RoofFamily::one_pitch:
+            roof.alfa1 = reader.lenient("alfa", fields.inputalfa);
+            break;
+        case RoofFamily::two_pitches:
+            roof.alfa1 = reader.lenient("alfa1", fields.inputalfa1);
+            roof.alfa2 = reader.lenient("alfa2", fields.inputalfa2);
+            break;
+        case RoofFamily::several_pitches:
+            roof.alfa1 = reader.lenient("alfa1", fields.inputalfa3);
+            roof.alfa2 = reader.lenient("alfa2", fields.inputalfa4);
+            break;
+        case RoofFamily::cylindrical:
+            roof.L = reader.lenient("L", fields.Lcopcil);
+            roof.H = reader.lenient("H", fields.hcopcil);
+            break;
+    }
+    return roof;
+}
 
 ClickOutcome Calcola(const MainWindowFields& fields, Program& program, MessageBoxes& message_boxes,
                      CalculationObserver& observer) {

@@ -19,6 +19,9 @@ struct MainWindowFields {
     bool Check1Box = false;              ///< write the report
 };
 
+/// The roof of the selected tab, read as the calculation reads it.
+Roof read_roof(const MainWindowFields& fields, EntryReader& reader);
+
 /// The road of a click on `Calcola`: ground load, unit system, heading of the report, load cases of the
 /// selected roof, end of the report. Results go into the program's cells, coltre.txt into its WorkDirectory.
 /// Told on the way: an altitude above 1500 m, a cylindrical roof that cannot be, the report written or not

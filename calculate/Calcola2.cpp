@@ -8,28 +8,6 @@ namespace coltre {
 
 namespace {
 
-SpecialCaseEntries read_entries(const SpecialCasesFields& fields, EntryReader& reader) {
-    SpecialCaseEntries entries;
-    entries.special_case = fields.cartelle;
-    switch (entries.special_case) {
-        case SpecialCase::level_change:
-            entries.b1 = reader.strict("b1", fields.b1input, fields.decimal_separator);
-            entries.b2 = reader.strict("b2", fields.b2input, fields.decimal_separator);
-            entries.h = reader.strict("h", fields.h2input, fields.decimal_separator);
-            entries.alfa = reader.strict("alfa", fields.deltainput, fields.decimal_separator);
-            break;
-        case SpecialCase::wall:
-            entries.h = reader.strict("h", fields.h3input, fields.decimal_separator);
-            break;
-        case SpecialCase::snow_guard:
-            entries.qs = reader.lenient("qs", fields.qsinput);
-            entries.b = reader.lenient("b", fields.biinput);
-            entries.alfa = reader.lenient("alfa", fields.angoloinput);
-            break;
-    }
-    return entries;
-}
-
 Stop explain(const CalculationEnd& end, const SpecialCaseEntries& entries, const ProgramCells& cells) {
     Stop stop{end.fault, "Non si può calcolare " + std::string(end.quantity) + "."};
     if (entries.special_case == SpecialCase::level_change && entries.h == 0) {
@@ -62,6 +40,28 @@ std::optional<Stop> set_design_ground_load(const SpecialCasesFields& fields, Pro
 }
 
 }  // namespace
+
+SpecialCaseEntries read_entries(const SpecialCasesFields& fields, EntryReader& reader) {
+    SpecialCaseEntries entries;
+    entries.special_case = fields.cartelle;
+    switch (entries.special_case) {
+        case SpecialCase::level_change:
+            entries.b1 = reader.strict("b1", fields.b1input, fields.decimal_separator);
+            entries.b2 = reader.strict("b2", fields.b2input, fields.decimal_separator);
+            entries.h = reader.strict("h", fields.h2input, fields.decimal_separator);
+            entries.alfa = reader.strict("alfa", fields.deltainput, fields.decimal_separator);
+            break;
+        case SpecialCase::wall:
+            entries.h = reader.strict("h", fields.h3input, fields.decimal_separator);
+            break;
+        case SpecialCase::snow_guard:
+            entries.qs = reader.lenient("qs", fields.qsinput);
+            entries.b = reader.lenient("b", fields.biinput);
+            entries.alfa = reader.lenient("alfa", fields.angoloinput);
+            break;
+    }
+    return entries;
+}
 
 ClickOutcome Calcola2(const SpecialCasesFields& fields, Program& program, MessageBoxes& message_boxes,
                       CalculationObserver& observer) {

@@ -21,6 +21,9 @@ struct SpecialCasesFields {
     char decimal_separator = '.';                       ///< of the user's locale, for the strict fields
 };
 
+/// The entries of the selected page, read as the calculation reads them.
+SpecialCaseEntries read_entries(const SpecialCasesFields& fields, EntryReader& reader);
+
 /// The road of a click on `Calcola2`: design ground load (written back into the shared qsk cell: intended),
 /// unit system, heading of the report, the special case of the selected page, end of the report. Results go
 /// into the program's cells, coltrecasipart.txt into its WorkDirectory. An altitude above 1500 m is not told

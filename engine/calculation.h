@@ -83,9 +83,6 @@ class CalculationObserver {
     virtual void on_roof(const Roof& /*roof*/) {}
     /// A load case is complete.
     virtual void on_load_case(const LoadCase& /*load_case*/) {}
-    /// Level change: the drift is cut at the end of the lower roof, or lies wholly on it. Told when it is
-    /// settled, before the cut changes the results.
-    virtual void on_drift(bool /*cut*/) {}
     /// A special case is complete, its results in the cells.
     virtual void on_special_case(const SpecialCaseEntries& /*entries*/) {}
 };

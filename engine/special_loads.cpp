@@ -13,12 +13,6 @@ using namespace results;
 
 constexpr double mu1_flat = 0.8;  // coefficient at the end of the drift, and the least at the step
 
-/// Drift length: twice the height, between 5 and 15 m.
-bool set_drift_length(Calculation& run, const ResultCell& ls, double h) {
-    const Checked length = Checked(2) * h;
-    return run.set(ls, length.fault() == Fault::none ? std::clamp(length.value(), 5.0, 15.0) : length);
-}
-
 void level_change(Calculation& run, const SpecialCaseEntries& entries) {
     ProgramCells& cells = run.cells();
     const double G = cells.qsk;
@@ -39,10 +33,8 @@ void level_change(Calculation& run, const SpecialCaseEntries& entries) {
     if (!run.set(level_mu2, Checked(mu_s) + mu_w)) return;
     if (!run.set(level_qs2, Checked(cells.level_mu2) * G)) return;
     if (!run.set(level_qs1, Checked(mu1_flat) * G)) return;
-    if (!set_drift_length(run, level_ls, entries.h)) return;
-    const bool cut = cells.level_ls >= entries.b2;
-    if (run.observer() != nullptr) run.observer()->on_drift(cut);
-    if (cut) {
+    if (!run.set(level_ls, drift_length(entries.h))) return;
+    if (drift_is_cut(cells.level_ls, entries.b2)) {
         const Checked qs1 = cells.level_qs1;
         const Checked ls = cells.level_ls;
         if (!run.set(level_qs1, qs1 + (cells.level_qs2 - qs1) / ls * (ls - entries.b2))) return;
@@ -58,7 +50,7 @@ void wall(Calculation& run, const SpecialCaseEntries& entries) {
     const Checked mu2 = Checked(2) * entries.h / G;
     if (!run.set(wall_mu2, mu2.fault() == Fault::none ? std::clamp(mu2.value(), mu1_flat, 2.0) : mu2)) return;
     if (!run.set(wall_qs2, Checked(cells.mu2) * G)) return;
-    if (!set_drift_length(run, wall_ls, entries.h)) return;
+    if (!run.set(wall_ls, drift_length(entries.h))) return;
     if (run.observer() != nullptr) run.observer()->on_special_case(entries);
 }
 
@@ -70,6 +62,15 @@ void snow_guard(Calculation& run, const SpecialCaseEntries& entries) {
 }
 
 }  // namespace
+
+Checked drift_length(double h) {
+    const Checked length = Checked(2) * h;
+    return length.fault() == Fault::none ? std::clamp(length.value(), 5.0, 15.0) : length;
+}
+
+bool drift_is_cut(double ls, double b2) {
+    return ls >= b2;
+}
 
 CalculationEnd calculate_special_case(ProgramCells& cells, const SpecialCaseEntries& entries,
                                       CalculationObserver* observer) {

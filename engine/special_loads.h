@@ -6,6 +6,14 @@
 // Source: circular of 4 July 1996, C.6.4 to C.6.6.
 namespace coltre {
 
+/// Length of a drift, m: twice the height of the step or wall, between 5 and 15 m.
+/// @param h  m
+Checked drift_length(double h);
+
+/// Whether the drift of a level change reaches the end of the lower roof, or just ends there, and is cut.
+/// @param ls  drift length, m   @param b2  width of the lower roof, m
+bool drift_is_cut(double ls, double b2);
+
 /// Computes the special case from the qsk cell, which holds the design ground load G, into its result cells,
 /// and tells the observer each result, whether the drift of a level change is cut, then the complete case.
 ///  - level change: mu2 = (b1 + b2) / 2h, at most 2h / G, between 0.8 and 4.0; ls = 2h between 5 and 15 m. A

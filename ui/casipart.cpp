@@ -1,12 +1,15 @@
 #include "ui/casipart.h"
 
 #include <QKeyEvent>
+#include <QSignalBlocker>
+#include <limits>
 #include <utility>
 
-#include "calculate/Calcola2.h"
+#include "engine/special_loads.h"
 #include "platform/surroundings.h"
 #include "report/unit_systems.h"
 #include "text/number_reading.h"
+#include "ui/sketches/sketches.h"
 #include "ui_casipart.h"
 
 namespace coltre {
@@ -42,11 +45,27 @@ casipart::casipart(Program& program, UserDialogs& dialogs, std::function<SiteFie
     }
     m_ui->udmcombo->setCurrentIndex(first_unit_item(program));
 
+    for (SketchWidget* const sketch : {m_ui->sketch_5, m_ui->sketch_6, m_ui->sketch_7}) {
+        for (ResultLabel* const label : sketch->findChildren<ResultLabel*>())
+            sketch->host(label, label->objectName());
+    }
+    m_ui->sketch_5->set_suggested_name("discontinuita");
+    m_ui->sketch_6->set_suggested_name("parete");
+    m_ui->sketch_7->set_suggested_name("ostacolo");
+
+    for (NumberField* const field : findChildren<NumberField*>()) {
+        connect(field, &QLineEdit::textChanged, this, [this] { draw_page(false); });
+    }
     connect(m_ui->cartelle, &QTabWidget::currentChanged, this, &casipart::on_page);
     connect(m_ui->Check1Box, &QCheckBox::toggled, this, &casipart::on_report_switch);
     connect(m_ui->Calcola2, &QPushButton::clicked, this, &casipart::on_calculate);
     connect(m_ui->Chiudi2, &QPushButton::clicked, this, &casipart::close);
     on_page();
+    for (int page = m_ui->cartelle->count() - 1; page >= 0; --page) {
+        const QSignalBlocker quietly(m_ui->cartelle);
+        m_ui->cartelle->setCurrentIndex(page);
+        draw_page(false);
+    }
     on_report_switch();
     m_ui->h2input->setFocus();
 }
@@ -82,9 +101,9 @@ void casipart::on_report_switch() {
     m_ui->udmcombo->setEnabled(m_ui->Check1Box->isChecked());
 }
 
-void casipart::on_calculate() {
+SpecialCasesFields casipart::fields() const {
     const SiteFields site = m_site_fields();
-    const SpecialCasesFields fields{
+    return {
         .asinput = site.asinput,
         .ComboEsp = site.ComboEsp,
         .TextCTermico = site.TextCTermico,
@@ -101,15 +120,34 @@ void casipart::on_calculate() {
         .Check1Box = m_ui->Check1Box->isChecked(),
         .decimal_separator = user_decimal_separator(),
     };
-    // The labels are refreshed as soon as the case is complete, before the message about the report.
-    Calcola2(fields, m_program, m_dialogs, *this);
 }
 
-/// The drift length is not shown where it is the width of the lower roof.
-void casipart::on_drift(bool cut) {
-    for (QWidget* part : {m_ui->ls_symbol, m_ui->ls_caption, static_cast<QLabel*>(m_ui->lsoutput)}) {
-        part->setHidden(cut);
+/// Draws the sketch of the selected page from its entries.
+/// @param with_results  the cells hold the results of these very entries
+void casipart::draw_page(bool with_results) {
+    EntryReader reader;
+    SpecialCaseEntries entries = read_entries(fields(), reader);
+    // Entries that are no numbers make no roof: the sketch says so by its neutral shape.
+    if (reader.stop()) entries.h = entries.b = std::numeric_limits<double>::quiet_NaN();
+    Drawing drawing = sketch_special_case(entries, with_results ? &m_program.cells : nullptr);
+    for (LabelSlot& slot : drawing.label_slots) {
+        if (slot.name == "lsoutput") slot.visible = m_drift_length_shown;
     }
+    SketchWidget* const sketches[] = {m_ui->sketch_5, m_ui->sketch_6, m_ui->sketch_7};
+    sketches[m_ui->cartelle->currentIndex()]->set_drawing(std::move(drawing));
+}
+
+void casipart::on_calculate() {
+    // The labels are refreshed as soon as the case is complete, before the message about the report.
+    if (!Calcola2(fields(), m_program, m_dialogs, *this).results_complete) draw_page(false);
+}
+
+/// The sketch follows the entries, but the drift length comes and goes with the calculation, as the other
+/// results: it is hidden where it is the width of the lower roof.
+void casipart::on_cell(const ResultCell& cell, double value) {
+    if (cell.cell != results::level_ls.cell) return;
+    m_drift_length_shown =
+        !drift_is_cut(value, read_strictly(m_ui->b2input->utf8(), user_decimal_separator()).value);
 }
 
 void casipart::on_special_case(const SpecialCaseEntries& entries) {
@@ -135,6 +173,7 @@ void casipart::on_special_case(const SpecialCaseEntries& entries) {
             row.label->show_number(m_program.cells.*row.cell, row.decimals);
         }
     }
+    draw_page(true);
 }
 
 }  // namespace coltre

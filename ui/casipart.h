@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+#include "calculate/Calcola2.h"
 #include "engine/calculation.h"
 #include "startup/program.h"
 #include "ui/site_fields.h"
@@ -38,7 +39,9 @@ class casipart : public QWidget, private CalculationObserver {
     void on_report_switch();
     void on_calculate();
 
-    void on_drift(bool cut) override;
+    [[nodiscard]] SpecialCasesFields fields() const;
+    void draw_page(bool with_results);
+    void on_cell(const ResultCell& cell, double value) override;
     void on_special_case(const SpecialCaseEntries& entries) override;
 
     Program& m_program;
@@ -46,6 +49,7 @@ class casipart : public QWidget, private CalculationObserver {
     std::function<SiteFields()> m_site_fields;
     std::function<void()> m_show_ground_load;
     std::unique_ptr<Ui::casipart> m_ui;
+    bool m_drift_length_shown = true;  // false since a calculation in which the drift was cut
 };
 
 }  // namespace coltre

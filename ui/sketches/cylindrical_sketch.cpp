@@ -73,10 +73,12 @@ Drawing cylindrical_sketch(const Roof& roof, const ProgramCells* loads) {
     const Vault uniform{480, springing, rise, half_angle};
     const Vault asymmetric{4520, springing, rise, half_angle};
 
-    const double mu3 = std::min(10 * H / L + 0.2, 2.0);
-    const double qs_uniform = loads != nullptr ? loads->qs_4a : 0.8;
-    const double qs_left = loads != nullptr ? loads->qs_4b : mu3 / 2;
-    const double qs_right = loads != nullptr ? loads->qs_4c : mu3;
+    const ProgramCells results =
+        loads != nullptr ? *loads
+                         : results_of_unit_ground_load({.family = RoofFamily::cylindrical, .L = L, .H = H});
+    const double qs_uniform = results.qs_4a;
+    const double qs_left = results.qs_4b;
+    const double qs_right = results.qs_4c;
     const double largest = std::max({qs_uniform, qs_left, qs_right});
     const auto top = [&](double load) { return base - ordinate(load, largest, room); };
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "engine/special_loads.h"
 #include "ui/sketches/drawing_parts.h"
 #include "ui/sketches/families.h"
 #include "ui/sketches/sketches.h"
@@ -12,10 +13,6 @@ namespace {
 constexpr double slab_thickness = 110;
 constexpr double step = 2580;  // x of the step
 constexpr double room = 1250;  // of the load ordinates
-
-double drift_length(double h) {
-    return std::clamp(2 * h, 5.0, 15.0);
-}
 
 /// What is drawn: the entries, or usual ones where they make no roof, brought to the room of the sketch.
 struct LevelChange {
@@ -31,7 +28,7 @@ struct LevelChange {
 
 void fit_to_page(LevelChange& shape, const Rect& page) {
     const double slope = std::tan(radians(shape.alfa));
-    const double scale = (shape.drift_end() - step) / (shape.cut ? shape.b2 : drift_length(shape.h));
+    const double scale = (shape.drift_end() - step) / (shape.cut ? shape.b2 : drift_length(shape.h).value());
     const double widest = run_of_slope(shape.alfa, 2350, 950);
     shape.upper_width = fit(shape.b1 * scale, std::min(300.0, widest), widest);
     shape.lower_width = fit(shape.b2 * scale, shape.drift_end() - step, 7150 - step);
@@ -89,7 +86,7 @@ Drawing level_change_sketch(const SpecialCaseEntries& entries, const ProgramCell
     drawing.neutral = !is_drawable_length(entries.b1) || !is_drawable_length(entries.b2) ||
                       !is_drawable_length(entries.h) || !is_drawable_pitch(entries.alfa);
     // The label of the drift length follows the entries even where they cannot be drawn.
-    const bool cut = drift_length(entries.h) >= entries.b2;
+    const bool cut = drift_is_cut(drift_length(entries.h).value(), entries.b2);
     LevelChange shape{entries.b1, entries.b2, entries.h, entries.alfa, cut, {}, {}, {}};
     if (drawing.neutral) shape = {3, cut ? 4.0 : 8.0, 2, 10, cut, {}, {}, {}};
     fit_to_page(shape, drawing.page);
@@ -97,12 +94,13 @@ Drawing level_change_sketch(const SpecialCaseEntries& entries, const ProgramCell
     const double drift_end = shape.drift_end();
     const double roof_end = step + shape.lower_width.twips;
 
-    // Before a calculation: for a ground load of 1 kN/m2.
-    const double ls = drift_length(shape.h);
-    const double mu2 = std::clamp(std::min((shape.b1 + shape.b2) / (2 * shape.h), 2 * shape.h), 0.8, 4.0);
-    const double end_of_drift = cut ? 0.8 + (mu2 - 0.8) / ls * (ls - shape.b2) : 0.8;
-    const double qs2 = loads != nullptr ? loads->level_qs2 : mu2;
-    const double qs1 = loads != nullptr ? loads->level_qs1 : end_of_drift;
+    const ProgramCells results =
+        loads != nullptr
+            ? *loads
+            : results_of_unit_ground_load(
+                  {.special_case = SpecialCase::level_change, .b1 = shape.b1, .b2 = shape.b2, .h = shape.h});
+    const double qs2 = results.level_qs2;
+    const double qs1 = results.level_qs1;
     const double largest = std::max(qs1, qs2);
     const double top2 = level - ordinate(qs2, largest, room);
     const double top1 = level - ordinate(qs1, largest, room);

@@ -1,8 +1,24 @@
 #include "ui/sketches/sketches.h"
 
+#include "engine/roof_loads.h"
+#include "engine/special_loads.h"
 #include "ui/sketches/families.h"
 
 namespace coltre {
+
+ProgramCells results_of_unit_ground_load(const Roof& roof) {
+    ProgramCells cells;
+    cells.qsk = 1;
+    calculate_roof(cells, roof, nullptr);
+    return cells;
+}
+
+ProgramCells results_of_unit_ground_load(const SpecialCaseEntries& entries) {
+    ProgramCells cells;
+    cells.qsk = 1;
+    calculate_special_case(cells, entries, nullptr);
+    return cells;
+}
 
 Drawing sketch_roof(const Roof& roof, const ProgramCells* loads) {
     switch (roof.family) {

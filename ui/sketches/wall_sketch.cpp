@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "engine/special_loads.h"
 #include "ui/sketches/drawing_parts.h"
 #include "ui/sketches/families.h"
 
@@ -9,7 +10,7 @@ Drawing wall_sketch(const SpecialCaseEntries& entries, const ProgramCells* loads
     Drawing drawing;
     drawing.neutral = !is_drawable_length(entries.h);
     const double height = drawing.neutral ? 2.5 : entries.h;
-    const double ls = std::clamp(2 * height, 5.0, 15.0);
+    const double ls = drift_length(height).value();
 
     constexpr double wall_face = 1650;
     constexpr double wall_thickness = 200;
@@ -21,9 +22,11 @@ Drawing wall_sketch(const SpecialCaseEntries& entries, const ProgramCells* loads
     constexpr double room = 1050;  // of the load ordinates
     const Fitted h = fit(height * drift / ls, 100, 1900);
 
-    // Before a calculation: for a ground load of 1 kN/m2.
-    const double qs1 = loads != nullptr ? loads->wall_qs1 : 0.8;
-    const double qs2 = loads != nullptr ? loads->wall_qs2 : std::clamp(2 * height, 0.8, 2.0);
+    const ProgramCells results =
+        loads != nullptr ? *loads
+                         : results_of_unit_ground_load({.special_case = SpecialCase::wall, .h = height});
+    const double qs1 = results.wall_qs1;
+    const double qs2 = results.wall_qs2;
     const double largest = std::max(qs1, qs2);
     const double top1 = level - ordinate(qs1, largest, room);
     const double top2 = level - ordinate(qs2, largest, room);
