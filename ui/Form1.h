@@ -63,7 +63,7 @@ class Form1 : public QWidget {
     UserDialogs& m_dialogs;
     Doors m_doors;
     std::unique_ptr<Ui::Form1> m_ui;
-    QTimer m_Timer1;
+    QTimer m_Timer1{this};
     std::unique_ptr<Hints> m_hints;
     QPointer<QWidget> m_return_period;  // one at a time
     QPointer<QWidget> m_special_cases;
