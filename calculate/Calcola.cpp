@@ -48,8 +48,8 @@ std::string zero_load_reason(std::string_view quantity, const Roof& roof, const 
     const bool second_side = quantity == results::qe_2c.name || quantity == results::qe_2d.name;
     std::string_view name = "alfa";
     if (roof.family == RoofFamily::two_pitches) name = second_side ? "alfa2" : "alfa1";
-    return "Il carico sulla falda è 0: il coefficiente di forma mu1 è 0 per " + std::string(name) + " =" +
-           display_number_text(second_side ? roof.alfa2 : roof.alfa1) + "°.";
+    return "Il carico sulla falda è 0: il coefficiente di forma mu1 è 0 per " + std::string(name) + " = " +
+           plain_number_text(second_side ? roof.alfa2 : roof.alfa1) + "°.";
 }
 
 Stop explain(const CalculationEnd& end, const Roof& roof, const ProgramCells& cells) {
@@ -101,7 +101,7 @@ std::optional<Stop> calculate_family(const MainWindowFields& fields, ProgramCell
     BothObservers both(labels, observer);
     CalculationObserver& observers = roof.family == RoofFamily::cylindrical ? both : observer;
 
-    const CalculationEnd end = calculate_roof(cells, roof, observers);
+    const CalculationEnd end = calculate_roof(cells, roof, &observers);
     if (end.fault == Fault::incongruent_dimensions) {
         outcome.fault = end.fault;
         message_boxes.show(

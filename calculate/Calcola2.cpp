@@ -45,7 +45,7 @@ std::optional<Stop> calculate_page(const SpecialCasesFields& fields, ProgramCell
     FieldReader reader;
     const SpecialCaseEntries entries = read_entries(fields, reader);
     if (reader.stop()) return reader.stop();
-    const CalculationEnd end = calculate_special_case(cells, entries, observer);
+    const CalculationEnd end = calculate_special_case(cells, entries, &observer);
     if (end.stopped()) return explain(end, entries, cells);
     outcome.results_complete = true;
     return std::nullopt;

@@ -113,6 +113,11 @@ void BothObservers::on_load_case(const LoadCase& load_case) {
     m_second.on_load_case(load_case);
 }
 
+void BothObservers::on_drift(bool cut) {
+    m_first.on_drift(cut);
+    m_second.on_drift(cut);
+}
+
 void BothObservers::on_special_case(const SpecialCaseEntries& entries) {
     m_first.on_special_case(entries);
     m_second.on_special_case(entries);

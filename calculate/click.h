@@ -85,6 +85,7 @@ class BothObservers : public CalculationObserver {
     void on_coefficient(std::string_view label, double mu) override;
     void on_roof(const Roof& roof) override;
     void on_load_case(const LoadCase& load_case) override;
+    void on_drift(bool cut) override;
     void on_special_case(const SpecialCaseEntries& entries) override;
 
   private:

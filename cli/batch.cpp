@@ -45,7 +45,7 @@ class LineReader {
     bool m_too_long = false;
 };
 
-Result perform_line(const LineReader& reader, const Surroundings& surroundings) {
+Result perform_line(const LineReader& reader, const Surroundings& surroundings, SiteMemory& memory) {
     Result result;
     if (reader.too_long()) {
         result.error = "la riga è più lunga di " + std::to_string(LineReader::longest) + " byte";
@@ -53,7 +53,7 @@ Result perform_line(const LineReader& reader, const Surroundings& surroundings) 
     }
     JsonRequest line = read_json_request(reader.line());
     if (line.mistake.empty()) {
-        result = perform(line.request, surroundings);
+        result = perform(line.request, surroundings, memory);
     } else {
         result.kind = line.request.kind;
         result.error = std::move(line.mistake);
@@ -66,9 +66,10 @@ Result perform_line(const LineReader& reader, const Surroundings& surroundings) 
 
 BatchEnd run_batch(std::istream& in, std::ostream& out, const Surroundings& surroundings) {
     bool some_failed = false;
+    SiteMemory memory;
     LineReader reader(in);
     while (out && reader.next()) {
-        const Result result = perform_line(reader, surroundings);
+        const Result result = perform_line(reader, surroundings, memory);
         some_failed = some_failed || !result.error.empty();
         out << to_json(result) << '\n';
         if (in.rdbuf()->in_avail() <= 0) out.flush();

@@ -44,7 +44,8 @@ void print_message(std::ostream& err, const Message& message) {
 
 int run_calculation(const Request& request, bool json, const Surroundings& surroundings,
                     const Streams& streams) {
-    const Result result = perform(request, surroundings);
+    SiteMemory memory;
+    const Result result = perform(request, surroundings, memory);
     if (json) {
         streams.out << to_json(result) << '\n';
     } else {
@@ -52,9 +53,8 @@ int run_calculation(const Request& request, bool json, const Surroundings& surro
             print_message(streams.err, message);
         if (!result.wrong_request) streams.out << to_table(result);
     }
-    // What a message box has said already is not said twice.
-    const bool told =
-        std::ranges::find(result.messages, result.error, &Message::text) != result.messages.end();
+    // A fault has been told in a message box; a wrong request or an unknown place has not.
+    const bool told = !result.messages.empty() && result.messages.back().icon != Icon::information;
     if (!result.error.empty() && !json && !told) {
         if (result.wrong_request) return complain(streams.err, result.error);
         streams.err << "Errore: " << result.error << '\n';
@@ -85,19 +85,21 @@ struct Choice {
     std::string batch_file = "-";
     std::string altitude_directory;
     std::function<std::string()> help = general_help;
+    std::string mistake;  ///< in the use of an option
     std::function<int()> action;
 };
 
-/// Every option takes one text, whatever it looks like; a repeated one is told by name afterwards.
+/// Every option takes the one text behind it, whatever that looks like, and is given once.
 void add_options(CLI::App& calculation, Kind kind, Choice& choice) {
     const auto add = [&](Key key) {
-        calculation
-            .add_option_function<std::vector<std::string>>(
-                "--" + std::string(info(key).name),
-                [&choice, key](const std::vector<std::string>& values) {
-                    choice.request.value(key) = values.front();
-                })
+        const auto take = [&choice, key](const std::vector<std::string>& values) {
+            if (values.size() > 1)
+                choice.mistake = "l'opzione --" + std::string(info(key).name) + " è data più volte";
+            choice.request.value(key) = values.front();
+        };
+        calculation.add_option_function<std::vector<std::string>>("--" + std::string(info(key).name), take)
             ->expected(1)
+            ->allow_extra_args(false)
             ->take_all();
     };
     std::ranges::for_each(info(kind).entries, add);
@@ -182,6 +184,7 @@ int run(std::span<const std::string> arguments, const Surroundings& surroundings
     if (const auto extras = app.remaining(true); !extras.empty()) {
         return complain(err, "argomento sconosciuto: " + in_quotes(extras.front()));
     }
+    if (!choice.mistake.empty()) return complain(err, choice.mistake);
     if (!choice.action) {
         return complain(
             err, altitudes.parsed() ? "manca il comando: scrivi, verifica o ripara" : "manca il calcolo");

@@ -81,33 +81,50 @@ std::vector<std::string> all_provinces() {
 }
 
 /// Chooses province and municipality as the window does.
-/// @return the altitude text; nothing, with the error in the result, where the site cannot be had
-std::optional<std::string> choose_site(const Request& request, Program& program, Doors doors,
-                                       Result& result) {
+/// @return nothing, with the error in the result, where the site cannot be had
+std::optional<Site> choose_site(std::string_view typed_province, std::string_view typed_municipality,
+                                Program& program, Doors doors, Result& result) {
     static const std::vector<std::string> provinces = all_provinces();
-    const NameSearch province = find_name("provincia", *request.value(Key::provincia), provinces);
+    const NameSearch province = find_name("provincia", typed_province, provinces);
     if (!province.mistake.empty()) {
         result.error = province.mistake;
         return std::nullopt;
     }
-    result.province = province.found;
     const ProvinceChoice choice = choose_province(program, province.found, doors);
     if (!choice.municipalities) {
-        result.municipality = *request.value(Key::comune);
         result.error = result.messages.back().text;
         return std::nullopt;
     }
-    const NameSearch municipality =
-        find_name("comune", *request.value(Key::comune), choice.municipalities->names);
-    result.municipality = municipality.mistake.empty() ? municipality.found : *request.value(Key::comune);
+    const NameSearch municipality = find_name("comune", typed_municipality, choice.municipalities->names);
     if (!municipality.mistake.empty()) {
         result.error = municipality.mistake;
         return std::nullopt;
     }
-    auto altitude =
+    const auto altitude =
         ReadAltitude(program.directories.ProgramDirectory, province.found, municipality.found, doors);
-    if (!altitude) result.error = result.messages.back().text;
-    return altitude;
+    if (!altitude) {
+        result.error = result.messages.back().text;
+        return std::nullopt;
+    }
+    return Site{province.found, municipality.found, *altitude, program.cells.zone};
+}
+
+/// The site of a request that names one, with its zone in the zone cell.
+std::optional<Site> site_by_name(const Request& request, Program& program, Doors doors, SiteMemory& memory,
+                                 Result& result) {
+    const std::string& directory = program.directories.ProgramDirectory;
+    const std::string& province = *request.value(Key::provincia);
+    const std::string& municipality = *request.value(Key::comune);
+    auto site = memory.recall(directory, province, municipality);
+    if (!site) {
+        site = choose_site(province, municipality, program, doors, result);
+        if (site) memory.keep(directory, province, municipality, *site);
+    }
+    // An answer without a site still says which one was asked for.
+    result.province = site ? site->province : province;
+    result.municipality = site ? site->municipality : municipality;
+    if (site) program.cells.zone = site->zone;
+    return site;
 }
 
 MainWindowFields main_window_fields(const Request& request, std::string altitude) {
@@ -156,7 +173,7 @@ std::string report_path(std::string directory, std::string_view name) {
 
 }  // namespace
 
-Result perform(const Request& request, const Surroundings& surroundings) {
+Result perform(const Request& request, const Surroundings& surroundings, SiteMemory& memory) {
     Result result;
     result.kind = request.kind;
     result.error = find_mistake(request);
@@ -174,12 +191,13 @@ Result perform(const Request& request, const Surroundings& surroundings) {
     }
     program.directories.JobName = request.value_or(Key::lavoro, "");
 
-    std::optional<std::string> altitude;
+    std::string altitude;
     if (request.value(Key::provincia)) {
-        altitude = choose_site(request, program, collected.doors(), result);
-        if (!altitude) return result;
+        const auto site = site_by_name(request, program, collected.doors(), memory, result);
+        if (!site) return result;
+        altitude = site->altitude;
     }
-    if (const auto& given = request.value(Key::altitudine)) altitude = given;
+    if (const auto& given = request.value(Key::altitudine)) altitude = *given;
     if (const auto& given = request.value(Key::zona)) program.cells.zone = *zone_of(*given);
     result.zone = program.cells.zone;
 
@@ -194,9 +212,9 @@ Result perform(const Request& request, const Surroundings& surroundings) {
     ResultCollector collector(result);
     const bool special = *request.kind >= Kind::discontinuita;
     const ClickOutcome outcome =
-        special ? Calcola2(special_cases_fields(request, *altitude, surroundings.decimal_separator), program,
+        special ? Calcola2(special_cases_fields(request, altitude, surroundings.decimal_separator), program,
                            collected, collector)
-                : Calcola(main_window_fields(request, *altitude), program, collected, collector);
+                : Calcola(main_window_fields(request, altitude), program, collected, collector);
     result.altitude = outcome.altitude;
     result.qsk = outcome.qsk;
     result.error =

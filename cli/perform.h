@@ -1,10 +1,10 @@
 #pragma once
 
-#include <map>
 #include <string>
 
 #include "cli/request.h"
 #include "cli/result.h"
+#include "cli/site_memory.h"
 
 namespace coltre::cli {
 
@@ -16,6 +16,7 @@ struct Surroundings {
 
 /// Performs one request on fresh program cells. By name the road is the window's: choosing the province, then
 /// the municipality; a missing altitudini.txt is written on the way.
-Result perform(const Request& request, const Surroundings& surroundings);
+/// @param memory  sites found by earlier requests of the same batch
+Result perform(const Request& request, const Surroundings& surroundings, SiteMemory& memory);
 
 }  // namespace coltre::cli

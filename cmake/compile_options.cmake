@@ -3,6 +3,8 @@ add_library(coltre_compile_options INTERFACE)
 target_compile_options(
     coltre_compile_options
     INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+              # Wrong alarms of GCC 12 about joined texts.
+              -Wno-restrict
               # A formula gives the same bits on every processor: no fused multiply-add.
               -ffp-contract=off)
 

@@ -83,6 +83,9 @@ class CalculationObserver {
     virtual void on_roof(const Roof& /*roof*/) {}
     /// A load case is complete.
     virtual void on_load_case(const LoadCase& /*load_case*/) {}
+    /// Level change: the drift is cut at the end of the lower roof, or lies wholly on it. Told when it is
+    /// settled, before the cut changes the results.
+    virtual void on_drift(bool /*cut*/) {}
     /// A special case is complete, its results in the cells.
     virtual void on_special_case(const SpecialCaseEntries& /*entries*/) {}
 };
@@ -98,7 +101,8 @@ struct CalculationEnd {
 /// The running calculation: sets cells and tells the observer, until the first fault.
 class Calculation {
   public:
-    Calculation(ProgramCells& cells, CalculationObserver& observer) : m_cells(cells), m_observer(observer) {}
+    /// @param observer  nullptr if nobody listens
+    Calculation(ProgramCells& cells, CalculationObserver* observer) : m_cells(cells), m_observer(observer) {}
 
     /// Sets the cell to the result, or keeps the fault and leaves the cell as it was.
     /// @return true if the calculation goes on
@@ -108,7 +112,7 @@ class Calculation {
             return false;
         }
         m_cells.*cell.cell = result.value();
-        m_observer.on_cell(cell, result.value());
+        if (m_observer != nullptr) m_observer->on_cell(cell, result.value());
         return true;
     }
 
@@ -117,12 +121,13 @@ class Calculation {
     void stop(Fault fault, std::string_view quantity) { m_end = {fault, quantity}; }
 
     [[nodiscard]] ProgramCells& cells() { return m_cells; }
-    [[nodiscard]] CalculationObserver& observer() { return m_observer; }
+    /// Whoever listens, nullptr if nobody does.
+    [[nodiscard]] CalculationObserver* observer() { return m_observer; }
     [[nodiscard]] CalculationEnd end() const { return m_end; }
 
   private:
     ProgramCells& m_cells;
-    CalculationObserver& m_observer;
+    CalculationObserver* m_observer;
     CalculationEnd m_end;
 };
 

@@ -49,10 +49,10 @@ class Checked {
 
   private:
     static Checked step(Checked a, Checked b, double result) {
+        if (a.m_fault == Fault::none && b.m_fault == Fault::none && std::isfinite(result)) [[likely]]
+            return result;
         if (a.m_fault != Fault::none) return a.m_fault;
-        if (b.m_fault != Fault::none) return b.m_fault;
-        if (!std::isfinite(result)) return Fault::numeric_error;
-        return result;
+        return b.m_fault != Fault::none ? b.m_fault : Fault::numeric_error;
     }
 
     double m_value = 0;

@@ -23,9 +23,9 @@ constexpr LoadCaseCells side1_full{"mu1(alfa1)", qs_2a, qe_2a}, side1_halved{"0.
 constexpr LoadCaseCells side2_full{"mu1(alfa2)", qs_2c, qe_2c}, side2_halved{"0.5mu1(alfa2)", qs_2d, qe_2d};
 
 /// The roof load of a coefficient; the observer hears of the coefficient with it.
-bool set_roof_load(Calculation& run, std::string_view label, const ResultCell& qs, Checked mu) {
+inline bool set_roof_load(Calculation& run, std::string_view label, const ResultCell& qs, Checked mu) {
     if (!run.set(qs, mu * run.cells().qsk)) return false;
-    run.observer().on_coefficient(label, mu.value());
+    if (run.observer() != nullptr) run.observer()->on_coefficient(label, mu.value());
     return true;
 }
 
@@ -33,9 +33,21 @@ bool set_overhang_load(Calculation& run, const LoadCaseCells& load_case) {
     return run.set(load_case.qe, qe(run.cells().*load_case.qs.cell));
 }
 
-void tell_load_case(Calculation& run, const LoadCaseCells& load_case, double mu) {
+inline void tell_roof(Calculation& run, const Roof& roof) {
+    if (CalculationObserver* const observer = run.observer()) observer->on_roof(roof);
+}
+
+/// @param qe  nullptr for a family without overhang loads
+inline void tell_load_case(Calculation& run, std::string_view label, double mu, double qs,
+                           const double* qe = nullptr) {
+    CalculationObserver* const observer = run.observer();
+    if (observer == nullptr) return;
+    observer->on_load_case({label, mu, qs, qe != nullptr ? std::optional(*qe) : std::nullopt});
+}
+
+inline void tell_load_case(Calculation& run, const LoadCaseCells& load_case, double mu) {
     const ProgramCells& cells = run.cells();
-    run.observer().on_load_case({load_case.label, mu, cells.*load_case.qs.cell, cells.*load_case.qe.cell});
+    tell_load_case(run, load_case.label, mu, cells.*load_case.qs.cell, &(cells.*load_case.qe.cell));
 }
 
 void one_pitch(Calculation& run, const Roof& roof) {
@@ -44,7 +56,7 @@ void one_pitch(Calculation& run, const Roof& roof) {
     mu1(cells, roof.alfa1);
     if (!set_roof_load(run, full.label, full.qs, cells.mu1)) return;
     if (!set_overhang_load(run, full)) return;
-    run.observer().on_roof(roof);
+    tell_roof(run, roof);
     tell_load_case(run, full, cells.mu1);
 }
 
@@ -61,7 +73,7 @@ bool side_of_two_pitches(Calculation& run, double alfa, const LoadCaseCells& ful
 void two_pitches(Calculation& run, const Roof& roof) {
     const ProgramCells& cells = run.cells();
     if (!side_of_two_pitches(run, roof.alfa1, side1_full, side1_halved)) return;
-    run.observer().on_roof(roof);
+    tell_roof(run, roof);
     tell_load_case(run, side1_full, cells.mu1);
     tell_load_case(run, side1_halved, 0.5 * cells.mu1);
 
@@ -75,16 +87,15 @@ void several_pitches(Calculation& run, const Roof& roof) {
     constexpr std::string_view side2 = "mu1(alfa2)";
     constexpr std::string_view valley = "mu2((alfa1+alfa2)/2)";
     ProgramCells& cells = run.cells();
-    CalculationObserver& observer = run.observer();
 
     mu1(cells, roof.alfa1);
     if (!set_roof_load(run, side1, qs_3a, cells.mu1)) return;
-    observer.on_roof(roof);
-    observer.on_load_case({side1, cells.mu1, cells.qs_3a, std::nullopt});
+    tell_roof(run, roof);
+    tell_load_case(run, side1, cells.mu1, cells.qs_3a);
 
     mu1(cells, roof.alfa2);
     if (!set_roof_load(run, side2, qs_3b, cells.mu1)) return;
-    observer.on_load_case({side2, cells.mu1, cells.qs_3b, std::nullopt});
+    tell_load_case(run, side2, cells.mu1, cells.qs_3b);
 
     const Checked mean = (Checked(roof.alfa1) + roof.alfa2) / 2;
     if (mean.fault() != Fault::none) {
@@ -93,7 +104,7 @@ void several_pitches(Calculation& run, const Roof& roof) {
     }
     mu2(cells, mean.value());
     if (!set_roof_load(run, valley, qs_3c, cells.mu2)) return;
-    observer.on_load_case({valley, cells.mu2, cells.qs_3c, std::nullopt});
+    tell_load_case(run, valley, cells.mu2, cells.qs_3c);
 }
 
 void cylindrical(Calculation& run, const Roof& roof) {
@@ -128,7 +139,7 @@ void cylindrical(Calculation& run, const Roof& roof) {
     for (const LoadCaseCells& load_case : {uniform, halved, full}) {
         if (!set_overhang_load(run, load_case)) return;
     }
-    run.observer().on_roof(roof);
+    tell_roof(run, roof);
     tell_load_case(run, uniform, cells.mu1);
     tell_load_case(run, halved, cells.mu2);
     tell_load_case(run, full, cells.mu3);
@@ -144,7 +155,7 @@ Checked qe(Checked qs) {
     return squared(qs) * k / 3;
 }
 
-CalculationEnd calculate_roof(ProgramCells& cells, const Roof& roof, CalculationObserver& observer) {
+CalculationEnd calculate_roof(ProgramCells& cells, const Roof& roof, CalculationObserver* observer) {
     Calculation run(cells, observer);
     switch (roof.family) {
         case RoofFamily::one_pitch:

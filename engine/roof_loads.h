@@ -15,6 +15,6 @@ Checked qe(Checked qs);
 /// Computes the roof's load cases from the qsk cell into its result cells, and tells the observer each
 /// result, then each section and load case as soon as it is complete. A roof that rises more than half its
 /// width stops with Fault::incongruent_dimensions before any cell changes.
-CalculationEnd calculate_roof(ProgramCells& cells, const Roof& roof, CalculationObserver& observer);
+CalculationEnd calculate_roof(ProgramCells& cells, const Roof& roof, CalculationObserver* observer);
 
 }  // namespace coltre

@@ -40,13 +40,15 @@ void level_change(Calculation& run, const SpecialCaseEntries& entries) {
     if (!run.set(level_qs2, Checked(cells.level_mu2) * G)) return;
     if (!run.set(level_qs1, Checked(mu1_flat) * G)) return;
     if (!set_drift_length(run, level_ls, entries.h)) return;
-    if (cells.level_ls >= entries.b2) {
+    const bool cut = cells.level_ls >= entries.b2;
+    if (run.observer() != nullptr) run.observer()->on_drift(cut);
+    if (cut) {
         const Checked qs1 = cells.level_qs1;
         const Checked ls = cells.level_ls;
         if (!run.set(level_qs1, qs1 + (cells.level_qs2 - qs1) / ls * (ls - entries.b2))) return;
         if (!run.set(level_ls, entries.b2)) return;
     }
-    run.observer().on_special_case(entries);
+    if (run.observer() != nullptr) run.observer()->on_special_case(entries);
 }
 
 void wall(Calculation& run, const SpecialCaseEntries& entries) {
@@ -57,20 +59,20 @@ void wall(Calculation& run, const SpecialCaseEntries& entries) {
     if (!run.set(wall_mu2, mu2.fault() == Fault::none ? std::clamp(mu2.value(), mu1_flat, 2.0) : mu2)) return;
     if (!run.set(wall_qs2, Checked(cells.mu2) * G)) return;
     if (!set_drift_length(run, wall_ls, entries.h)) return;
-    run.observer().on_special_case(entries);
+    if (run.observer() != nullptr) run.observer()->on_special_case(entries);
 }
 
 void snow_guard(Calculation& run, const SpecialCaseEntries& entries) {
     const double pi = 4 * std::atan(1.0);
     const Checked angle = Checked(entries.alfa) * pi / 180;
     if (!run.set(Fs, Checked(entries.qs) * entries.b * sin(angle))) return;
-    run.observer().on_special_case(entries);
+    if (run.observer() != nullptr) run.observer()->on_special_case(entries);
 }
 
 }  // namespace
 
 CalculationEnd calculate_special_case(ProgramCells& cells, const SpecialCaseEntries& entries,
-                                      CalculationObserver& observer) {
+                                      CalculationObserver* observer) {
     Calculation run(cells, observer);
     switch (entries.special_case) {
         case SpecialCase::level_change:

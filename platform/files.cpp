@@ -43,8 +43,7 @@ fs::path find_name(const fs::path& directory, const fs::path& name) {
 }
 
 /// Opens a regular file; a pipe or a device would make the program wait or never end.
-OpenFile open_to_read(std::string_view suite_path) {
-    const fs::path path = find_path(suite_path);
+OpenFile open_to_read(const fs::path& path) {
     std::error_code error;
     if (!fs::is_regular_file(path, error)) return nullptr;
     return OpenFile(std::fopen(path.string().c_str(), "rb"));
@@ -62,11 +61,14 @@ std::string system_reason(int error_number) {
             return "la cartella è in sola lettura";
         case ENOSPC:
             return "il disco è pieno";
+#ifdef EDQUOT
         case EDQUOT:
             return "lo spazio concesso all'utente è esaurito";
+#endif
         case EISDIR:
-        case EEXIST:
             return "al suo posto c'è qualcosa che non è un file";
+        case EFBIG:
+            return "il file supera la grandezza concessa";
         case ENAMETOOLONG:
             return "il nome è troppo lungo";
         case ELOOP:
@@ -134,12 +136,13 @@ bool is_directory(std::string_view suite_path) {
 }
 
 std::optional<std::string> read_file(std::string_view suite_path) {
-    const OpenFile file = open_to_read(suite_path);
+    const fs::path path = find_path(suite_path);
+    const OpenFile file = open_to_read(path);
     if (file == nullptr) return std::nullopt;
     // One read of the whole size where the size is known; the loop takes what a growing file adds.
     std::string bytes;
     std::error_code error;
-    const auto size = fs::file_size(find_path(suite_path), error);
+    const auto size = fs::file_size(path, error);
     std::size_t room = error ? 65536 : static_cast<std::size_t>(size) + 1;
     static_cast<void>(std::setvbuf(file.get(), nullptr, _IONBF, 0));
     for (;;) {
@@ -155,7 +158,7 @@ std::optional<std::string> read_file(std::string_view suite_path) {
 }
 
 std::optional<std::string> read_first_line(std::string_view suite_path) {
-    const OpenFile file = open_to_read(suite_path);
+    const OpenFile file = open_to_read(find_path(suite_path));
     if (file == nullptr) return std::nullopt;
     constexpr std::size_t longest = 65536;
     std::string line(longest, '\0');
@@ -194,8 +197,12 @@ int FileReplacement::open() {
     } else if (fs::is_symlink(fs::symlink_status(m_target, error))) {
         return ELOOP;
     }
-    m_temporary = temporary_beside(m_target);
-    m_file = std::fopen(m_temporary.string().c_str(), "wbx");
+    do {  // a name that a crash left behind is passed over
+        const fs::path name = temporary_beside(m_target);
+        errno = 0;
+        m_file = std::fopen(name.string().c_str(), "wbx");
+        if (m_file != nullptr) m_temporary = name;
+    } while (m_file == nullptr && errno == EEXIST);
     if (m_file == nullptr) return errno;
     if (fs::exists(status)) fs::permissions(m_temporary, status.permissions(), error);
     return 0;

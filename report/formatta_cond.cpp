@@ -1,6 +1,7 @@
 #include "report/formatta_cond.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <optional>
 
@@ -16,24 +17,61 @@ namespace coltre {
 namespace {
 
 constexpr auto npos = std::string_view::npos;
+constexpr std::string_view overflow = "Errore numerico: un valore della relazione è troppo grande.";
 
 void tell(MessageBoxes& message_boxes, std::string_view text) {
     message_boxes.show({Icon::error, std::string(program_title), std::string(text)});
 }
 
-bool has(std::string_view directives, std::string_view keyword) {
-    return find_directive(directives, keyword) != npos;
-}
+/// Where each keyword stands in a directive string, found in one go. A keyword counts where it stands first.
+class Keywords {
+  public:
+    enum Keyword { cu, cs, dv, cd, zr, fd, fs, np, sc, count };
 
-/// The argument "nn" of a directive: the two characters after the underscore, read leniently and rounded to a
-/// whole number, a half to the even neighbour. Nothing if the directive is absent.
-std::optional<int> argument(std::string_view directives, std::string_view keyword) {
-    const std::size_t start = find_directive(directives, keyword);
-    if (start == npos) return std::nullopt;
-    const std::string_view rest = directives.substr(start + keyword.size());
-    return static_cast<int>(
-        std::nearbyint(read_leniently(rest.substr(0, bytes_of_characters(rest, 2))).value));
-}
+    explicit Keywords(std::string_view directives) : m_directives(directives) {
+        m_start.fill(npos);
+        for (std::size_t open = directives.find('('); open != npos; open = directives.find('(', open + 1)) {
+            const std::string_view rest = directives.substr(open);
+            if (rest.size() < 4 || rest[3] != '_') continue;
+            const std::array<char, 2> name{lower_ascii(rest[1]), lower_ascii(rest[2])};
+            const auto found = std::ranges::find(names, name);
+            if (found == names.end()) continue;
+            std::size_t& start = m_start[static_cast<std::size_t>(found - names.begin())];
+            if (start == npos) start = open;
+        }
+    }
+
+    [[nodiscard]] bool has(Keyword keyword) const { return m_start[keyword] != npos; }
+    [[nodiscard]] std::size_t start(Keyword keyword) const { return m_start[keyword]; }
+
+    /// What stands behind the underscore, up to the end of the string.
+    [[nodiscard]] std::string_view behind(Keyword keyword) const {
+        return m_directives.substr(m_start[keyword] + 4);
+    }
+
+    /// The argument "nn": the two characters behind the underscore, read leniently and rounded to a whole
+    /// number, a half to the even neighbour. Nothing if the directive is absent.
+    [[nodiscard]] std::optional<int> argument(Keyword keyword) const {
+        if (!has(keyword)) return std::nullopt;
+        const std::string_view rest = behind(keyword);
+        return static_cast<int>(
+            std::nearbyint(read_leniently(rest.substr(0, bytes_of_characters(rest, 2))).value));
+    }
+
+  private:
+    static constexpr std::array<std::array<char, 2>, count> names{{{'c', 'u'},
+                                                                   {'c', 's'},
+                                                                   {'d', 'v'},
+                                                                   {'c', 'd'},
+                                                                   {'z', 'r'},
+                                                                   {'f', 'd'},
+                                                                   {'f', 's'},
+                                                                   {'n', 'p'},
+                                                                   {'s', 'c'}}};
+
+    std::string_view m_directives;
+    std::array<std::size_t, count> m_start;
+};
 
 /// Decimal shift of a scale factor, from its magnitude.
 std::int16_t shift_of_factor(double factor) {
@@ -57,33 +95,14 @@ void pad_right(std::string& text, int width, std::string_view fill) {
 }
 
 /// Replaces "(dv_nn)", seven characters whatever stands there, by the "(cd_mm)" that it amounts to.
-void rewrite_as_decimals(std::string& directives, int decimals) {
-    const std::size_t start = find_directive(directives, "(dv_");
-    const std::size_t length = bytes_of_characters(std::string_view(directives).substr(start), 7);
-    directives.replace(start, length, (decimals < 10 ? "(cd_0" : "(cd_") + std::to_string(decimals) + ")");
-}
-
-/// The rounding directives "(cs_nn)", "(dv_nn)" and "(cd_nn)".
-/// @param directives  a "(dv_nn)" becomes a "(cd_nn)"
-/// @param decimals    out: the decimals of the "(cd_nn)"; untouched without one
-/// @return what is wrong with a directive; empty if nothing is
-std::string_view round_value(double& value, std::string& directives, std::int16_t shift, int& decimals) {
-    if (const auto digits = argument(directives, "(cs_")) {
-        if (*digits < 1) return "comando (cs_nn) errato.";
-        value = round_significant(value, *digits);
-    }
-    if (const auto base_decimals = argument(directives, "(dv_")) {
-        if (*base_decimals < 0) return "comando (dv_nn) errato (2).";
-        const int shifted = std::max(0, *base_decimals + shift);
-        if (shifted >= 100) return "comando (dv_nn) errato (1).";
-        rewrite_as_decimals(directives, shifted);
-    }
-    if (const auto wanted = argument(directives, "(cd_")) {
-        if (*wanted < 0) return "comando (cd_nn) errato.";
-        value = round_half_even(value, *wanted);
-        decimals = *wanted;
-    }
-    return {};
+std::string rewritten_as_decimals(std::string_view directives, std::size_t start, int decimals) {
+    const std::size_t length = bytes_of_characters(directives.substr(start), 7);
+    std::string rewritten(directives.substr(0, start));
+    rewritten += decimals < 10 ? "(cd_0" : "(cd_";
+    rewritten += std::to_string(decimals);
+    rewritten += ')';
+    rewritten += directives.substr(start + length);
+    return rewritten;
 }
 
 /// Brings a number text to the width of its field.
@@ -119,80 +138,97 @@ bool fit_field(std::string& text, double value, int width, int point, std::strin
 }
 
 /// "(np_1)": a point at the end gives way to a blank; a right-aligned field keeps its width.
-void drop_trailing_point(std::string& text, std::string_view directives) {
+void drop_trailing_point(std::string& text, const Keywords& keywords) {
     if (!trim_blanks(text).ends_with('.')) return;
     text[text.rfind('.')] = ' ';
-    if (has(directives, "(fd_") && !has(directives, "(cd_")) {
+    if (keywords.has(Keywords::fd) && !keywords.has(Keywords::cd)) {
         text.pop_back();
         text.insert(0, 1, ' ');
     }
 }
 
-}  // namespace
+/// A fault that was told already: formatta() yields the empty text.
+using Told = std::nullopt_t;
 
-std::string formatta(double value, std::string_view directive_string, double factor,
-                     MessageBoxes& message_boxes) {
-    constexpr std::string_view overflow = "Errore numerico: un valore della relazione è troppo grande.";
-    const Checked scaled = Checked(value) * factor;
-    if (scaled.fault() != Fault::none) {
-        tell(message_boxes, overflow);
-        return {};
-    }
-    value = scaled.value();
-    if (directive_string.empty()) return plain_number_text(value);
+/// The steps of formatta() behind the scaling.
+std::optional<std::string> format_field(double value, std::string_view directives, double factor,
+                                        MessageBoxes& message_boxes) {
+    const auto told = [&message_boxes](std::string_view text) -> Told {
+        tell(message_boxes, text);
+        return std::nullopt;
+    };
 
+    Keywords keywords(directives);
     std::int16_t shift = shift_of_factor(factor);
-    if (has(directive_string, "(cu_") &&
-        converti_unita(value, directive_string, shift, message_boxes) != Fault::none) {
-        tell(message_boxes, overflow);
-        return {};
+    if (keywords.has(Keywords::cu) &&
+        converti_unita(value, directives, shift, message_boxes) != Fault::none) {
+        return told(overflow);
     }
 
-    std::string directives(directive_string);
-    int decimals = 0;
-    if (const std::string_view mistake = round_value(value, directives, shift, decimals); !mistake.empty()) {
-        tell(message_boxes, mistake);
-        return {};
+    if (const auto digits = keywords.argument(Keywords::cs)) {
+        if (*digits < 1) return told("comando (cs_nn) errato.");
+        value = round_significant(value, *digits);
+        if (!std::isfinite(value)) return told(overflow);
     }
-    if (!std::isfinite(value)) {
-        tell(message_boxes, overflow);
-        return {};
+    std::string rewritten;
+    if (const auto base_decimals = keywords.argument(Keywords::dv)) {
+        if (*base_decimals < 0) return told("comando (dv_nn) errato (2).");
+        const int shifted = std::max(0, *base_decimals + shift);
+        if (shifted >= 100) return told("comando (dv_nn) errato (1).");
+        rewritten = rewritten_as_decimals(directives, keywords.start(Keywords::dv), shifted);
+        directives = rewritten;
+        keywords = Keywords(directives);
     }
+    const auto decimals = keywords.argument(Keywords::cd);
+    if (decimals && *decimals < 0) return told("comando (cd_nn) errato.");
 
-    std::string text = plain_number_text(value);
+    std::string text;
+    if (decimals) {
+        RoundedNumber rounded = round_to_text(value, *decimals);
+        value = rounded.value;
+        text = std::move(rounded.text);
+    } else {
+        text = plain_number_text(value);
+    }
     const int point = decimal_point_position(text);
     // Without a "(cd_nn)" no fill character is chosen, and the character of code 0 stands for it: deliberate.
     std::string_view fill("\0", 1);
-    if (point > 0 && has(directives, "(cd_")) {
-        fill = " ";
-        if (const std::size_t zr = find_directive(directives, "(zr_");
-            zr != npos && zr + 4 < directives.size()) {
-            fill = first_character(std::string_view(directives).substr(zr + 4));
-        }
-        pad_right(text, point + decimals, fill);
+    if (point > 0 && decimals) {
+        const bool given = keywords.has(Keywords::zr) && !keywords.behind(Keywords::zr).empty();
+        fill = given ? first_character(keywords.behind(Keywords::zr)) : " ";
+        pad_right(text, point + *decimals, fill);
     }
 
-    const bool left_aligned = has(directives, "(fs_");
-    const auto width = has(directives, "(fd_") ? argument(directives, "(fd_") : argument(directives, "(fs_");
+    const auto width = keywords.argument(keywords.has(Keywords::fd) ? Keywords::fd : Keywords::fs);
     if (width) {
-        if (*width < 2) {
-            tell(message_boxes, "comando (fd_nn) o (fs_nn) errato.");
-            return {};
-        }
+        if (*width < 2) return told("comando (fd_nn) o (fs_nn) errato.");
         if (!fit_field(text, value, *width, point, fill)) {
             text.assign(static_cast<std::size_t>(*width), '*');
             append_separator(text, directives);
             return text;
         }
-        if (left_aligned) {
+        if (keywords.has(Keywords::fs)) {
             text = std::string(trim_blanks(text));
             pad_right(text, *width, " ");
         }
     }
-    if (has(directives, "(np_1)")) drop_trailing_point(text, directives);
+    if (keywords.has(Keywords::np) && find_directive(directives, "(np_1)") != npos)
+        drop_trailing_point(text, keywords);
     if (!width) text = std::string(trim_blanks(text));
     append_separator(text, directives);
     return text;
+}
+
+}  // namespace
+
+std::string formatta(double value, std::string_view directives, double factor, MessageBoxes& message_boxes) {
+    const Checked scaled = Checked(value) * factor;
+    if (scaled.fault() != Fault::none) {
+        tell(message_boxes, overflow);
+        return {};
+    }
+    if (directives.empty()) return plain_number_text(scaled.value());
+    return format_field(scaled.value(), directives, factor, message_boxes).value_or(std::string());
 }
 
 Fault converti_unita(double& value, std::string_view directives, std::int16_t& decimal_shift,

@@ -8,8 +8,6 @@ namespace coltre {
 
 namespace {
 
-constexpr std::string_view field_ends = ",\r\n";
-
 bool ends_field(char c) {
     return c == ',' || c == '\r' || c == '\n';
 }
@@ -45,8 +43,7 @@ std::optional<FieldReader> find_field(std::string_view bytes, std::string_view w
         return std::nullopt;
     }
     // No field starts with a blank or holds an end.
-    if (wanted.front() == ' ' || wanted.find_first_of(field_ends) != std::string_view::npos)
-        return std::nullopt;
+    if (wanted.front() == ' ' || std::ranges::any_of(wanted, ends_field)) return std::nullopt;
     // Looking for the text and then at what surrounds it is many times faster than reading every field.
     for (std::size_t found = bytes.find(wanted); found != std::string_view::npos;
          found = bytes.find(wanted, found + 1)) {

@@ -32,6 +32,13 @@ std::string fixed_number_text(double value, int decimals);
 /// @param decimals  0 to 99
 double round_half_even(double value, int decimals);
 
+/// round_half_even() with the plain_number_text() of its result, at the cost of one of them.
+struct RoundedNumber {
+    double value;
+    std::string text;
+};
+RoundedNumber round_to_text(double value, int decimals);
+
 /// The value rounded to n significant digits, half away from zero, from its 15-digit decimal text.
 /// 1234.5 with n = 3 -> 1230. With n above 15 the 15 digits stay.
 /// @param value  finite

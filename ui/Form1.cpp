@@ -11,9 +11,9 @@
 #include "text/number_text.h"
 #include "ui/CoeffEsposizione.h"
 #include "ui/PeriododiRitorno.h"
+#include "ui/casipart.h"
 #include "ui/maker.h"
 #include "ui/result_display.h"
-#include "ui/special_cases.h"
 #include "ui_Form1.h"
 
 namespace coltre {
@@ -166,9 +166,8 @@ void Form1::exposure_table_clicked() {
 
 void Form1::special_cases_clicked() {
     if (raise_open(m_special_cases)) return;
-    m_special_cases = new_special_cases(
+    m_special_cases = new casipart(
         m_program, m_dialogs, [this] { return site_fields(); }, [this] { show_ground_load(); }, this);
-    m_special_cases->setAttribute(Qt::WA_DeleteOnClose);
     m_special_cases->show();
 }
 

@@ -4,11 +4,9 @@
 
 namespace coltre {
 
-/// Texts of the main window that the special cases read at the moment of their click.
+/// The main window's fields that the special cases read, each under the name of its control.
 struct SiteFields {
-    std::string asinput;       ///< altitude, m
-    std::string ComboEsp;      ///< exposure coefficient CE
-    std::string TextCTermico;  ///< thermal coefficient Ct
+    std::string asinput, ComboEsp, TextCTermico;
 };
 
 }  // namespace coltre

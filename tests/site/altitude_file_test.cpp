@@ -64,7 +64,7 @@ TEST_F(AltitudeFile, NameOutsideTheCodePageIsNoQuestionMark) {
     EXPECT_EQ(read("Torino", "Foś"), "239");
 }
 
-TEST_F(AltitudeFile, ProvincesOfTheTableThatNobodyCanRead) {
+TEST_F(AltitudeFile, EndsAtAProvinceThatTheTableCannotGive) {
     for (const std::string_view province : {"Vicenza", "Oristano", "Torinoo", ""}) {
         put("altitudini.txt", "Torino\r\n");
         fake.shown.clear();
@@ -90,7 +90,7 @@ TEST_F(AltitudeFile, EditedFileIsReadAndLeftAlone) {
 struct Reading {
     std::string name;
     std::string file;
-    std::string altitude;  ///< of Ala, in Torino
+    std::string altitude = {};  ///< of Ala, in Torino
 };
 
 class AltitudeReading : public AltitudeFile, public testing::WithParamInterface<Reading> {};
@@ -119,12 +119,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Reading{"LongLine", "Torino\r\nAla" + std::string(1 << 20, ' ') + "12\r\n\r\n", "12"}),
     [](const auto& test_case) { return test_case.param.name; });
 
-struct Damage {
-    std::string name;
-    std::string file;
-};
-
-class DamagedAltitudeFile : public AltitudeFile, public testing::WithParamInterface<Damage> {};
+class DamagedAltitudeFile : public AltitudeFile, public testing::WithParamInterface<Reading> {};
 
 TEST_P(DamagedAltitudeFile, RepairsItselfAndTheOldOneSurvives) {
     put("altitudini.txt", GetParam().file);
@@ -138,11 +133,11 @@ TEST_P(DamagedAltitudeFile, RepairsItselfAndTheOldOneSurvives) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, DamagedAltitudeFile,
-                         testing::Values(Damage{"Empty", ""}, Damage{"HeaderAlone", "Torino"},
-                                         Damage{"CutInTheBlock", "Torino\r\nTorino   240\r\nAgl"},
-                                         Damage{"EmptyBlock", "Torino\r\n\r\nTorino   240\r\n\r\n"},
-                                         Damage{"OtherCase", "TORINO\r\nTorino   240\r\n\r\n"},
-                                         Damage{"NoHeader", std::string(100000, '\0')}),
+                         testing::Values(Reading{"Empty", ""}, Reading{"HeaderAlone", "Torino"},
+                                         Reading{"CutInTheBlock", "Torino\r\nTorino   240\r\nAgl"},
+                                         Reading{"EmptyBlock", "Torino\r\n\r\nTorino   240\r\n\r\n"},
+                                         Reading{"OtherCase", "TORINO\r\nTorino   240\r\n\r\n"},
+                                         Reading{"NoHeader", std::string(100000, '\0')}),
                          [](const auto& test_case) { return test_case.param.name; });
 
 TEST_F(AltitudeFile, DirectoryIsFoundWhateverItsCase) {

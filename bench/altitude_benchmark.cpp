@@ -1,0 +1,48 @@
+// The altitude of the farthest municipality against reading the file's bytes.
+
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+
+#include "platform/files.h"
+#include "site/altitude_file.h"
+#include "site/altitude_replacement.h"
+#include "site/built_in_altitudes.h"
+#include "tests/support/fake_doors.h"
+#include "tests/support/temporary_directory.h"
+
+namespace {
+
+using namespace coltre;
+
+/// A directory with the built-in table.
+class TableDirectory : public TemporaryDirectory {
+  public:
+    TableDirectory() {
+        if (!replace_altitude_file(text(), built_in_altitude_file()).empty()) std::abort();
+    }
+};
+
+void read_altitude_farthest(benchmark::State& state) {
+    const TableDirectory directory;
+    FakeDoors fake;
+    Doors doors = fake.doors();
+    for (auto _ : state) {
+        const auto altitude = ReadAltitude(directory.text(), "Oristano", "Zerfaliu", doors);
+        if (altitude != "15") state.SkipWithError("wrong altitude");
+    }
+}
+
+void read_file_bytes(benchmark::State& state) {
+    const TableDirectory directory;
+    const std::string name = altitude_file_name(directory.text());
+    for (auto _ : state) {
+        const auto bytes = read_file(name);
+        benchmark::DoNotOptimize(bytes->data());
+    }
+}
+
+BENCHMARK(read_altitude_farthest);
+BENCHMARK(read_file_bytes);
+
+}  // namespace

@@ -1,0 +1,75 @@
+#include "ui/sketches/drawing_parts.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+using namespace coltre;
+
+// A U of 100 x 100 with a notch of 20 x 60 from above: a diagonal may not cross the notch.
+TEST(HatchLines, leave_a_notch_free) {
+    const std::vector<Point> u{{0, 0}, {40, 0}, {40, 60}, {60, 60}, {60, 0}, {100, 0}, {100, 100}, {0, 100}};
+    const auto pieces = hatch_lines(u, 10);
+    ASSERT_FALSE(pieces.empty());
+    for (const auto& [from, to] : pieces) {
+        EXPECT_NEAR(from.x + from.y, to.x + to.y, 1e-9) << "at 45 degrees";
+        const Point middle{(from.x + to.x) / 2, (from.y + to.y) / 2};
+        EXPECT_FALSE(middle.x > 40.01 && middle.x < 59.99 && middle.y < 59.99) << middle.x << " " << middle.y;
+    }
+}
+
+// By hand: a ridge of 45 degrees both sides and a slab of 10: the lower corner lies 10 / cos 45 = 14.142
+// below the ridge, the ends 7.071 inwards and down.
+TEST(SlabSection, has_the_same_thickness_on_both_sides) {
+    const std::vector<Point> slab = slab_section({{0, 100}, {100, 0}, {200, 100}}, 10);
+    ASSERT_EQ(slab.size(), 6U);
+    EXPECT_NEAR(slab[4].x, 100, 1e-9);
+    EXPECT_NEAR(slab[4].y, 14.142, 1e-3);
+    EXPECT_NEAR(slab[3].x, 200 - 7.071, 1e-3);
+    EXPECT_NEAR(slab[5].x, 7.071, 1e-3);
+    EXPECT_NEAR(slab[5].y, 107.071, 1e-3);
+}
+
+TEST(SlabSection, cuts_a_sharp_corner_short) {
+    const std::vector<Point> slab = slab_section({{-1, 1000}, {0, 0}, {1, 1000}}, 10);
+    EXPECT_LT(slab[4].y, 40);
+}
+
+TEST(Ordinate, is_finite_for_every_load) {
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    constexpr double inf = std::numeric_limits<double>::infinity();
+    EXPECT_DOUBLE_EQ(ordinate(1.5, 3, 600), 300);
+    EXPECT_DOUBLE_EQ(ordinate(-1, 3, 600), 0);
+    for (const double load : {0.0, nan, inf, -inf, 1e300}) {
+        for (const double largest : {0.0, nan, inf, 1.0}) {
+            const double height = ordinate(load, largest, 600);
+            EXPECT_TRUE(height >= 0 && height <= 600) << load << " of " << largest;
+        }
+    }
+}
+
+TEST(Quantity, is_written_with_five_digits_and_the_decimal_point) {
+    Drawing drawing;
+    EXPECT_EQ(quantity(drawing, "b1", 3.5, " m"), "b1 = 3.5 m");
+    EXPECT_EQ(quantity(drawing, "h", 0.05, " m"), "h = 0.05 m");
+    EXPECT_EQ(pitch_text(drawing, "α", 33.333333), "α = 33.33°");
+    drawing.neutral = true;
+    EXPECT_EQ(quantity(drawing, "b1", 3.5, " m"), "b1");
+}
+
+TEST(AddLoad, spaces_its_arrows_evenly_and_ends_them_on_the_base) {
+    Drawing drawing;
+    add_load(drawing, {{0, 0}, {1000, 0}, {2000, 500}}, 500);
+    ASSERT_GT(drawing.arrows.size(), 3U);
+    const double gap = drawing.arrows[1].from.x - drawing.arrows[0].from.x;
+    for (std::size_t i = 0; i < drawing.arrows.size(); ++i) {
+        const Arrow& arrow = drawing.arrows[i];
+        EXPECT_NEAR(arrow.from.x, gap / 2 + static_cast<double>(i) * gap, 1e-6);
+        EXPECT_DOUBLE_EQ(arrow.to.y, 500);
+        EXPECT_NEAR(arrow.from.y, std::max(0.0, (arrow.from.x - 1000) / 2), 1e-6) << "on the ordinates";
+    }
+    Drawing without_load;
+    add_load(without_load, {{0, 500}, {2000, 500}}, 500);
+    EXPECT_TRUE(without_load.shapes.empty());
+}

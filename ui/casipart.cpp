@@ -1,0 +1,140 @@
+#include "ui/casipart.h"
+
+#include <QKeyEvent>
+#include <utility>
+
+#include "calculate/Calcola2.h"
+#include "platform/surroundings.h"
+#include "report/unit_systems.h"
+#include "text/number_reading.h"
+#include "ui_casipart.h"
+
+namespace coltre {
+
+namespace {
+
+/// Item of `udmcombo` that the window opens with. The suite's setting counts from 1.
+int first_unit_item(const Program& program) {
+    return program.StandaloneFlag ? 0 : static_cast<int>(read_leniently(program.unit_setting).value) - 1;
+}
+
+}  // namespace
+
+casipart::casipart(Program& program, UserDialogs& dialogs, std::function<SiteFields()> site_fields,
+                   std::function<void()> show_ground_load, QWidget* parent)
+    : QWidget(parent, Qt::Window),
+      m_program(program),
+      m_dialogs(dialogs),
+      m_site_fields(std::move(site_fields)),
+      m_show_ground_load(std::move(show_ground_load)),
+      m_ui(std::make_unique<Ui::casipart>()) {
+    m_ui->setupUi(this);
+    setAttribute(Qt::WA_DeleteOnClose);
+
+    // The note comes and goes with the page; the pages are to stay where they are.
+    QSizePolicy note_policy = m_ui->Label78->sizePolicy();
+    note_policy.setRetainSizeWhenHidden(true);
+    m_ui->Label78->setSizePolicy(note_policy);
+    m_ui->Label78->setMinimumHeight(3 * fontMetrics().lineSpacing());
+
+    for (const std::string_view item : unit_items) {
+        m_ui->udmcombo->addItem(QString::fromUtf8(item.data(), static_cast<qsizetype>(item.size())));
+    }
+    m_ui->udmcombo->setCurrentIndex(first_unit_item(program));
+
+    connect(m_ui->cartelle, &QTabWidget::currentChanged, this, &casipart::on_page);
+    connect(m_ui->Check1Box, &QCheckBox::toggled, this, &casipart::on_report_switch);
+    connect(m_ui->Calcola2, &QPushButton::clicked, this, &casipart::on_calculate);
+    connect(m_ui->Chiudi2, &QPushButton::clicked, this, &casipart::close);
+    on_page();
+    on_report_switch();
+    m_ui->h2input->setFocus();
+}
+
+casipart::~casipart() = default;
+
+void casipart::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        m_ui->Calcola2->click();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void casipart::on_page() {
+    const auto page = static_cast<SpecialCase>(m_ui->cartelle->currentIndex());
+    m_ui->Label78->setVisible(page != SpecialCase::wall);
+    if (page == SpecialCase::level_change) {
+        m_ui->Label78->setText(
+            tr("<In corrisponenza di bruschi cambiamenti di quota delle coperture si considererà la "
+               "distribuzione di carico più gravosa tra quelle indicate in assenza di discontinuità e quella "
+               "qui riportata> (Circ. 4 luglio 96 - C.6.4)"));
+    } else if (page == SpecialCase::snow_guard) {
+        m_ui->Label78->setText(
+            tr("<La forza esercitata da una massa di neve contro una protezione viene calcolata nell'ipotesi "
+               "che il coefficiente di attrito tra neve e manto sia nullo. La forza va considerata nella "
+               "direzione dello slittamento per unità di lunghezza dell' ostacolo.> (Circ. 4 luglio 96 - "
+               "C.6.6)"));
+    }
+}
+
+void casipart::on_report_switch() {
+    m_ui->udmcombo->setEnabled(m_ui->Check1Box->isChecked());
+}
+
+void casipart::on_calculate() {
+    const SiteFields site = m_site_fields();
+    const SpecialCasesFields fields{
+        .asinput = site.asinput,
+        .ComboEsp = site.ComboEsp,
+        .TextCTermico = site.TextCTermico,
+        .cartelle = static_cast<SpecialCase>(m_ui->cartelle->currentIndex()),
+        .b1input = m_ui->b1input->utf8(),
+        .b2input = m_ui->b2input->utf8(),
+        .h2input = m_ui->h2input->utf8(),
+        .deltainput = m_ui->deltainput->utf8(),
+        .h3input = m_ui->h3input->utf8(),
+        .qsinput = m_ui->qsinput->utf8(),
+        .biinput = m_ui->biinput->utf8(),
+        .angoloinput = m_ui->angoloinput->utf8(),
+        .udmcombo = m_ui->udmcombo->currentText().toStdString(),
+        .Check1Box = m_ui->Check1Box->isChecked(),
+        .decimal_separator = user_decimal_separator(),
+    };
+    // The labels are refreshed as soon as the case is complete, before the message about the report.
+    Calcola2(fields, m_program, m_dialogs, *this);
+}
+
+/// The drift length is not shown where it is the width of the lower roof.
+void casipart::on_drift(bool cut) {
+    for (QWidget* part : {m_ui->ls_symbol, m_ui->ls_caption, static_cast<QLabel*>(m_ui->lsoutput)}) {
+        part->setHidden(cut);
+    }
+}
+
+void casipart::on_special_case(const SpecialCaseEntries& entries) {
+    struct Row {
+        SpecialCase page;
+        ResultLabel* label;
+        double ProgramCells::*cell;
+        int decimals;
+    };
+    const Row rows[] = {
+        {SpecialCase::level_change, m_ui->carico_14, &ProgramCells::level_qs2, 4},
+        {SpecialCase::level_change, m_ui->carico_15, &ProgramCells::level_qs1, 4},
+        {SpecialCase::level_change, m_ui->lsoutput, &ProgramCells::level_ls, 2},
+        {SpecialCase::wall, m_ui->carico_16, &ProgramCells::wall_qs1, 4},
+        {SpecialCase::wall, m_ui->carico_17, &ProgramCells::wall_qs2, 4},
+        {SpecialCase::wall, m_ui->ls2outputA, &ProgramCells::wall_ls, 2},
+        {SpecialCase::wall, m_ui->ls2outputB, &ProgramCells::wall_ls, 2},
+        {SpecialCase::snow_guard, m_ui->Fsoutput, &ProgramCells::Fs, 3},
+    };
+    m_show_ground_load();
+    for (const Row& row : rows) {
+        if (row.page == entries.special_case) {
+            row.label->show_number(m_program.cells.*row.cell, row.decimals);
+        }
+    }
+}
+
+}  // namespace coltre

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "engine/calculation.h"
+#include "ui/sketches/drawing.h"
+
+// One sketch a roof family and a special case; sketches.h says what each holds.
+namespace coltre {
+
+Drawing one_pitch_sketch(const Roof& roof, const ProgramCells* loads);
+Drawing two_pitches_sketch(const Roof& roof, const ProgramCells* loads);
+Drawing several_pitches_sketch(const Roof& roof, const ProgramCells* loads);
+Drawing cylindrical_sketch(const Roof& roof, const ProgramCells* loads);
+
+Drawing level_change_sketch(const SpecialCaseEntries& entries, const ProgramCells* loads);
+Drawing wall_sketch(const SpecialCaseEntries& entries, const ProgramCells* loads);
+Drawing snow_guard_sketch(const SpecialCaseEntries& entries);
+
+}  // namespace coltre
