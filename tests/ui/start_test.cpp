@@ -1,8 +1,11 @@
 #include <QCheckBox>
+#include <QKeySequence>
+#include <set>
 
 #include "site/regions.h"
 #include "tests/startup/suite_tree.h"
 #include "tests/ui/window_test.h"
+#include "ui/number_field.h"
 
 namespace coltre {
 namespace {
@@ -37,6 +40,42 @@ TEST_F(Start, StandAloneShowsTheDesignedWindow) {
     EXPECT_EQ(get("Check1Box").toolTip(), "Crea la relazione quando si lancia Calcola");
     EXPECT_EQ(get("udmcombo").toolTip(), "unità di misura in relazione");
     EXPECT_TRUE(std::filesystem::is_empty(directory.path())) << "nothing is written at the start";
+}
+
+TEST_F(Start, WindowFitsASmallScreenAndItsMnemonicsAreUnambiguous) {
+    const QSize least = window.minimumSizeHint();
+    EXPECT_LE(least.width(), 1024);
+    EXPECT_LE(least.height(), 700);
+
+    auto& tabs = get<QTabWidget>("SSTab1");
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+        choose_tab(tab);
+        QStringList captions;
+        for (int i = 0; i < tabs.count(); ++i)
+            captions += tabs.tabText(i);
+        for (const QLabel* label : window.findChildren<QLabel*>())
+            if (label->buddy() && label->isVisible()) captions += label->text();
+        for (const QAbstractButton* button : window.findChildren<QAbstractButton*>())
+            if (button->isVisible()) captions += button->text();
+        std::set<QString> keys;
+        for (const QString& caption : captions) {
+            const QKeySequence key = QKeySequence::mnemonic(caption);
+            const bool is_new = key.isEmpty() || keys.insert(key.toString()).second;
+            EXPECT_TRUE(is_new) << caption.toStdString();
+        }
+        EXPECT_GE(keys.size(), 18U);
+    }
+}
+
+TEST_F(Start, UnclearTextIsMarkedAndSaysHowItIsRead) {
+    auto& Ct = get<NumberField>("TextCTermico");
+    EXPECT_FALSE(Ct.is_marked());
+    type("TextCTermico", "1,5");
+    EXPECT_TRUE(Ct.is_marked());
+    EXPECT_EQ(Ct.accessibleDescription(), "letto come 1");
+    type("TextCTermico", " 1.5 ");
+    EXPECT_FALSE(Ct.is_marked());
+    EXPECT_EQ(Ct.accessibleDescription(), "");
 }
 
 class SuiteStart : public MainWindowTest {
