@@ -33,7 +33,7 @@ void fill(QComboBox& list, std::span<const std::string_view> items, int selected
 /// Brings a window that is open to the front.
 /// @return false if there is none
 bool raise_open(QWidget* window) {
-    if (!window) return false;
+    if (window == nullptr) return false;
     window->raise();
     window->activateWindow();
     return true;
@@ -90,7 +90,8 @@ void Form1::set_up_hints() {
     m_hints->hide_over(*m_ui->SSTab1);
     // The tab control's surface: its bar, its pages and what they are laid out with.
     for (QWidget* part : m_ui->SSTab1->findChildren<QWidget*>())
-        if (!qobject_cast<QLabel*>(part) && !qobject_cast<QLineEdit*>(part)) m_hints->hide_over(*part);
+        if (qobject_cast<QLabel*>(part) == nullptr && qobject_cast<QLineEdit*>(part) == nullptr)
+            m_hints->hide_over(*part);
 }
 
 bool Form1::load(std::string_view command_line, std::string_view own_directory) {
