@@ -1,5 +1,6 @@
 #include "ui/qt_dialogs.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
 #include <cstdlib>
@@ -22,6 +23,14 @@ QMessageBox::Icon icon_of(Icon icon) {
     return QMessageBox::NoIcon;
 }
 
+/// Texts of the buttons, whatever the locale and whatever translations are installed.
+struct ButtonText {
+    QMessageBox::StandardButton button;
+    const char* text;
+};
+constexpr ButtonText button_texts[] = {
+    {QMessageBox::Yes, "&Sì"}, {QMessageBox::No, "&No"}, {QMessageBox::Ok, "OK"}};
+
 QMessageBox::StandardButton run(const Message& message, QMessageBox::StandardButtons buttons) {
     QString text = QString::fromStdString(message.text);
     text.replace('\r', '\n');
@@ -29,6 +38,8 @@ QMessageBox::StandardButton run(const Message& message, QMessageBox::StandardBut
                     QApplication::activeWindow());
     // Texts such as "<Eventuali riduzioni ...>" are no markup.
     box.setTextFormat(Qt::PlainText);
+    for (const ButtonText& it : button_texts)
+        if (QAbstractButton* button = box.button(it.button)) button->setText(it.text);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

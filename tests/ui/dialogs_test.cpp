@@ -1,0 +1,157 @@
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+#include "calculate/return_period.h"
+#include "tests/ui/real_boxes.h"
+#include "tests/ui/window_test.h"
+#include "ui/CoeffEsposizione.h"
+#include "ui/Form2.h"
+#include "ui/PeriododiRitorno.h"
+#include "ui/qt_dialogs.h"
+
+namespace coltre {
+namespace {
+
+class Dialogs : public MainWindowTest {
+  protected:
+    PeriododiRitorno& open_return_period() {
+        dialogs.expect_question(
+            Icon::information,
+            "<Eventuali riduzioni del carico di riferimento qsk potranno essere autorizzate\r"
+            "dal Servizio Tecnico Centrale, sentito il Consiglio Superiore dei LL.PP.>\r"
+            "(Circ. 04/07/1996)\r"
+            "Modificare il Periodo di Ritorno?",
+            true);
+        click("Modifica");
+        auto* dialog = open_window<PeriododiRitorno>();
+        if (!dialog) throw std::runtime_error("the dialog did not open");
+        return *dialog;
+    }
+    static void confirm(PeriododiRitorno& dialog, const QString& typed) {
+        control<QLineEdit>(dialog, "InputPerRIT").setText(typed);
+        QTest::mouseClick(&control(dialog, "OkPerRit"), Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+};
+
+TEST_F(Dialogs, NoLeavesTheReturnPeriodAlone) {
+    dialogs.expect_question(Icon::information, return_period_question().text, false);
+    click("Modifica");
+    EXPECT_EQ(open_window<PeriododiRitorno>(), nullptr);
+}
+
+TEST_F(Dialogs, ReturnPeriodIsConfirmedWhileTheMainWindowStaysUsable) {
+    PeriododiRitorno& dialog = open_return_period();
+    EXPECT_FALSE(dialog.isModal());
+    click("Calcola");
+    EXPECT_EQ(text("caricosuolo"), " 1.5");
+    click("Modifica");  // asks nothing: the dialog is open
+
+    confirm(dialog, "  100 ");
+    EXPECT_EQ(open_window<PeriododiRitorno>(), nullptr);
+    EXPECT_EQ(text("OutputPerRit"), "100");
+    click("Calcola");
+    EXPECT_EQ(text("caricosuolo"), " 1.3514");  // 1.5 times 0.9009
+}
+
+TEST_F(Dialogs, RejectedReturnPeriodKeepsTheDialogOpenAndTheFactor) {
+    PeriododiRitorno& dialog = open_return_period();
+    EXPECT_EQ(control<QLineEdit>(dialog, "InputPerRIT").text(), "50");
+    dialogs.expect(Icon::error, "Il Periodo di Ritorno deve essere un numero maggiore di 0.");
+    confirm(dialog, "-3");
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(text("OutputPerRit"), "50");
+    EXPECT_EQ(program.cells.return_period, -3);
+    EXPECT_EQ(program.cells.return_period_factor, 1);
+
+    QTest::mouseClick(&control(dialog, "AnnPerRit"), Qt::LeftButton);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(control<QLineEdit>(open_return_period(), "InputPerRIT").text(), "50") << "opens afresh";
+}
+
+TEST_F(Dialogs, ExposureTableBlocksTheMainWindowUntilItIsClosed) {
+    type("asinput", "77");
+    bool was_open = false;
+    QTimer::singleShot(0, [&] {
+        auto* table = open_window<CoeffEsposizione>();
+        was_open = table && table->isModal() && QApplication::activeModalWidget() == table;
+        if (!table) return;
+        const QImage picture = control(*table, "Image1").grab().toImage();
+        EXPECT_GT(picture.width(), 600);
+        EXPECT_EQ(picture.pixelColor(3, 3), QColor(Qt::white));
+        QTest::mouseClick(&control(*table, "ChiudiButt"), Qt::LeftButton);
+    });
+    click("Command1");
+    EXPECT_TRUE(was_open);
+    EXPECT_EQ(open_window<CoeffEsposizione>(), nullptr);
+    EXPECT_EQ(field("asinput"), "77");
+}
+
+TEST_F(Dialogs, SpecialCasesOpenOnceAndBlockNothing) {
+    click("Bottcpart");
+    click("Bottcpart");
+    int open = 0;
+    for (const QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->isVisible() && widget->windowTitle() == "Coltre - Casi particolari") {
+            ++open;
+            EXPECT_FALSE(widget->isModal());
+        }
+    EXPECT_EQ(open, 1);
+    click("Calcola");
+    EXPECT_EQ(text("carico_1"), " 1.2");
+}
+
+TEST(Form2Dialog, StoresTheLeadingNumber) {
+    const std::pair<const char*, double> cases[] = {{"  2.5 ", 2.5}, {"abc", 0}, {"7kN", 7}};
+    for (const auto& [typed, stored] : cases) {
+        WindowValues values{.working_value = -1};
+        auto* dialog = new Form2(values);
+        dialog->show();
+        control<QLineEdit>(*dialog, "Text1").setText(typed);
+        QTest::mouseClick(&control(*dialog, "OK"), Qt::LeftButton);
+        EXPECT_EQ(values.working_value, stored) << typed;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(open_window<Form2>(), nullptr);
+    }
+}
+
+/// Real message boxes, answered as soon as they are on the screen.
+class RealBoxes : public testing::Test {
+  protected:
+    void SetUp() override { real_boxes_expected() = true; }
+    void TearDown() override { real_boxes_expected() = false; }
+
+    static void answer(QMessageBox::StandardButton button, QMessageBox::Icon icon, const QStringList& texts) {
+        QTimer::singleShot(0, [=] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            EXPECT_EQ(box->text(), "<uno>\ndue");
+            EXPECT_EQ(box->textFormat(), Qt::PlainText);
+            EXPECT_EQ(box->windowTitle(), "Coltre");
+            EXPECT_EQ(box->icon(), icon);
+            QStringList shown;
+            for (const QAbstractButton* it : box->buttons())
+                shown += QString(it->text()).remove('&');
+            shown.sort();
+            EXPECT_EQ(shown, texts);
+            QTest::mouseClick(box->button(button), Qt::LeftButton);
+        });
+    }
+
+    QtDialogs dialogs;
+};
+
+TEST_F(RealBoxes, ShowLinesIconAndItalianButtons) {
+    answer(QMessageBox::Ok, QMessageBox::Critical, {"OK"});
+    dialogs.show({Icon::error, "Coltre", "<uno>\rdue"});
+    answer(QMessageBox::Ok, QMessageBox::Warning, {"OK"});
+    dialogs.show({Icon::warning, "Coltre", "<uno>\rdue"});
+    answer(QMessageBox::Yes, QMessageBox::Information, {"No", "Sì"});
+    EXPECT_TRUE(dialogs.ask({Icon::information, "Coltre", "<uno>\rdue"}));
+    answer(QMessageBox::No, QMessageBox::Information, {"No", "Sì"});
+    EXPECT_FALSE(dialogs.ask({Icon::information, "Coltre", "<uno>\rdue"}));
+}
+
+}  // namespace
+}  // namespace coltre

@@ -1,0 +1,80 @@
+#include "tests/ui/window_test.h"
+
+namespace coltre {
+namespace {
+
+class HintsTest : public MainWindowTest {
+  protected:
+    void move_over(const char* name, QPoint at) {
+        QWidget& widget = name == std::string_view("window") ? window : get(name);
+        QTest::mouseMove(&widget, at);
+        QApplication::processEvents();
+    }
+    void move_over(const char* name) { move_over(name, get(name).rect().center()); }
+    /// A place of the control without children.
+    QPoint bottom(const char* name) { return {8, get(name).height() - 4}; }
+    bool shown() { return get("Label25").isVisible(); }
+    QTimer& Timer1() { return *window.findChild<QTimer*>("Timer1"); }
+    /// Lets the delay pass at once.
+    void tick() {
+        ASSERT_TRUE(Timer1().isActive());
+        Timer1().setInterval(0);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !Timer1().isActive(); }));
+        Timer1().setInterval(800);
+    }
+};
+
+TEST_F(HintsTest, ComeAfterTheDelayOnceAStayAndGoOverEachBackground) {
+    EXPECT_EQ(Timer1().interval(), 800);
+    const int height = get("SSTab1").height();
+    for (const char* background : {"Frame1", "Label32", "SSTab1", "tab_1", "window"}) {
+        move_over("carico_1");
+        EXPECT_FALSE(shown());
+        tick();
+        EXPECT_TRUE(shown());
+        EXPECT_EQ(text("Label25"),
+                  "Il carico agisce in direzione verticale ed è riferito alla proiezione orizzontale della "
+                  "superficie della copertura. Considerare la più gravosa delle condizioni sopra riportate.");
+        EXPECT_EQ(get("SSTab1").height(), height) << "the layout does not jump";
+
+        move_over(background, background == std::string_view("window") ? QPoint(2, 300) : bottom(background));
+        EXPECT_FALSE(shown()) << background;
+        EXPECT_FALSE(Timer1().isActive()) << background;
+    }
+}
+
+TEST_F(HintsTest, NeighbourReplacesTheTextWithoutHidingTheLabel) {
+    move_over("asinput");
+    tick();
+    EXPECT_EQ(text("Label25"),
+              "Quota del suolo sul livello del mare nel sito di realizzazione dell' edificio, ininfluente se "
+              "minore di 200 m.");
+    move_over("spor_1");
+    EXPECT_TRUE(shown());
+    tick();
+    EXPECT_EQ(text("Label25"),
+              "Il carico distribuito in punta dovuto a neve sporgente va considerato in caso di copertura "
+              "aggettante sulle pareti perimetrali.");
+}
+
+TEST_F(HintsTest, OnlyTheBackgroundsCancelOneThatIsToCome) {
+    move_over("asinput");
+    move_over("Chiudi");
+    EXPECT_TRUE(Timer1().isActive()) << "the hint still comes";
+    move_over("asinput");
+    move_over("Frame1", bottom("Frame1"));
+    EXPECT_FALSE(Timer1().isActive());
+}
+
+TEST_F(HintsTest, EachMoveStartsTheDelayAnew) {
+    Timer1().setTimerType(Qt::PreciseTimer);
+    Timer1().setInterval(10000);
+    move_over("asinput", QPoint(10, 10));
+    QTest::qWait(60);
+    const int before = Timer1().remainingTime();
+    move_over("asinput", QPoint(20, 12));
+    EXPECT_GT(Timer1().remainingTime(), before);
+}
+
+}  // namespace
+}  // namespace coltre

@@ -1,0 +1,93 @@
+#include <QAbstractItemView>
+#include <fstream>
+
+#include "tests/ui/window_test.h"
+#include "text/names.h"
+
+namespace coltre {
+namespace {
+
+using Site = MainWindowTest;
+
+TEST_F(Site, ProvinceShowsItsZoneAndTheAltitudeOfItsFirstMunicipality) {
+    list("Provinciainput").setCurrentText("Alessandria");
+    EXPECT_EQ(text("Zonalabel"), "(Zona I Mediterranea)");
+    EXPECT_EQ(program.cells.zone, 1);
+    EXPECT_EQ(list("comuneinput").currentIndex(), 0);
+    EXPECT_EQ(list("comuneinput").currentText(), "Alessandria");
+    EXPECT_EQ(field("asinput"), "95");
+    list("Provinciainput").setCurrentText("Torino");
+    EXPECT_EQ(field("asinput"), "239");
+    list("comuneinput").setCurrentText("Sestriere");
+    EXPECT_EQ(field("asinput"), "2035");
+}
+
+TEST_F(Site, RegionChangesTheProvincesAlone) {
+    list("Provinciainput").setCurrentText("Torino");
+    list("comuneinput").setCurrentText("Sestriere");
+    list("regione").setCurrentText("Umbria");
+    EXPECT_EQ(list("Provinciainput").count(), 2);
+    EXPECT_EQ(list("Provinciainput").currentIndex(), -1);
+    EXPECT_EQ(list("comuneinput").currentText(), "Sestriere");
+    EXPECT_EQ(field("asinput"), "2035");
+    EXPECT_EQ(text("Zonalabel"), "(Zona I Alpina)");
+    EXPECT_EQ(program.cells.zone, 0);
+}
+
+TEST_F(Site, SameMunicipalityChosenAgainBringsItsAltitudeBack) {
+    list("Provinciainput").setCurrentText("Torino");
+    type("asinput", "300");
+    auto& municipalities = list("comuneinput");
+    municipalities.showPopup();
+    QTest::keyClick(municipalities.view(), Qt::Key_Return);
+    EXPECT_EQ(field("asinput"), "239");
+}
+
+TEST_F(Site, SecondReadErrorEndsTheProgramAndLeavesTheWindowAsItIs) {
+    list("Provinciainput").setCurrentText("Torino");
+    list("regione").setCurrentText("Veneto");
+    dialogs.expect(Icon::error, "Errore in lettura del file altitudine.txt .");
+    list("Provinciainput").setCurrentText("Vicenza");
+    EXPECT_EQ(dialogs.ended, 1);
+    EXPECT_EQ(field("asinput"), "239");
+}
+
+TEST_F(Site, EditedFileCountsAtTheNextChoice) {
+    list("Provinciainput").setCurrentText("Torino");
+    std::ofstream(directory.path() / "altitudini.txt", std::ios::binary)
+        << "Torino\r\nTorino    12\r\nNuovo   7\r\n\r\n";
+    list("comuneinput").setCurrentIndex(1);  // Aglie', no longer in the file: the file is written anew
+    EXPECT_EQ(field("asinput"), "315");
+}
+
+TEST_F(Site, ClosedListJumpsToWhatIsTyped) {
+    list("Provinciainput").setCurrentText("Torino");
+    auto& municipalities = list("comuneinput");
+    municipalities.setFocus();
+    QTest::keyClicks(&municipalities, "agli");
+    QTest::sendKeyEvent(QTest::Click, &municipalities, Qt::Key_Egrave, "è", Qt::NoModifier);
+    EXPECT_EQ(municipalities.currentText(), "Aglie'");
+    EXPECT_EQ(field("asinput"), "315");
+    QTest::qWait(1100);  // what was typed is forgotten
+    QTest::keyClicks(&municipalities, "SESTR");
+    EXPECT_EQ(municipalities.currentText(), "Sestriere");
+    QTest::qWait(1100);
+    QTest::keyClicks(&municipalities, "qqq");
+    EXPECT_EQ(municipalities.currentText(), "Quincinetto") << "the same letter walks on";
+    QTest::keyClick(&municipalities, Qt::Key_Up);
+    EXPECT_EQ(municipalities.currentText(), "Quassolo");
+}
+
+TEST_F(Site, OpenListJumpsToWhatIsTypedAndChoosesOnReturn) {
+    list("Provinciainput").setCurrentText("Torino");
+    auto& municipalities = list("comuneinput");
+    municipalities.showPopup();
+    QTest::keyClicks(municipalities.view(), "castiglioneto");
+    EXPECT_EQ(field("asinput"), "239") << "nothing is chosen yet";
+    QTest::keyClick(municipalities.view(), Qt::Key_Return);
+    EXPECT_EQ(municipalities.currentText(), "CastiglioneTorinese");
+    EXPECT_NE(field("asinput"), "239");
+}
+
+}  // namespace
+}  // namespace coltre

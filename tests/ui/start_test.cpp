@@ -1,0 +1,114 @@
+#include <QCheckBox>
+#include <QKeySequence>
+#include <set>
+
+#include "site/regions.h"
+#include "tests/startup/suite_tree.h"
+#include "tests/ui/window_test.h"
+#include "ui/number_field.h"
+
+namespace coltre {
+namespace {
+
+using Start = MainWindowTest;
+
+QStringList items(const QComboBox& list) {
+    QStringList texts;
+    for (int i = 0; i < list.count(); ++i)
+        texts += list.itemText(i);
+    return texts;
+}
+
+TEST_F(Start, StandAloneShowsTheDesignedWindow) {
+    EXPECT_EQ(window.windowTitle(), "Coltre - ARCOVIA 15");
+    EXPECT_EQ(items(list("udmcombo")), QStringList({"kN , m", "Kgf , m", "kgf , cm"}));
+    EXPECT_EQ(list("udmcombo").currentText(), "kN , m");
+    EXPECT_EQ(items(list("ComboEsp")), QStringList({"0.9", "1.0", "1.1"}));
+    EXPECT_EQ(list("ComboEsp").currentText(), "1.0");
+    EXPECT_EQ(list("regione").count(), static_cast<int>(regions().size()));
+    EXPECT_EQ(list("regione").currentText(), "Piemonte");
+    // The event of the selection has filled the provinces, and chosen none.
+    EXPECT_EQ(items(list("Provinciainput")), QStringList({"Torino", "Alessandria", "Asti", "Biella", "Cuneo",
+                                                          "Novara", "Verbania", "Vercelli"}));
+    EXPECT_EQ(list("Provinciainput").currentIndex(), -1);
+    EXPECT_EQ(list("comuneinput").count(), 0);
+    EXPECT_EQ(text("Zonalabel"), "(Zona 1)");
+    EXPECT_EQ(field("TextCTermico"), "1.0");
+    EXPECT_EQ(text("OutputPerRit"), "50");
+    EXPECT_FALSE(get<QCheckBox>("Check1Box").isChecked());
+    EXPECT_FALSE(get("udmcombo").isEnabled());
+    EXPECT_EQ(get("Check1Box").toolTip(), "Crea la relazione quando si lancia Calcola");
+    EXPECT_EQ(get("udmcombo").toolTip(), "unità di misura in relazione");
+    EXPECT_TRUE(std::filesystem::is_empty(directory.path())) << "nothing is written at the start";
+}
+
+TEST_F(Start, WindowFitsASmallScreenAndItsMnemonicsAreUnambiguous) {
+    const QSize least = window.minimumSizeHint();
+    EXPECT_LE(least.width(), 1024);
+    EXPECT_LE(least.height(), 700);
+
+    auto& tabs = get<QTabWidget>("SSTab1");
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+        choose_tab(tab);
+        QStringList captions;
+        for (int i = 0; i < tabs.count(); ++i)
+            captions += tabs.tabText(i);
+        for (const QLabel* label : window.findChildren<QLabel*>())
+            if (label->buddy() && label->isVisible()) captions += label->text();
+        for (const QAbstractButton* button : window.findChildren<QAbstractButton*>())
+            if (button->isVisible()) captions += button->text();
+        std::set<QString> keys;
+        for (const QString& caption : captions) {
+            const QKeySequence key = QKeySequence::mnemonic(caption);
+            const bool is_new = key.isEmpty() || keys.insert(key.toString()).second;
+            EXPECT_TRUE(is_new) << caption.toStdString();
+        }
+        EXPECT_GE(keys.size(), 18U);
+    }
+}
+
+TEST_F(Start, UnclearTextIsMarkedAndSaysHowItIsRead) {
+    auto& Ct = get<NumberField>("TextCTermico");
+    EXPECT_FALSE(Ct.is_marked());
+    type("TextCTermico", "1,5");
+    EXPECT_TRUE(Ct.is_marked());
+    EXPECT_EQ(Ct.accessibleDescription(), "letto come 1");
+    type("TextCTermico", " 1.5 ");
+    EXPECT_FALSE(Ct.is_marked());
+    EXPECT_EQ(Ct.accessibleDescription(), "");
+}
+
+class SuiteStart : public MainWindowTest {
+  protected:
+    void SetUp() override {}
+    SuiteTree suite;
+};
+
+TEST_F(SuiteStart, ShowsTheJobAndSelectsKgfAndCm) {
+    start("|autonomo=1" + suite.command_line());
+    EXPECT_EQ(window.windowTitle().toStdString(), "Coltre - ARCOVIA 15 - " + suite.jobs() + "\\job001");
+    EXPECT_EQ(list("udmcombo").currentText(), "kgf , cm");
+    EXPECT_EQ(list("regione").currentText(), "Piemonte");
+
+    // The report goes to the job, though the root on the command line comes back in lower case.
+    click("Check1Box");
+    dialogs.expect(Icon::none,
+                   "Creazione della relazione " + suite.jobs() + "\\job001\\coltre.txt effettuata");
+    click("Calcola");
+    EXPECT_TRUE(std::filesystem::exists(find_path(suite.jobs() + "\\job001\\coltre.txt")));
+}
+
+TEST_F(SuiteStart, FaultOfTheSuiteEndsTheProgramBeforeTheListsAreFilled) {
+    suite.remove("IMPOSTAZIONI");
+    // The text of the box belongs to the directory check; here it counts that the end is the end.
+    class AnyBox : public FakeDialogs {
+        void show(const Message& message) override { EXPECT_EQ(message.title, "ERRORE"); }
+    } any;
+    Form1 other(program, any, any);
+    EXPECT_FALSE(other.load(suite.command_line(), directory.text()));
+    EXPECT_EQ(any.ended, 1);
+    EXPECT_EQ(control<QComboBox>(other, "regione").count(), 0);
+}
+
+}  // namespace
+}  // namespace coltre

@@ -1,0 +1,208 @@
+#include "ui/Form1.h"
+
+#include <QKeyEvent>
+
+#include "calculate/Calcola.h"
+#include "calculate/return_period.h"
+#include "calculate/site_choice.h"
+#include "report/unit_systems.h"
+#include "site/regions.h"
+#include "startup/start_up.h"
+#include "text/number_text.h"
+#include "ui/CoeffEsposizione.h"
+#include "ui/PeriododiRitorno.h"
+#include "ui/casipart.h"
+#include "ui/maker.h"
+#include "ui/result_display.h"
+#include "ui_Form1.h"
+
+namespace coltre {
+
+namespace {
+
+QString qt(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+void fill(QComboBox& list, std::span<const std::string_view> items, int selected) {
+    for (const std::string_view item : items)
+        list.addItem(qt(item));
+    list.setCurrentIndex(selected);
+}
+
+/// Brings a window that is open to the front.
+/// @return false if there is none
+bool raise_open(QWidget* window) {
+    if (window == nullptr) return false;
+    window->raise();
+    window->activateWindow();
+    return true;
+}
+
+}  // namespace
+
+Form1::Form1(Program& program, UserDialogs& dialogs, ProgramEnd& program_end, QWidget* parent)
+    : QWidget(parent),
+      m_program(program),
+      m_dialogs(dialogs),
+      m_doors{dialogs, program_end},
+      m_ui(std::make_unique<Ui::Form1>()) {
+    m_ui->setupUi(this);
+    m_Timer1.setObjectName("Timer1");
+    m_Timer1.setInterval(800);
+    m_hints = std::make_unique<Hints>(*m_ui->Label25, m_Timer1);
+    set_up_hints();
+    connect_controls();
+}
+
+Form1::~Form1() = default;
+
+void Form1::connect_controls() {
+    connect(m_ui->regione, &SiteList::chosen, this, &Form1::region_chosen);
+    connect(m_ui->Provinciainput, &SiteList::chosen, this, &Form1::province_chosen);
+    connect(m_ui->comuneinput, &SiteList::chosen, this, &Form1::municipality_chosen);
+    connect(m_ui->Check1Box, &QCheckBox::toggled, this, &Form1::report_switched);
+    connect(m_ui->Modifica, &QPushButton::clicked, this, &Form1::return_period_clicked);
+    connect(m_ui->Command1, &QPushButton::clicked, this, &Form1::exposure_table_clicked);
+    connect(m_ui->Bottcpart, &QPushButton::clicked, this, &Form1::special_cases_clicked);
+    connect(m_ui->Calcola, &QPushButton::clicked, this, &Form1::calculate_clicked);
+    connect(m_ui->Info, &QPushButton::clicked, this, &Form1::information_clicked);
+    connect(m_ui->Chiudi, &QPushButton::clicked, this, &Form1::close);
+}
+
+void Form1::set_up_hints() {
+    m_hints->show_over(*m_ui->asinput,
+                       tr("Quota del suolo sul livello del mare nel sito di realizzazione dell' edificio, "
+                          "ininfluente se minore di 200 m."));
+    for (ResultLabel* label : findChildren<ResultLabel*>()) {
+        if (label->objectName().startsWith("carico_"))
+            m_hints->show_over(*label, tr("Il carico agisce in direzione verticale ed è riferito alla "
+                                          "proiezione orizzontale della superficie della copertura. "
+                                          "Considerare la più gravosa delle condizioni sopra riportate."));
+        if (label->objectName().startsWith("spor_"))
+            m_hints->show_over(*label, tr("Il carico distribuito in punta dovuto a neve sporgente va "
+                                          "considerato in caso di copertura aggettante sulle pareti "
+                                          "perimetrali."));
+    }
+    m_hints->hide_over(*this);
+    m_hints->hide_over(*m_ui->Frame1);
+    m_hints->hide_over(*m_ui->Label32);
+    m_hints->hide_over(*m_ui->SSTab1);
+    // The tab control's surface: its bar, its pages and what they are laid out with.
+    for (QWidget* part : m_ui->SSTab1->findChildren<QWidget*>())
+        if (qobject_cast<QLabel*>(part) == nullptr && qobject_cast<QLineEdit*>(part) == nullptr)
+            m_hints->hide_over(*part);
+}
+
+bool Form1::load(std::string_view command_line, std::string_view own_directory) {
+    const StartUp start = start_up(command_line, own_directory, m_program, m_doors);
+    if (!start.goes_on) return false;
+    if (start.caption) setWindowTitle(QString::fromStdString(*start.caption));
+    fill(*m_ui->udmcombo, unit_items, start.unit_item);
+    fill(*m_ui->ComboEsp, exposure_items, start.exposure_item);
+    report_switched();
+
+    std::vector<std::string> names;
+    for (const Region& region : regions())
+        names.emplace_back(region.name);
+    m_ui->regione->fill(names);
+    m_ui->regione->setCurrentIndex(start.region_item);
+    m_ui->OutputPerRit->setText(qt(display_number_text(m_program.cells.return_period)).trimmed());
+    return true;
+}
+
+SiteFields Form1::site_fields() const {
+    return {.asinput = m_ui->asinput->utf8(),
+            .ComboEsp = m_ui->ComboEsp->currentText().toStdString(),
+            .TextCTermico = m_ui->TextCTermico->utf8()};
+}
+
+void Form1::show_ground_load() {
+    m_ui->caricosuolo->show_number(m_program.cells.qsk, load_decimals);
+}
+
+void Form1::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        m_ui->Calcola->click();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void Form1::region_chosen(int index) {
+    std::vector<std::string> provinces;
+    FillProvinces(index, provinces);
+    m_ui->Provinciainput->fill(provinces);
+}
+
+void Form1::province_chosen() {
+    const ProvinceChoice choice = choose_province(m_program, m_ui->Provinciainput->utf8(), m_doors);
+    m_ui->Zonalabel->setText(qt(choice.zone_caption));
+    if (!choice.municipalities) return;  // the program has ended
+    m_ui->comuneinput->fill(choice.municipalities->names);
+    m_ui->comuneinput->setCurrentIndex(0);
+}
+
+void Form1::municipality_chosen() {
+    const std::optional<std::string> altitude =
+        ReadAltitude(m_program.directories.ProgramDirectory, m_ui->Provinciainput->utf8(),
+                     m_ui->comuneinput->utf8(), m_doors);
+    if (altitude) m_ui->asinput->setText(QString::fromStdString(*altitude));
+}
+
+void Form1::report_switched() {
+    m_ui->udmcombo->setEnabled(m_ui->Check1Box->isChecked());
+}
+
+void Form1::return_period_clicked() {
+    if (raise_open(m_return_period) || !m_dialogs.ask(return_period_question())) return;
+    auto* dialog = new PeriododiRitorno(m_program.cells, m_dialogs, m_ui->OutputPerRit->text(), this);
+    connect(dialog, &PeriododiRitorno::confirmed, m_ui->OutputPerRit, &ResultLabel::setText);
+    m_return_period = dialog;
+    dialog->show();
+}
+
+void Form1::exposure_table_clicked() {
+    CoeffEsposizione(this).exec();
+}
+
+void Form1::special_cases_clicked() {
+    if (raise_open(m_special_cases)) return;
+    m_special_cases = new casipart(
+        m_program, m_dialogs, [this] { return site_fields(); }, [this] { show_ground_load(); }, this);
+    m_special_cases->show();
+}
+
+void Form1::calculate_clicked() {
+    const SiteFields site = site_fields();
+    const MainWindowFields fields{.asinput = site.asinput,
+                                  .ComboEsp = site.ComboEsp,
+                                  .TextCTermico = site.TextCTermico,
+                                  .SSTab1 = static_cast<RoofFamily>(m_ui->SSTab1->currentIndex()),
+                                  .inputalfa = m_ui->inputalfa->utf8(),
+                                  .inputalfa1 = m_ui->inputalfa1->utf8(),
+                                  .inputalfa2 = m_ui->inputalfa2->utf8(),
+                                  .inputalfa3 = m_ui->inputalfa3->utf8(),
+                                  .inputalfa4 = m_ui->inputalfa4->utf8(),
+                                  .Lcopcil = m_ui->Lcopcil->utf8(),
+                                  .hcopcil = m_ui->hcopcil->utf8(),
+                                  .udmcombo = m_ui->udmcombo->currentText().toStdString(),
+                                  .Check1Box = m_ui->Check1Box->isChecked()};
+    CalculationObserver nobody;
+    const ClickOutcome outcome = Calcola(fields, m_program, m_dialogs, nobody);
+    if (outcome.asinput) m_ui->asinput->setText(QString::fromStdString(*outcome.asinput));
+    if (outcome.L1output) m_ui->L1output->setText(QString::fromStdString(*outcome.L1output));
+    if (outcome.L2output) m_ui->L2output->setText(QString::fromStdString(*outcome.L2output));
+    if (!outcome.results_complete) return;
+    show_ground_load();
+    for (const DisplayRow& row : display_rows(fields.SSTab1))
+        findChild<ResultLabel*>(row.label)->show_number(m_program.cells.*row.cell.cell, row.decimals);
+}
+
+void Form1::information_clicked() {
+    std::string text;
+    for (const std::string_view line : maker_lines)
+        text.append(text.empty() ? "" : "\r").append(line);
+    m_dialogs.show({Icon::information, std::string(program_title), text});
+}
+
+}  // namespace coltre

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+#include <memory>
+#include <string_view>
+
+#include "platform/doors.h"
+#include "startup/program.h"
+#include "ui/hints.h"
+#include "ui/site_fields.h"
+#include "ui/user_dialogs.h"
+
+namespace coltre {
+
+namespace Ui {
+class Form1;
+}
+
+/// The main window: site, coefficients, roof and report in, loads out. Its handlers read the fields, call the
+/// core and show the cells.
+class Form1 : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// @param program  outlives the window, and so do the doors
+    Form1(Program& program, UserDialogs& dialogs, ProgramEnd& program_end, QWidget* parent = nullptr);
+    ~Form1() override;
+
+    /// Everything that is set before the user sees the window, in order: mode and directories, caption, lists
+    /// and their selections, start values.
+    /// @param command_line   the arguments of the process as one text
+    /// @param own_directory  the directory that holds the program
+    /// @return false if the program was ended
+    bool load(std::string_view command_line, std::string_view own_directory);
+
+    /// What the special cases read of this window.
+    [[nodiscard]] SiteFields site_fields() const;
+
+    /// `caricosuolo` shows the qsk cell.
+    void show_ground_load();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void connect_controls();
+    void set_up_hints();
+
+    // One handler a control and event.
+    void region_chosen(int index);
+    void province_chosen();
+    void municipality_chosen();
+    void report_switched();
+    void return_period_clicked();
+    void exposure_table_clicked();
+    void special_cases_clicked();
+    void calculate_clicked();
+    void information_clicked();
+
+    Program& m_program;
+    UserDialogs& m_dialogs;
+    Doors m_doors;
+    std::unique_ptr<Ui::Form1> m_ui;
+    QTimer m_Timer1{this};
+    std::unique_ptr<Hints> m_hints;
+    QPointer<QWidget> m_return_period;  // one at a time
+    QPointer<QWidget> m_special_cases;
+};
+
+}  // namespace coltre

@@ -1,0 +1,28 @@
+#include "ui/PeriododiRitorno.h"
+
+#include "calculate/return_period.h"
+#include "ui_PeriododiRitorno.h"
+
+namespace coltre {
+
+PeriododiRitorno::PeriododiRitorno(ProgramCells& cells, UserDialogs& dialogs, const QString& in_force,
+                                   QWidget* parent)
+    : QDialog(parent), m_cells(cells), m_dialogs(dialogs), m_ui(std::make_unique<Ui::PeriododiRitorno>()) {
+    m_ui->setupUi(this);
+    setAttribute(Qt::WA_DeleteOnClose);
+    m_ui->InputPerRIT->setText(in_force);
+    m_ui->InputPerRIT->selectAll();
+    connect(m_ui->OkPerRit, &QPushButton::clicked, this, &PeriododiRitorno::confirm_clicked);
+    connect(m_ui->AnnPerRit, &QPushButton::clicked, this, &PeriododiRitorno::close);
+}
+
+PeriododiRitorno::~PeriododiRitorno() = default;
+
+void PeriododiRitorno::confirm_clicked() {
+    const ReturnPeriodOutcome outcome = confirm_return_period(m_ui->InputPerRIT->utf8(), m_cells, m_dialogs);
+    if (!outcome.OutputPerRit) return;
+    emit confirmed(QString::fromStdString(*outcome.OutputPerRit));
+    close();
+}
+
+}  // namespace coltre

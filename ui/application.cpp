@@ -1,0 +1,86 @@
+#include "ui/application.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QTranslator>
+#include <cstdlib>
+#include <iostream>
+#include <string>
+
+#include "platform/surroundings.h"
+#include "ui/Form1.h"
+#include "ui/pictures.h"
+#include "ui/qt_dialogs.h"
+
+namespace coltre {
+
+namespace {
+
+/// The suite passes one text; the shell may have cut it at its blanks.
+std::string joined_arguments(int argc, char** argv) {
+    std::string text;
+    for (int i = 1; i < argc; ++i)
+        text.append(i > 1 ? " " : "").append(argv[i]);
+    return text;
+}
+
+/// What Qt says while it looks for a display; shown once it has found one.
+QStringList& held_back() {
+    static QStringList messages;
+    return messages;
+}
+
+/// Without a display Qt ends the process with a core dump and a page of English.
+void end_without_display(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
+    if (type != QtFatalMsg) {
+        held_back() += message;
+        return;
+    }
+    std::cerr << "coltre: nessuno schermo disponibile; senza finestre si usa il comando coltre-calcolo.\n";
+    std::_Exit(EXIT_FAILURE);
+}
+
+constexpr std::string_view help =
+    "Carico neve sulle coperture secondo il D.M. 16 gennaio 1996 e la circolare 4 luglio 1996.\n\n"
+    "Uso: coltre\n"
+    "     coltre '|diroot=RADICE|'  avviato dalla suite installata in RADICE\n\n"
+    "Senza schermo si usa il comando coltre-calcolo.\n";
+
+}  // namespace
+
+int run(int argc, char** argv) {
+    const std::string command_line = joined_arguments(argc, argv);  // Qt takes its own options out
+    if (command_line == "--version") {
+        std::cout << "coltre " COLTRE_VERSION "\n";
+        return EXIT_SUCCESS;
+    }
+    if (command_line == "--help") {
+        std::cout << help;
+        return EXIT_SUCCESS;
+    }
+
+    qInstallMessageHandler(end_without_display);
+    QApplication application(argc, argv);
+    qInstallMessageHandler(nullptr);
+    for (const QString& message : held_back())
+        qWarning().noquote() << message;
+
+    QApplication::setApplicationName("coltre");
+    // Menus of text fields and file dialogs in Italian, whatever the locale. Where Qt's translations are not
+    // installed these stay English; the message boxes bring their own words.
+    QTranslator italian;
+    if (italian.load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&italian);
+    load_pictures();
+    QApplication::setWindowIcon(QIcon(":/images/coltre.svg"));
+
+    Program program;
+    QtDialogs dialogs;
+    Form1 window(program, dialogs, dialogs);
+    if (!window.load(command_line, own_directory(argc > 0 ? argv[0] : ""))) return EXIT_FAILURE;
+    window.show();
+    return QApplication::exec();
+}
+
+}  // namespace coltre
