@@ -1,8 +1,8 @@
 #include "ui/Form1.h"
 
 #include <QKeyEvent>
+#include <limits>
 
-#include "calculate/Calcola.h"
 #include "calculate/return_period.h"
 #include "calculate/site_choice.h"
 #include "report/unit_systems.h"
@@ -14,6 +14,7 @@
 #include "ui/casipart.h"
 #include "ui/maker.h"
 #include "ui/result_display.h"
+#include "ui/sketches/sketches.h"
 #include "ui_Form1.h"
 
 namespace coltre {
@@ -51,6 +52,7 @@ Form1::Form1(Program& program, UserDialogs& dialogs, ProgramEnd& program_end, QW
     m_Timer1.setObjectName("Timer1");
     m_Timer1.setInterval(800);
     m_hints = std::make_unique<Hints>(*m_ui->Label25, m_Timer1);
+    set_up_sketches();
     set_up_hints();
     connect_controls();
 }
@@ -68,6 +70,42 @@ void Form1::connect_controls() {
     connect(m_ui->Calcola, &QPushButton::clicked, this, &Form1::calculate_clicked);
     connect(m_ui->Info, &QPushButton::clicked, this, &Form1::information_clicked);
     connect(m_ui->Chiudi, &QPushButton::clicked, this, &Form1::close);
+}
+
+void Form1::set_up_sketches() {
+    struct Sketch {
+        SketchWidget* sketch;
+        RoofFamily family;
+        const char* suggested_name;
+        std::vector<NumberField*> entries;
+    };
+    for (const auto& [sketch, family, suggested_name, entries] :
+         {Sketch{m_ui->sketch_1, RoofFamily::one_pitch, "una falda", {m_ui->inputalfa}},
+          Sketch{m_ui->sketch_2, RoofFamily::two_pitches, "due falde", {m_ui->inputalfa1, m_ui->inputalfa2}},
+          Sketch{
+              m_ui->sketch_3, RoofFamily::several_pitches, "piu falde", {m_ui->inputalfa3, m_ui->inputalfa4}},
+          Sketch{m_ui->sketch_4, RoofFamily::cylindrical, "cilindrica", {m_ui->Lcopcil, m_ui->hcopcil}}}) {
+        for (ResultLabel* const label : sketch->findChildren<ResultLabel*>())
+            sketch->host(label, label->objectName());
+        sketch->set_suggested_name(suggested_name);
+        for (const NumberField* const entry : entries) {
+            connect(entry, &QLineEdit::textChanged, this,
+                    [this, family = family] { draw_roof(family, false); });
+        }
+        draw_roof(family, false);
+    }
+}
+
+void Form1::draw_roof(RoofFamily family, bool with_results) {
+    MainWindowFields entries = fields();
+    entries.SSTab1 = family;
+    EntryReader reader;
+    Roof roof = read_roof(entries, reader);
+    // A number beyond all range makes no roof: the sketch says so by its neutral shape.
+    if (reader.stop()) roof.alfa1 = roof.L = std::numeric_limits<double>::quiet_NaN();
+    SketchWidget* const sketches[] = {m_ui->sketch_1, m_ui->sketch_2, m_ui->sketch_3, m_ui->sketch_4};
+    sketches[static_cast<std::size_t>(family)]->set_drawing(
+        sketch_roof(roof, with_results ? &m_program.cells : nullptr));
 }
 
 void Form1::set_up_hints() {
@@ -132,12 +170,16 @@ void Form1::region_chosen(int index) {
     std::vector<std::string> provinces;
     FillProvinces(index, provinces);
     m_ui->Provinciainput->fill(provinces);
+    // The municipalities still shown belong to no province that is chosen: choosing one would look for it in
+    // vain.
+    m_ui->comuneinput->setEnabled(false);
 }
 
 void Form1::province_chosen() {
     const ProvinceChoice choice = choose_province(m_program, m_ui->Provinciainput->utf8(), m_doors);
     m_ui->Zonalabel->setText(qt(choice.zone_caption));
     if (!choice.municipalities) return;  // the program has ended
+    m_ui->comuneinput->setEnabled(true);
     m_ui->comuneinput->fill(choice.municipalities->names);
     m_ui->comuneinput->setCurrentIndex(0);
 }
@@ -172,30 +214,36 @@ void Form1::special_cases_clicked() {
     m_special_cases->show();
 }
 
-void Form1::calculate_clicked() {
+MainWindowFields Form1::fields() const {
     const SiteFields site = site_fields();
-    const MainWindowFields fields{.asinput = site.asinput,
-                                  .ComboEsp = site.ComboEsp,
-                                  .TextCTermico = site.TextCTermico,
-                                  .SSTab1 = static_cast<RoofFamily>(m_ui->SSTab1->currentIndex()),
-                                  .inputalfa = m_ui->inputalfa->utf8(),
-                                  .inputalfa1 = m_ui->inputalfa1->utf8(),
-                                  .inputalfa2 = m_ui->inputalfa2->utf8(),
-                                  .inputalfa3 = m_ui->inputalfa3->utf8(),
-                                  .inputalfa4 = m_ui->inputalfa4->utf8(),
-                                  .Lcopcil = m_ui->Lcopcil->utf8(),
-                                  .hcopcil = m_ui->hcopcil->utf8(),
-                                  .udmcombo = m_ui->udmcombo->currentText().toStdString(),
-                                  .Check1Box = m_ui->Check1Box->isChecked()};
+    return {.asinput = site.asinput,
+            .ComboEsp = site.ComboEsp,
+            .TextCTermico = site.TextCTermico,
+            .SSTab1 = static_cast<RoofFamily>(m_ui->SSTab1->currentIndex()),
+            .inputalfa = m_ui->inputalfa->utf8(),
+            .inputalfa1 = m_ui->inputalfa1->utf8(),
+            .inputalfa2 = m_ui->inputalfa2->utf8(),
+            .inputalfa3 = m_ui->inputalfa3->utf8(),
+            .inputalfa4 = m_ui->inputalfa4->utf8(),
+            .Lcopcil = m_ui->Lcopcil->utf8(),
+            .hcopcil = m_ui->hcopcil->utf8(),
+            .udmcombo = m_ui->udmcombo->currentText().toStdString(),
+            .Check1Box = m_ui->Check1Box->isChecked()};
+}
+
+void Form1::calculate_clicked() {
+    const MainWindowFields entries = fields();
     CalculationObserver nobody;
-    const ClickOutcome outcome = Calcola(fields, m_program, m_dialogs, nobody);
+    const ClickOutcome outcome = Calcola(entries, m_program, m_dialogs, nobody);
     if (outcome.asinput) m_ui->asinput->setText(QString::fromStdString(*outcome.asinput));
     if (outcome.L1output) m_ui->L1output->setText(QString::fromStdString(*outcome.L1output));
     if (outcome.L2output) m_ui->L2output->setText(QString::fromStdString(*outcome.L2output));
     if (!outcome.results_complete) return;
     show_ground_load();
-    for (const DisplayRow& row : display_rows(fields.SSTab1))
+    for (const DisplayRow& row : display_rows(entries.SSTab1)) {
         findChild<ResultLabel*>(row.label)->show_number(m_program.cells.*row.cell.cell, row.decimals);
+    }
+    draw_roof(entries.SSTab1, true);
 }
 
 void Form1::information_clicked() {

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string_view>
 
+#include "calculate/Calcola.h"
 #include "platform/doors.h"
 #include "startup/program.h"
 #include "ui/hints.h"
@@ -47,6 +48,9 @@ class Form1 : public QWidget {
   private:
     void connect_controls();
     void set_up_hints();
+    void set_up_sketches();
+    [[nodiscard]] MainWindowFields fields() const;
+    void draw_roof(RoofFamily family, bool with_results);
 
     // One handler a control and event.
     void region_chosen(int index);
