@@ -8,12 +8,14 @@
 #include "report/unit_systems.h"
 #include "site/regions.h"
 #include "startup/start_up.h"
+#include "text/number_reading.h"
 #include "text/number_text.h"
 #include "ui/CoeffEsposizione.h"
 #include "ui/PeriododiRitorno.h"
 #include "ui/casipart.h"
 #include "ui/maker.h"
 #include "ui/result_display.h"
+#include "ui/sketches/sketches.h"
 #include "ui_Form1.h"
 
 namespace coltre {
@@ -51,6 +53,7 @@ Form1::Form1(Program& program, UserDialogs& dialogs, ProgramEnd& program_end, QW
     m_Timer1.setObjectName("Timer1");
     m_Timer1.setInterval(800);
     m_hints = std::make_unique<Hints>(*m_ui->Label25, m_Timer1);
+    set_up_sketches();
     set_up_hints();
     connect_controls();
 }
@@ -68,6 +71,41 @@ void Form1::connect_controls() {
     connect(m_ui->Calcola, &QPushButton::clicked, this, &Form1::calculate_clicked);
     connect(m_ui->Info, &QPushButton::clicked, this, &Form1::information_clicked);
     connect(m_ui->Chiudi, &QPushButton::clicked, this, &Form1::close);
+}
+
+void Form1::set_up_sketches() {
+    m_tabs = {
+        {RoofFamily::one_pitch, m_ui->inputalfa, nullptr, m_ui->sketch_1, "copertura-una-falda"},
+        {RoofFamily::two_pitches, m_ui->inputalfa1, m_ui->inputalfa2, m_ui->sketch_2, "copertura-due-falde"},
+        {RoofFamily::several_pitches, m_ui->inputalfa3, m_ui->inputalfa4, m_ui->sketch_3,
+         "copertura-piu-falde"},
+        {RoofFamily::cylindrical, m_ui->Lcopcil, m_ui->hcopcil, m_ui->sketch_4, "copertura-cilindrica"}};
+    for (const RoofTab& tab : m_tabs) {
+        tab.sketch->set_suggested_name(tab.picture);
+        tab.sketch->tell_error = [this](const QString& text) {
+            m_dialogs.show({Icon::error, std::string(program_title), text.toStdString()});
+        };
+        for (ResultLabel* label : tab.sketch->findChildren<ResultLabel*>())
+            tab.sketch->host(label, label->objectName());
+        for (NumberField* field : {tab.first, tab.second})
+            if (field != nullptr)
+                connect(field, &QLineEdit::textChanged, this, [this, &tab] { draw(tab, nullptr); });
+        draw(tab, nullptr);
+    }
+}
+
+void Form1::draw(const RoofTab& tab, const ProgramCells* loads) {
+    const double first = read_leniently(tab.first->utf8()).value;
+    const double second = tab.second != nullptr ? read_leniently(tab.second->utf8()).value : 0;
+    Roof roof{.family = tab.family};
+    if (tab.family == RoofFamily::cylindrical) {
+        roof.L = first;
+        roof.H = second;
+    } else {
+        roof.alfa1 = first;
+        roof.alfa2 = second;
+    }
+    tab.sketch->set_drawing(sketch_roof(roof, loads));
 }
 
 void Form1::set_up_hints() {
@@ -196,6 +234,7 @@ void Form1::calculate_clicked() {
     show_ground_load();
     for (const DisplayRow& row : display_rows(fields.SSTab1))
         findChild<ResultLabel*>(row.label)->show_number(m_program.cells.*row.cell.cell, row.decimals);
+    draw(m_tabs[static_cast<std::size_t>(fields.SSTab1)], &m_program.cells);
 }
 
 void Form1::information_clicked() {
