@@ -73,39 +73,34 @@ void Form1::connect_controls() {
 }
 
 void Form1::set_up_sketches() {
-    struct Sketch {
-        SketchWidget* sketch;
-        RoofFamily family;
-        const char* suggested_name;
-        std::vector<NumberField*> entries;
-    };
-    for (const auto& [sketch, family, suggested_name, entries] :
-         {Sketch{m_ui->sketch_1, RoofFamily::one_pitch, "una falda", {m_ui->inputalfa}},
-          Sketch{m_ui->sketch_2, RoofFamily::two_pitches, "due falde", {m_ui->inputalfa1, m_ui->inputalfa2}},
-          Sketch{
-              m_ui->sketch_3, RoofFamily::several_pitches, "piu falde", {m_ui->inputalfa3, m_ui->inputalfa4}},
-          Sketch{m_ui->sketch_4, RoofFamily::cylindrical, "cilindrica", {m_ui->Lcopcil, m_ui->hcopcil}}}) {
-        for (ResultLabel* const label : sketch->findChildren<ResultLabel*>())
-            sketch->host(label, label->objectName());
-        sketch->set_suggested_name(suggested_name);
-        for (const NumberField* const entry : entries) {
-            connect(entry, &QLineEdit::textChanged, this,
-                    [this, family = family] { draw_roof(family, false); });
-        }
-        draw_roof(family, false);
+    m_tabs = {
+        {RoofFamily::one_pitch, m_ui->inputalfa, nullptr, m_ui->sketch_1, "copertura-una-falda"},
+        {RoofFamily::two_pitches, m_ui->inputalfa1, m_ui->inputalfa2, m_ui->sketch_2, "copertura-due-falde"},
+        {RoofFamily::several_pitches, m_ui->inputalfa3, m_ui->inputalfa4, m_ui->sketch_3,
+         "copertura-piu-falde"},
+        {RoofFamily::cylindrical, m_ui->Lcopcil, m_ui->hcopcil, m_ui->sketch_4, "copertura-cilindrica"}};
+    for (const RoofTab& tab : m_tabs) {
+        tab.sketch->set_suggested_name(tab.picture);
+        tab.sketch->tell_error = [this](const QString& text) {
+            m_dialogs.show({Icon::error, std::string(program_title), text.toStdString()});
+        };
+        for (ResultLabel* label : tab.sketch->findChildren<ResultLabel*>())
+            tab.sketch->host(label, label->objectName());
+        for (NumberField* field : {tab.first, tab.second})
+            if (field != nullptr)
+                connect(field, &QLineEdit::textChanged, this, [this, &tab] { draw(tab, nullptr); });
+        draw(tab, nullptr);
     }
 }
 
-void Form1::draw_roof(RoofFamily family, bool with_results) {
+void Form1::draw(const RoofTab& tab, const ProgramCells* loads) {
     MainWindowFields entries = fields();
-    entries.SSTab1 = family;
+    entries.SSTab1 = tab.family;
     EntryReader reader;
     Roof roof = read_roof(entries, reader);
     // A number beyond all range makes no roof: the sketch says so by its neutral shape.
     if (reader.stop()) roof.alfa1 = roof.L = std::numeric_limits<double>::quiet_NaN();
-    SketchWidget* const sketches[] = {m_ui->sketch_1, m_ui->sketch_2, m_ui->sketch_3, m_ui->sketch_4};
-    sketches[static_cast<std::size_t>(family)]->set_drawing(
-        sketch_roof(roof, with_results ? &m_program.cells : nullptr));
+    tab.sketch->set_drawing(sketch_roof(roof, loads));
 }
 
 void Form1::set_up_hints() {
@@ -243,7 +238,7 @@ void Form1::calculate_clicked() {
     for (const DisplayRow& row : display_rows(entries.SSTab1)) {
         findChild<ResultLabel*>(row.label)->show_number(m_program.cells.*row.cell.cell, row.decimals);
     }
-    draw_roof(entries.SSTab1, true);
+    draw(m_tabs[static_cast<std::size_t>(entries.SSTab1)], &m_program.cells);
 }
 
 void Form1::information_clicked() {

@@ -5,12 +5,16 @@
 #include <QWidget>
 #include <memory>
 #include <string_view>
+#include <vector>
 
 #include "calculate/Calcola.h"
+#include "engine/calculation.h"
 #include "platform/doors.h"
 #include "startup/program.h"
 #include "ui/hints.h"
+#include "ui/number_field.h"
 #include "ui/site_fields.h"
+#include "ui/sketches/sketch_widget.h"
 #include "ui/user_dialogs.h"
 
 namespace coltre {
@@ -47,10 +51,23 @@ class Form1 : public QWidget {
 
   private:
     void connect_controls();
-    void set_up_hints();
     void set_up_sketches();
+    void set_up_hints();
+
+    /// The fields and the selected tab as they are now.
     [[nodiscard]] MainWindowFields fields() const;
-    void draw_roof(RoofFamily family, bool with_results);
+
+    /// A tab with its entries and its sketch.
+    struct RoofTab {
+        RoofFamily family;
+        NumberField* first;
+        NumberField* second;  ///< null for one pitch
+        SketchWidget* sketch;
+        const char* picture;  ///< suggested name of a saved sketch
+    };
+    /// The sketch follows the entries; its loads are those of the cells, or where these belong to other
+    /// entries, follow the shape coefficients.
+    void draw(const RoofTab& tab, const ProgramCells* loads);
 
     // One handler a control and event.
     void region_chosen(int index);
@@ -67,6 +84,7 @@ class Form1 : public QWidget {
     UserDialogs& m_dialogs;
     Doors m_doors;
     std::unique_ptr<Ui::Form1> m_ui;
+    std::vector<RoofTab> m_tabs;  // by family
     QTimer m_Timer1{this};
     std::unique_ptr<Hints> m_hints;
     QPointer<QWidget> m_return_period;  // one at a time

@@ -46,6 +46,9 @@ casipart::casipart(Program& program, UserDialogs& dialogs, std::function<SiteFie
     m_ui->udmcombo->setCurrentIndex(first_unit_item(program));
 
     for (SketchWidget* const sketch : {m_ui->sketch_5, m_ui->sketch_6, m_ui->sketch_7}) {
+        sketch->tell_error = [this](const QString& text) {
+            m_dialogs.show({Icon::error, std::string(program_title), text.toStdString()});
+        };
         for (ResultLabel* const label : sketch->findChildren<ResultLabel*>())
             sketch->host(label, label->objectName());
     }

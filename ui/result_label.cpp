@@ -7,6 +7,7 @@ namespace coltre {
 ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setFocusPolicy(Qt::StrongFocus);  // the keyboard reaches what it is to select
 }
 
 void ResultLabel::show_number(double value, int decimals) {

@@ -139,6 +139,27 @@ TEST_F(MainCalculation, CoefficientsAndUnitsAreReadFromTheirControls) {
     EXPECT_FALSE(std::filesystem::exists(directory.path() / "coltre.txt"));
 }
 
+TEST_F(MainCalculation, SketchFollowsWhatIsTypedAndCarriesTheLabels) {
+    choose_tab(3);
+    auto& sketch = get<SketchWidget>("sketch_4");
+    const QImage before = sketch.grab().toImage();
+    type("hcopcil", "4");
+    EXPECT_NE(sketch.grab().toImage(), before);
+    click("Calcola");
+    for (const char* name :
+         {"carico_11", "carico_12", "carico_13", "spor_8", "spor_9", "spor_10", "L1output", "L2output"}) {
+        auto& label = get<QLabel>(name);
+        EXPECT_EQ(label.parentWidget(), &sketch) << name;
+        EXPECT_TRUE(label.isVisible() && sketch.rect().contains(label.geometry())) << name;
+    }
+    type("hcopcil", "abc");
+    type("Lcopcil", "");
+    EXPECT_TRUE(sketch.drawing().neutral);
+
+    dialogs.expect(Icon::error, "Impossibile salvare il file x.svg: la cartella non esiste");
+    EXPECT_FALSE(sketch.save("/nowhere/x.svg", PictureFormat::svg));
+}
+
 TEST_F(MainCalculation, EnterInAnyFieldCalculates) {
     for (const char* name : {"regione", "asinput", "TextCTermico", "inputalfa", "Check1Box", "SSTab1"}) {
         get<QLabel>("carico_1").setText("");
