@@ -7,46 +7,17 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QtTest>
-#include <deque>
-#include <functional>
 #include <map>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "tests/ui/fake_dialogs.h"
 #include "ui/casipart.h"
 
 namespace coltre {
 
 using Texts = std::map<std::string, std::string>;
-
-/// A user who expects certain message boxes in turn; any other fails the test.
-class FakeDialogs : public UserDialogs {
-  public:
-    ~FakeDialogs() override { EXPECT_TRUE(expected.empty()) << "not shown: " << expected.front().text; }
-
-    void show(const Message& message) override {
-        if (while_shown) while_shown();
-        if (expected.empty()) {
-            ADD_FAILURE() << "unexpected box: " << message.text;
-            return;
-        }
-        EXPECT_EQ(message.text, expected.front().text);
-        EXPECT_EQ(message.title, expected.front().title);
-        EXPECT_EQ(message.icon, expected.front().icon);
-        expected.pop_front();
-    }
-    bool ask(const Message& question) override {
-        ADD_FAILURE() << "unexpected question: " << question.text;
-        return false;
-    }
-    void expect_stop(const std::string& text) {
-        expected.push_back({Icon::error, "Coltre", "Calcolo interrotto: " + text});
-    }
-
-    std::deque<Message> expected;
-    std::function<void()> while_shown;
-};
 
 /// The window as a user meets it. Zone II at 200 m: G = 1 kN/m2 unless a test changes the site.
 class CasipartTest : public testing::Test {

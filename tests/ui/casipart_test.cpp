@@ -154,7 +154,7 @@ TEST_F(CasipartTest, AnEarlyStopIsToldAndLeavesEveryLabel) {
         {1, "h3input", "h", "2.30"}};
     for (const auto& [page, field, name, good] : strict_fields) {
         select_page(page);
-        for (const char* bad : {"", "2,5"}) {
+        for (const char* bad : {"", "2;5"}) {
             type(field, bad);
             dialogs.expect_stop("conversione non valida.\rIl testo scritto per «" + std::string(name) +
                                 "» non è un numero: «" + bad + "».");
@@ -230,13 +230,12 @@ class CasipartReport : public CasipartTest {
 };
 
 TEST_F(CasipartReport, HoldsTheSelectedCaseAndIsConfirmedAfterTheResultsAreShown) {
-    const Message confirmation{Icon::none, "Coltre",
-                               "Creazione della relazione coltrecasipart.txt effettuata"};
+    const std::string confirmation = "Creazione della relazione coltrecasipart.txt effettuata";
     std::string shown_at_the_message;
     dialogs.while_shown = [&] { shown_at_the_message = text_of("carico_17"); };
     select_page(1);
     QTest::keyClick(&find("udmcombo"), Qt::Key_Down);
-    dialogs.expected = {confirmation};
+    dialogs.expect(Icon::none, confirmation);
     click("Calcola2");
 
     EXPECT_EQ(shown_at_the_message, " 2");
@@ -246,10 +245,17 @@ TEST_F(CasipartReport, HoldsTheSelectedCaseAndIsConfirmedAfterTheResultsAreShown
 
     select_page(2);
     type("angoloinput", "010,x");
-    dialogs.expected = {confirmation};
+    dialogs.expect(Icon::none, confirmation);
     click("Calcola2");
     EXPECT_THAT(report().value_or(""), HasSubstr(" = 010,x\r\n"));
     EXPECT_THAT(report().value_or(""), Not(HasSubstr("PARETI")));
+}
+
+TEST_F(CasipartTest, DecimalCommaOfTheUserIsReadWhereTheWholeTextMustBeANumber) {
+    select_page(1);
+    type("h3input", "3,25");
+    click("Calcola2");
+    EXPECT_EQ(text_of("ls2outputA"), " 6.5");
 }
 
 TEST_F(CasipartReport, IsNotWrittenWithTheBoxClear) {
@@ -268,8 +274,7 @@ TEST_F(CasipartReport, StopLeavesTheHeadingUnconfirmed) {
 TEST_F(CasipartReport, TellsOfADirectoryThatCannotBeWritten) {
     program.directories.WorkDirectory += "\\missing";
     const std::string name = program.directories.WorkDirectory + "\\coltrecasipart.txt";
-    dialogs.expected = {
-        {Icon::error, "Coltre", "Impossibile scrivere il file " + name + ": la cartella non esiste."}};
+    dialogs.expect(Icon::error, "Impossibile scrivere il file " + name + ": la cartella non esiste.");
     click("Calcola2");
     EXPECT_EQ(results(), Texts{});
     EXPECT_TRUE(shown_ground_loads.empty());

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <string>
 
 #include "platform/program_end.h"
@@ -22,6 +23,7 @@ class FakeDialogs : public UserDialogs, public ProgramEnd {
     void expect(Icon icon, std::string text, std::string title = "Coltre") {
         m_expected.push_back({{icon, std::move(title), std::move(text)}, false, false});
     }
+    void expect_stop(const std::string& text) { expect(Icon::error, "Calcolo interrotto: " + text); }
     void expect_question(Icon icon, std::string text, bool answer) {
         m_expected.push_back({{icon, "Coltre", std::move(text)}, true, answer});
     }
@@ -31,6 +33,7 @@ class FakeDialogs : public UserDialogs, public ProgramEnd {
     void end() override { ++ended; }
 
     int ended = 0;
+    std::function<void()> while_shown;  ///< called with each message box
 
   private:
     struct Expected {
@@ -40,6 +43,7 @@ class FakeDialogs : public UserDialogs, public ProgramEnd {
     };
 
     bool meet(const Message& message, bool question) {
+        if (while_shown) while_shown();
         if (m_expected.empty()) {
             ADD_FAILURE() << "unexpected message box: " << message.text;
             return false;
