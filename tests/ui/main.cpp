@@ -36,6 +36,7 @@ class BoxGuard : public QObject {
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");  // no display needed, none touched
+    qputenv("LC_ALL", "it_IT.UTF-8");         // its decimal comma must play no part
     QApplication application(argc, argv);
     BoxGuard guard;
     application.installEventFilter(&guard);
