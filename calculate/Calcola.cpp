@@ -119,37 +119,26 @@ Roof read_roof(const MainWindowFields& fields, EntryReader& reader) {
 ClickOutcome Calcola(const MainWindowFields& fields, Program& program, MessageBoxes& message_boxes,
                      CalculationObserver& observer) {
     ClickOutcome outcome;
-    const auto told = [&](const std::optional<Stop>& stop) {
-        if (!stop) return false;
-        outcome.fault = stop->fault;
-        tell_stop(*stop, message_boxes);
-        return true;
-    };
-
     ProgramCells& cells = program.cells;
     double altitude = 0;
-    if (told(set_ground_load(fields, cells, altitude, outcome, message_boxes))) return outcome;
+    if (stopped(set_ground_load(fields, cells, altitude, outcome, message_boxes), outcome, message_boxes))
+        return outcome;
     outcome.altitude = altitude;
     outcome.qsk = cells.qsk;
     cells.unit_system = unit_system_of(fields.udmcombo).value_or(cells.unit_system);
-    if (!fields.Check1Box) {
-        told(calculate_family(fields, cells, outcome, message_boxes, observer));
-        return outcome;
+    std::optional<SnowLoadReport> report;
+    if (fields.Check1Box) {
+        report.emplace(SnowLoadReportData{.WorkDirectory = program.directories.WorkDirectory,
+                                          .JobName = program.directories.JobName,
+                                          .Lcopcil = fields.Lcopcil,
+                                          .hcopcil = fields.hcopcil,
+                                          .altitude = altitude},
+                       cells, message_boxes);
     }
-
-    SnowLoadReport report({.WorkDirectory = program.directories.WorkDirectory,
-                           .JobName = program.directories.JobName,
-                           .Lcopcil = fields.Lcopcil,
-                           .hcopcil = fields.hcopcil,
-                           .altitude = altitude},
-                          cells, message_boxes);
-    if (!report.file().failure().empty()) {
-        tell_file_failure(report.file(), outcome, message_boxes);
-        return outcome;
-    }
-    BothObservers observers(report, observer);
-    told(calculate_family(fields, cells, outcome, message_boxes, observers));
-    close_report(report.file(), report.confirmation(), outcome, message_boxes);
+    calculate_with_report(report ? &*report : nullptr, observer, outcome, message_boxes,
+                          [&](CalculationObserver& observers) {
+                              return calculate_family(fields, cells, outcome, message_boxes, observers);
+                          });
     return outcome;
 }
 

@@ -66,36 +66,23 @@ SpecialCaseEntries read_entries(const SpecialCasesFields& fields, EntryReader& r
 ClickOutcome Calcola2(const SpecialCasesFields& fields, Program& program, MessageBoxes& message_boxes,
                       CalculationObserver& observer) {
     ClickOutcome outcome;
-    const auto told = [&](const std::optional<Stop>& stop) {
-        if (!stop) return false;
-        outcome.fault = stop->fault;
-        tell_stop(*stop, message_boxes);
-        return true;
-    };
-
     ProgramCells& cells = program.cells;
     double altitude = 0;
-    if (told(set_design_ground_load(fields, cells, altitude))) return outcome;
+    if (stopped(set_design_ground_load(fields, cells, altitude), outcome, message_boxes)) return outcome;
     outcome.altitude = altitude;
     outcome.qsk = cells.qsk;
     cells.unit_system = unit_system_of(fields.udmcombo).value_or(cells.unit_system);
-    if (!fields.Check1Box) {
-        told(calculate_page(fields, cells, outcome, observer));
-        return outcome;
+    std::optional<SpecialCasesReport> report;
+    if (fields.Check1Box) {
+        report.emplace(SpecialCasesReportData{.WorkDirectory = program.directories.WorkDirectory,
+                                              .JobName = program.directories.JobName,
+                                              .angoloinput = fields.angoloinput,
+                                              .altitude = altitude},
+                       cells, message_boxes);
     }
-
-    SpecialCasesReport report({.WorkDirectory = program.directories.WorkDirectory,
-                               .JobName = program.directories.JobName,
-                               .angoloinput = fields.angoloinput,
-                               .altitude = altitude},
-                              cells, message_boxes);
-    if (!report.file().failure().empty()) {
-        tell_file_failure(report.file(), outcome, message_boxes);
-        return outcome;
-    }
-    BothObservers observers(report, observer);
-    told(calculate_page(fields, cells, outcome, observers));
-    close_report(report.file(), SpecialCasesReport::confirmation(), outcome, message_boxes);
+    calculate_with_report(
+        report ? &*report : nullptr, observer, outcome, message_boxes,
+        [&](CalculationObserver& observers) { return calculate_page(fields, cells, outcome, observers); });
     return outcome;
 }
 

@@ -35,6 +35,13 @@ void tell_stop(const Stop& stop, MessageBoxes& message_boxes) {
          "Calcolo interrotto: " + std::string(fault_text(stop.fault)) + ".\r" + stop.explanation});
 }
 
+bool stopped(const std::optional<Stop>& stop, ClickOutcome& outcome, MessageBoxes& message_boxes) {
+    if (!stop) return false;
+    outcome.fault = stop->fault;
+    tell_stop(*stop, message_boxes);
+    return true;
+}
+
 double EntryReader::lenient(std::string_view name, std::string_view text) {
     if (m_stop) return 0;
     const LenientNumber number = read_leniently(text);
@@ -77,19 +84,25 @@ std::optional<Stop> apply_coefficients(ProgramCells& cells, double CE, double Ct
     return Stop{fault, "Il carico neve al suolo qsk è troppo grande."};
 }
 
-void tell_file_failure(const ReportFile& file, ClickOutcome& outcome, MessageBoxes& message_boxes) {
-    outcome.file_failure = file.failure();
-    message_boxes.show({Icon::error, std::string(program_title), outcome.file_failure});
-}
-
-void close_report(ReportFile& file, const Message& confirmation, ClickOutcome& outcome,
-                  MessageBoxes& message_boxes) {
-    file.close();
-    outcome.report_written = file.failure().empty();
+void calculate_with_report(Report* report, CalculationObserver& observer, ClickOutcome& outcome,
+                           MessageBoxes& message_boxes,
+                           const std::function<std::optional<Stop>(CalculationObserver&)>& calculate) {
+    if (report == nullptr) {
+        stopped(calculate(observer), outcome, message_boxes);
+        return;
+    }
+    ReportFile& file = report->file();
+    if (file.failure().empty()) {
+        BothObservers observers(*report, observer);
+        stopped(calculate(observers), outcome, message_boxes);
+        file.close();
+        outcome.report_written = file.failure().empty();
+    }
     if (!outcome.report_written) {
-        tell_file_failure(file, outcome, message_boxes);
+        outcome.file_failure = file.failure();
+        message_boxes.show({Icon::error, std::string(program_title), outcome.file_failure});
     } else if (outcome.fault == Fault::none) {
-        message_boxes.show(confirmation);
+        message_boxes.show(report->confirmation());
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,6 +39,10 @@ std::string_view fault_text(Fault fault);
 /// Tells the user once, in a message box, that the calculation stopped and why.
 void tell_stop(const Stop& stop, MessageBoxes& message_boxes);
 
+/// Keeps and tells a stop, if there is one.
+/// @return true if the calculation stopped
+bool stopped(const std::optional<Stop>& stop, ClickOutcome& outcome, MessageBoxes& message_boxes);
+
 /// Reads numeric fields until the first that cannot be used; from then on it reads nothing more.
 class EntryReader {
   public:
@@ -67,14 +72,16 @@ std::optional<Stop> set_base_load(ProgramCells& cells, double altitude);
 /// Multiplies the qsk cell by the return period factor and the two coefficients.
 std::optional<Stop> apply_coefficients(ProgramCells& cells, double CE, double Ct);
 
-/// Last step of a calculation with a report, stopped or not: puts the report in place and tells the user that
-/// it was written, or why it was not. A report that a stopped calculation left incomplete is put in place
-/// without a word.
-void close_report(ReportFile& file, const Message& confirmation, ClickOutcome& outcome,
-                  MessageBoxes& message_boxes);
-
-/// Tells of a report that could not be created or written.
-void tell_file_failure(const ReportFile& file, ClickOutcome& outcome, MessageBoxes& message_boxes);
+/// Last part of both roads: the calculation of the selected tab or page and, at its side, its report. A
+/// report that cannot be created stops the calculation before it begins; at the end it is put in place and
+/// the user is told that it was written, or why it was not. What a stopped calculation left of it is put in
+/// place without a word.
+/// @param report     opened, its heading written; nullptr if none is wanted
+/// @param observer   hears of each result after the report
+/// @param calculate  computes and tells the observer that it is given
+void calculate_with_report(Report* report, CalculationObserver& observer, ClickOutcome& outcome,
+                           MessageBoxes& message_boxes,
+                           const std::function<std::optional<Stop>(CalculationObserver&)>& calculate);
 
 /// Passes everything on to two observers, the first one first.
 class BothObservers : public CalculationObserver {

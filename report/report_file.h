@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "engine/calculation.h"
 #include "engine/program_cells.h"
 #include "platform/files.h"
 #include "platform/message_boxes.h"
@@ -63,6 +64,14 @@ class ReportFile {
     std::string m_name;
     FileReplacement m_file;
     MessageBoxes& m_message_boxes;
+};
+
+/// A report: it hears of the results as they are computed and writes them down.
+class Report : public CalculationObserver {
+  public:
+    [[nodiscard]] virtual ReportFile& file() = 0;
+    /// Message after a report that was written whole.
+    [[nodiscard]] virtual Message confirmation() const = 0;
 };
 
 }  // namespace coltre

@@ -20,7 +20,7 @@ struct SnowLoadReportData {
 
 /// The report coltre.txt: its heading when it is opened, then the lines of each load case as soon as it is
 /// computed, in the unit system of the cells.
-class SnowLoadReport : public CalculationObserver {
+class SnowLoadReport : public Report {
   public:
     /// Opens the report and writes the heading. After a failure file().failure() says why.
     /// @param cells  qsk, zone, return period and unit system are read now, L1 when the roof is told
@@ -29,9 +29,8 @@ class SnowLoadReport : public CalculationObserver {
     void on_roof(const Roof& roof) override;
     void on_load_case(const LoadCase& load_case) override;
 
-    [[nodiscard]] ReportFile& file() { return m_file; }
-    /// Message after a report that was written whole.
-    [[nodiscard]] Message confirmation() const;
+    [[nodiscard]] ReportFile& file() override { return m_file; }
+    [[nodiscard]] Message confirmation() const override;
 
   private:
     std::string m_path;

@@ -69,7 +69,7 @@ void SpecialCasesReport::load_table(double mu2, double qs1, double qs2, double l
     m_file.line("ls (lunghezza di accumulo) = " + m_file.formatted(ls, length));
 }
 
-Message SpecialCasesReport::confirmation() {
+Message SpecialCasesReport::confirmation() const {
     return {Icon::none, std::string(program_title),
             "Creazione della relazione coltrecasipart.txt effettuata"};
 }

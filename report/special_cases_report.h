@@ -18,7 +18,7 @@ struct SpecialCasesReportData {
 
 /// The report coltrecasipart.txt: its heading when it is opened, then the section of the special case when
 /// that is complete. The numbers stay in kN and m whatever the heading says of the units: deliberate.
-class SpecialCasesReport : public CalculationObserver {
+class SpecialCasesReport : public Report {
   public:
     /// Opens the report and writes the heading. After a failure file().failure() says why.
     SpecialCasesReport(const SpecialCasesReportData& data, const ProgramCells& cells,
@@ -26,9 +26,8 @@ class SpecialCasesReport : public CalculationObserver {
 
     void on_special_case(const SpecialCaseEntries& entries) override;
 
-    [[nodiscard]] ReportFile& file() { return m_file; }
-    /// Message after a report that was written whole.
-    [[nodiscard]] static Message confirmation();
+    [[nodiscard]] ReportFile& file() override { return m_file; }
+    [[nodiscard]] Message confirmation() const override;
 
   private:
     void load_table(double mu2, double qs1, double qs2, double ls);
