@@ -26,8 +26,10 @@ std::string zero_load_reason(std::string_view quantity, const Roof& roof, const 
     const bool second_side = quantity == results::qe_2c.name || quantity == results::qe_2d.name;
     std::string_view name = "alfa";
     if (roof.family == RoofFamily::two_pitches) name = second_side ? "alfa2" : "alfa1";
+    const double alfa = second_side ? roof.alfa2 : roof.alfa1;
+    if (alfa < 0) return std::string(name) + " è negativo: il coefficiente di forma mu1 resta com'era, 0.";
     return "Il carico sulla falda è 0: il coefficiente di forma mu1 è 0 per " + std::string(name) + " = " +
-           plain_number_text(second_side ? roof.alfa2 : roof.alfa1) + "°.";
+           plain_number_text(alfa) + "°.";
 }
 
 Stop explain(const CalculationEnd& end, const Roof& roof, const ProgramCells& cells) {

@@ -1,6 +1,7 @@
 #include "calculate/click.h"
 
 #include "engine/ground_load.h"
+#include "text/characters.h"
 #include "text/number_reading.h"
 
 namespace coltre {
@@ -59,8 +60,10 @@ double EntryReader::strict(std::string_view name, std::string_view text, char de
             m_stop = {Fault::numeric_error, beyond_range(name)};
             break;
         case StrictNumber::Verdict::not_a_number:
-            m_stop = {Fault::invalid_conversion, "Il testo scritto per «" + std::string(name) +
-                                                     "» non è un numero: «" + std::string(text) + "»."};
+            m_stop = {Fault::invalid_conversion, trim_blanks(text).empty()
+                                                     ? "Il campo «" + std::string(name) + "» è vuoto."
+                                                     : "Il testo scritto per «" + std::string(name) +
+                                                           "» non è un numero: «" + std::string(text) + "»."};
             break;
     }
     return number.value;

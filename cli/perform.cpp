@@ -6,9 +6,9 @@
 #include "calculate/Calcola.h"
 #include "calculate/Calcola2.h"
 #include "calculate/return_period.h"
-#include "calculate/site_choice.h"
 #include "platform/files.h"
 #include "report/unit_systems.h"
+#include "site/altitude_file.h"
 #include "site/regions.h"
 #include "text/names.h"
 
@@ -91,13 +91,15 @@ std::optional<Site> choose_site(std::string_view typed_province, std::string_vie
         result.error = province.mistake;
         return std::nullopt;
     }
-    const ProvinceChoice choice = choose_province(program, province.found, doors);
-    if (!choice.municipalities) {
+    program.cells.zone = ZoneOfProvince(province.found).zone;
+    const auto municipalities =
+        FillMunicipalities(program.directories.ProgramDirectory, province.found, doors);
+    if (!municipalities) {
         result.error = result.messages.back().text;
         result.told = true;
         return std::nullopt;
     }
-    const NameSearch municipality = find_name("comune", typed_municipality, choice.municipalities->names);
+    const NameSearch municipality = find_name("comune", typed_municipality, municipalities->names);
     if (!municipality.mistake.empty()) {
         result.error = municipality.mistake;
         return std::nullopt;

@@ -4,8 +4,8 @@
 #include <limits>
 
 #include "calculate/return_period.h"
-#include "calculate/site_choice.h"
 #include "report/unit_systems.h"
+#include "site/altitude_file.h"
 #include "site/regions.h"
 #include "startup/start_up.h"
 #include "text/number_text.h"
@@ -15,6 +15,7 @@
 #include "ui/maker.h"
 #include "ui/result_display.h"
 #include "ui/sketches/sketches.h"
+#include "ui/wheel.h"
 #include "ui_Form1.h"
 
 namespace coltre {
@@ -52,6 +53,7 @@ Form1::Form1(Program& program, UserDialogs& dialogs, ProgramEnd& program_end, QW
     m_Timer1.setObjectName("Timer1");
     m_Timer1.setInterval(800);
     m_hints = std::make_unique<Hints>(*m_ui->Label25, m_Timer1);
+    leave_lists_to_clicks_and_keys(*this);
     set_up_sketches();
     set_up_hints();
     connect_controls();
@@ -100,7 +102,10 @@ void Form1::draw(const RoofTab& tab, const ProgramCells* loads) {
     Roof roof = read_roof(entries, reader);
     // A number beyond all range makes no roof: the sketch says so by its neutral shape.
     if (reader.stop()) roof.alfa1 = roof.L = std::numeric_limits<double>::quiet_NaN();
-    tab.sketch->set_drawing(sketch_roof(roof, loads));
+    Drawing drawing = sketch_roof(roof, loads);
+    const bool has_numbers = tab.sketch->findChild<ResultLabel*>()->has_result();
+    if (loads == nullptr && has_numbers) mark_as_pending(drawing);
+    tab.sketch->set_drawing(std::move(drawing));
 }
 
 void Form1::set_up_hints() {
@@ -171,11 +176,15 @@ void Form1::region_chosen(int index) {
 }
 
 void Form1::province_chosen() {
-    const ProvinceChoice choice = choose_province(m_program, m_ui->Provinciainput->utf8(), m_doors);
-    m_ui->Zonalabel->setText(qt(choice.zone_caption));
-    if (!choice.municipalities) return;  // the program has ended
+    const std::string province = m_ui->Provinciainput->utf8();
+    const ProvinceZone zone = ZoneOfProvince(province);
+    m_program.cells.zone = zone.zone;
+    m_ui->Zonalabel->setText(qt(zone.caption));
+    m_ui->comuneinput->fill({});
+    const auto municipalities = FillMunicipalities(m_program.directories.ProgramDirectory, province, m_doors);
+    if (!municipalities) return;  // the program has ended
     m_ui->comuneinput->setEnabled(true);
-    m_ui->comuneinput->fill(choice.municipalities->names);
+    m_ui->comuneinput->fill(municipalities->names);
     m_ui->comuneinput->setCurrentIndex(0);
 }
 
@@ -191,7 +200,7 @@ void Form1::report_switched() {
 }
 
 void Form1::return_period_clicked() {
-    if (raise_open(m_return_period) || !m_dialogs.ask(return_period_question())) return;
+    if (!m_dialogs.ask(return_period_question()) || raise_open(m_return_period)) return;
     auto* dialog = new PeriododiRitorno(m_program.cells, m_dialogs, m_ui->OutputPerRit->text(), this);
     connect(dialog, &PeriododiRitorno::confirmed, m_ui->OutputPerRit, &ResultLabel::setText);
     m_return_period = dialog;

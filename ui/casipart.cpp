@@ -5,11 +5,11 @@
 #include <limits>
 #include <utility>
 
-#include "engine/special_loads.h"
 #include "platform/surroundings.h"
 #include "report/unit_systems.h"
 #include "text/number_reading.h"
 #include "ui/sketches/sketches.h"
+#include "ui/wheel.h"
 #include "ui_casipart.h"
 
 namespace coltre {
@@ -32,6 +32,7 @@ casipart::casipart(Program& program, UserDialogs& dialogs, std::function<SiteFie
       m_show_ground_load(std::move(show_ground_load)),
       m_ui(std::make_unique<Ui::casipart>()) {
     m_ui->setupUi(this);
+    leave_lists_to_clicks_and_keys(*this);
     setAttribute(Qt::WA_DeleteOnClose);
 
     // The note comes and goes with the page; the pages are to stay where they are.
@@ -132,25 +133,16 @@ void casipart::draw_page(bool with_results) {
     SpecialCaseEntries entries = read_entries(fields(), reader);
     // Entries that are no numbers make no roof: the sketch says so by its neutral shape.
     if (reader.stop()) entries.h = entries.b = std::numeric_limits<double>::quiet_NaN();
-    Drawing drawing = sketch_special_case(entries, with_results ? &m_program.cells : nullptr);
-    for (LabelSlot& slot : drawing.label_slots) {
-        if (slot.name == "lsoutput") slot.visible = m_drift_length_shown;
-    }
     SketchWidget* const sketches[] = {m_ui->sketch_5, m_ui->sketch_6, m_ui->sketch_7};
-    sketches[m_ui->cartelle->currentIndex()]->set_drawing(std::move(drawing));
+    SketchWidget& sketch = *sketches[m_ui->cartelle->currentIndex()];
+    Drawing drawing = sketch_special_case(entries, with_results ? &m_program.cells : nullptr);
+    if (!with_results && sketch.findChild<ResultLabel*>()->has_result()) mark_as_pending(drawing);
+    sketch.set_drawing(std::move(drawing));
 }
 
 void casipart::on_calculate() {
     // The labels are refreshed as soon as the case is complete, before the message about the report.
-    if (!Calcola2(fields(), m_program, m_dialogs, *this).results_complete) draw_page(false);
-}
-
-/// The sketch follows the entries, but the drift length comes and goes with the calculation, as the other
-/// results: it is hidden where it is the width of the lower roof.
-void casipart::on_cell(const ResultCell& cell, double value) {
-    if (cell.cell != results::level_ls.cell) return;
-    m_drift_length_shown =
-        !drift_is_cut(value, read_strictly(m_ui->b2input->utf8(), user_decimal_separator()).value);
+    Calcola2(fields(), m_program, m_dialogs, *this);
 }
 
 void casipart::on_special_case(const SpecialCaseEntries& entries) {

@@ -41,7 +41,6 @@ class casipart : public QWidget, private CalculationObserver {
 
     [[nodiscard]] SpecialCasesFields fields() const;
     void draw_page(bool with_results);
-    void on_cell(const ResultCell& cell, double value) override;
     void on_special_case(const SpecialCaseEntries& entries) override;
 
     Program& m_program;
@@ -49,7 +48,6 @@ class casipart : public QWidget, private CalculationObserver {
     std::function<SiteFields()> m_site_fields;
     std::function<void()> m_show_ground_load;
     std::unique_ptr<Ui::casipart> m_ui;
-    bool m_drift_length_shown = true;  // false since a calculation in which the drift was cut
 };
 
 }  // namespace coltre

@@ -2,7 +2,9 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
 #include <cstdlib>
 
 namespace coltre {
@@ -38,6 +40,11 @@ QMessageBox::StandardButton run(const Message& message, QMessageBox::StandardBut
                     QApplication::activeWindow());
     // Texts such as "<Eventuali riduzioni ...>" are no markup.
     box.setTextFormat(Qt::PlainText);
+    // The lines of a message are its own; only one that is wider than most of the screen is broken.
+    if (auto* const label = box.findChild<QLabel*>("qt_msgbox_label")) {
+        const int widest = box.screen()->availableGeometry().width() * 3 / 4;
+        label->setWordWrap(label->fontMetrics().size(0, text).width() > widest);
+    }
     for (const ButtonText& it : button_texts)
         if (QAbstractButton* button = box.button(it.button)) button->setText(it.text);
     return static_cast<QMessageBox::StandardButton>(box.exec());

@@ -51,7 +51,7 @@ TEST(Command, ExitStatusTellsWhoIsWrong) {
              {{"parete", "--zona", "0", "--altitudine", "1", "--h", "x"},
               failed,
               "Calcolo interrotto: conversione"},
-             {{"una-falda", "--zona", "0", "--altitudine", "1", "--alfa", "-5"}, failed, "per alfa = -5°"},
+             {{"una-falda", "--zona", "0", "--altitudine", "1", "--alfa", "-5"}, failed, "alfa è negativo"},
              {{"parete", "--zona", "0", "--altitudine", "1", "--h", "1"}, all_well, ""},
          }) {
         const CommandRun run = run_command(c.arguments);

@@ -1,4 +1,5 @@
 #include <QAbstractItemView>
+#include <QWheelEvent>
 #include <fstream>
 
 #include "tests/ui/window_test.h"
@@ -87,6 +88,19 @@ TEST_F(Site, OpenListJumpsToWhatIsTypedAndChoosesOnReturn) {
     QTest::keyClick(municipalities.view(), Qt::Key_Return);
     EXPECT_EQ(municipalities.currentText(), "CastiglioneTorinese");
     EXPECT_NE(field("asinput"), "239");
+}
+
+TEST_F(Site, WheelOverAListChangesNothing) {
+    list("Provinciainput").setCurrentIndex(0);
+    for (const char* name : {"regione", "Provinciainput", "comuneinput", "ComboEsp", "udmcombo"}) {
+        QComboBox& under_pointer = list(name);
+        const QString before = under_pointer.currentText();
+        const QPointF middle = under_pointer.rect().center();
+        QWheelEvent turn(middle, under_pointer.mapToGlobal(middle), {}, QPoint(0, -120), Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&under_pointer, &turn);
+        EXPECT_EQ(under_pointer.currentText(), before) << name;
+    }
 }
 
 }  // namespace

@@ -9,7 +9,6 @@
 #include <QFontInfo>
 #include <QMessageBox>
 #include <QPaintEvent>
-#include <QStyleOptionFocusRect>
 #include <QtMath>
 #include <algorithm>
 #include <utility>
@@ -18,7 +17,10 @@ namespace coltre {
 
 SketchWidget::SketchWidget(QWidget* parent) : QWidget(parent) {
     ask_file = [this](const QString& title, const QString& suggested, const QString& filter) {
-        return QFileDialog::getSaveFileName(this, title, suggested, filter);
+        QFileDialog dialog(this, title, suggested, filter);
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setDefaultSuffix(QFileInfo(suggested).suffix());
+        return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
     };
     tell_error = [this](const QString& text) { QMessageBox::critical(this, QStringLiteral("Coltre"), text); };
 
@@ -124,9 +126,9 @@ void SketchWidget::paintEvent(QPaintEvent* /*event*/) {
             sketch.paint_slot(painter, *slot, it.label->geometry());
     }
     if (hasFocus()) {
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+        // The style's own frame would tint the whole drawing.
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
 }
 
@@ -147,7 +149,7 @@ QSize SketchWidget::minimumSizeHint() const {
 SlotTexts SketchWidget::label_texts() const {
     SlotTexts texts;
     for (const HostedLabel& it : m_labels)
-        texts[it.slot] = it.label->text();
+        if (it.label->text() != no_number) texts[it.slot] = it.label->text();
     return texts;
 }
 

@@ -14,6 +14,9 @@
 
 namespace coltre {
 
+/// What a result label shows while it has no number.
+inline const QString no_number = QStringLiteral("–");
+
 /// Shows a sketch with the result labels of its window at their places. Its context menu copies the picture
 /// and saves it as SVG, PNG or PDF.
 class SketchWidget : public QWidget {

@@ -2,6 +2,7 @@
 
 #include "engine/roof_loads.h"
 #include "engine/special_loads.h"
+#include "ui/sketches/drawing_parts.h"
 #include "ui/sketches/families.h"
 
 namespace coltre {
@@ -18,6 +19,12 @@ ProgramCells results_of_unit_ground_load(const SpecialCaseEntries& entries) {
     cells.qsk = 1;
     calculate_special_case(cells, entries, nullptr);
     return cells;
+}
+
+void mark_as_pending(Drawing& drawing) {
+    constexpr double top_row = 130;
+    add_text(drawing, Role::caption, "numeri dell'ultimo calcolo, non di questi dati",
+             {drawing.page.x + drawing.page.width / 2, drawing.page.y + top_row}, Align::centre);
 }
 
 Drawing sketch_roof(const Roof& roof, const ProgramCells* loads) {

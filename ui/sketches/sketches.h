@@ -21,6 +21,10 @@ namespace coltre {
 inline constexpr double drift_end_whole = 4680;  ///< the drift lies wholly on the lower roof
 inline constexpr double drift_end_cut = 5160;    ///< the drift is cut at the end of the lower roof
 
+/// Says on the drawing that the numbers in its labels belong to the entries of the last calculation, not to
+/// these.
+void mark_as_pending(Drawing& drawing);
+
 /// The load cases of a roof with the slots of their labels:
 ///  - one pitch: carico_1; spor_1 at the eaves
 ///  - two pitches: carico_2 and carico_3 both sides full, carico_4 and carico_5 side 1 halved, carico_6 and
