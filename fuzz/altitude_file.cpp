@@ -47,9 +47,11 @@ template <typename Read>
 void check_read(const std::optional<std::string_view>& given, Read read) {
     static const AltitudeDirectory directory;
     static const std::string built_in = built_in_altitude_file();
+    constexpr std::string_view earlier = "kept by an earlier repair";
     for (const std::string& name : directory.files())
         std::filesystem::remove(directory.path() / name);
     if (given) directory.put("altitudini.txt", *given);
+    directory.put("altitudini.bak", earlier);
 
     FakeDoors user;
     Doors doors = user.doors();
@@ -60,11 +62,12 @@ void check_read(const std::optional<std::string_view>& given, Read read) {
     const auto after = directory.content("altitudini.txt");
     const bool kept = given && after == *given;
     require(kept || after == built_in, "the file is the given one or the built-in one");
-    const bool backed_up = given && !kept;
-    if (backed_up) require(directory.content("altitudini.bak") == *given, "the old file is kept");
-    const auto files = backed_up ? std::vector<std::string>{"altitudini.bak", "altitudini.txt"}
-                                 : std::vector<std::string>{"altitudini.txt"};
+    const bool backed_up = given && !kept && *given != earlier;
+    std::vector<std::string> files{"altitudini.bak", "altitudini.txt"};
+    if (backed_up) files.insert(files.begin() + 1, "altitudini.bak1");
     require(directory.files() == files, "nothing else is left in the directory");
+    require(directory.content("altitudini.bak") == (backed_up ? *given : earlier), "the old file is kept");
+    if (backed_up) require(directory.content("altitudini.bak1") == earlier, "what was kept before stays");
 }
 
 }  // namespace

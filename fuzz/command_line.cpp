@@ -30,8 +30,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto diroot = find_entry(list, "diroot", "=", "");
     if (!root.empty()) {
         require(diroot.has_value(), "the lenient reader finds what the strict one finds");
-        // Deliberate: with blanks in front the strict reader's positions are shifted.
-        if (!list.starts_with(' '))
+        // Deliberate: with blanks in front the strict reader's positions are shifted, and it passes over a
+        // first entry without a bar before it, which the lenient one reads.
+        if (!list.starts_with(' ') && !lower_case(list).starts_with("diroot="))
             require(lower_case(trim_blanks(*diroot)) == root, "both read the same, letter case apart");
     }
 
