@@ -5,3 +5,6 @@ program_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base
 
 # To run all checks besides.
 check_packages=(libgtest-dev libgmock-dev libbenchmark-dev locales clang-format xvfb xauth xdotool imagemagick)
+
+# For tools/fuzz, besides those of the program.
+fuzz_packages=(clang libclang-rt-14-dev)

@@ -1,0 +1,22 @@
+# Writes the municipality table with a few municipalities a province: cmake -DTABLE=<txt> -DSHORT=<txt> -P
+# shorten_altitude_table.cmake. Kept of each block are its first lines and those that no reader gets past, and the
+# absence of an empty line behind the last block.
+cmake_policy(VERSION 3.25)
+file(READ "${TABLE}" text)
+string(REPLACE "\n\n" ";" blocks "${text}")
+set(short_blocks)
+foreach(block IN LISTS blocks)
+    string(REPLACE "\n" ";" lines "${block}")
+    set(kept)
+    set(count 0)
+    foreach(line IN LISTS lines)
+        math(EXPR count "${count} + 1")
+        if(count LESS_EQUAL 3 OR NOT line MATCHES " ")
+            list(APPEND kept "${line}")
+        endif()
+    endforeach()
+    list(JOIN kept "\n" block)
+    list(APPEND short_blocks "${block}")
+endforeach()
+list(JOIN short_blocks "\n\n" text)
+file(WRITE "${SHORT}" "${text}")
