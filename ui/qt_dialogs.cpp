@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QScreen>
+#include <algorithm>
 #include <cstdlib>
 
 namespace coltre {
@@ -43,7 +44,7 @@ QMessageBox::StandardButton run(const Message& message, QMessageBox::StandardBut
     // The lines of a message are its own; only one that is wider than most of the screen is broken.
     if (auto* const label = box.findChild<QLabel*>("qt_msgbox_label")) {
         const int widest = box.screen()->availableGeometry().width() * 3 / 4;
-        label->setWordWrap(label->fontMetrics().size(0, text).width() > widest);
+        label->setMinimumWidth(std::min(label->fontMetrics().size(0, text).width() + 1, widest));
     }
     for (const ButtonText& it : button_texts)
         if (QAbstractButton* button = box.button(it.button)) button->setText(it.text);

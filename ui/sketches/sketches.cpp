@@ -22,9 +22,12 @@ ProgramCells results_of_unit_ground_load(const SpecialCaseEntries& entries) {
 }
 
 void mark_as_pending(Drawing& drawing) {
-    constexpr double top_row = 130;
+    // A row of its own above the drawing, and as much room below, so that the drawing stays where it was.
+    constexpr double row = 320;
+    drawing.page.y -= row;
+    drawing.page.height += 2 * row;
     add_text(drawing, Role::caption, "numeri dell'ultimo calcolo, non di questi dati",
-             {drawing.page.x + drawing.page.width / 2, drawing.page.y + top_row}, Align::centre);
+             {drawing.page.x + drawing.page.width / 2, drawing.page.y + row / 2}, Align::centre);
 }
 
 Drawing sketch_roof(const Roof& roof, const ProgramCells* loads) {
