@@ -60,6 +60,7 @@ int run(int argc, char** argv) {
         return EXIT_SUCCESS;
     }
 
+    take_file_size_limit_as_error();
     qInstallMessageHandler(end_without_display);
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
