@@ -113,5 +113,21 @@ TEST(Pictures, WholeAndWithAnExponent) {
     EXPECT_EQ(exponent_picture(5e-324, 20), ".494065645841247E-323");
 }
 
+TEST(RoundToText, IsTheRoundingAndItsPlainText) {
+    struct Case {
+        double value;
+        int decimals;
+        const char* text;
+    };
+    for (const Case& c :
+         {Case{1.23456, 4, "1.2346"}, Case{0.5, 0, "0"}, Case{-0.00001, 4, "0"}, Case{-2.5, 1, "-2.5"},
+          Case{0.00005, 5, "5E-05"}, Case{0.00012, 4, ".0001"}, Case{120, 2, "120"},
+          Case{123456789012.34567, 4, "123456789012.346"}, Case{1e20, 2, "1E+20"}}) {
+        const RoundedNumber rounded = round_to_text(c.value, c.decimals);
+        EXPECT_EQ(rounded.text, c.text);
+        EXPECT_EQ(rounded.value, round_half_even(c.value, c.decimals)) << c.text;
+    }
+}
+
 }  // namespace
 }  // namespace coltre
