@@ -20,8 +20,8 @@ class FakeDialogs : public UserDialogs, public ProgramEnd {
             ADD_FAILURE() << "message box did not come: " << it.message.text;
     }
 
-    void expect(Icon icon, std::string text, std::string title = "Coltre") {
-        m_expected.push_back({{icon, std::move(title), std::move(text)}, false, false});
+    void expect(Icon icon, std::string text) {
+        m_expected.push_back({{icon, "Coltre", std::move(text)}, false, false});
     }
     void expect_stop(const std::string& text) { expect(Icon::error, "Calcolo interrotto: " + text); }
     void expect_question(Icon icon, std::string text, bool answer) {
@@ -50,9 +50,7 @@ class FakeDialogs : public UserDialogs, public ProgramEnd {
         }
         const Expected next = m_expected.front();
         m_expected.pop_front();
-        EXPECT_EQ(message.text, next.message.text);
-        EXPECT_EQ(message.title, next.message.title);
-        EXPECT_EQ(message.icon, next.message.icon);
+        EXPECT_EQ(message, next.message) << message.text;
         EXPECT_EQ(question, next.question);
         return next.answer;
     }

@@ -5,12 +5,11 @@ namespace {
 
 class HintsTest : public MainWindowTest {
   protected:
-    void move_over(const char* name, QPoint at) {
+    void move_over(const char* name, QPoint at = {}) {
         QWidget& widget = name == std::string_view("window") ? window : get(name);
-        QTest::mouseMove(&widget, at);
+        QTest::mouseMove(&widget, at);  // without a place to its middle
         QApplication::processEvents();
     }
-    void move_over(const char* name) { move_over(name, get(name).rect().center()); }
     /// A place of the control without children.
     QPoint bottom(const char* name) { return {8, get(name).height() - 4}; }
     bool shown() { return get("Label25").isVisible(); }
@@ -43,25 +42,18 @@ TEST_F(HintsTest, ComeAfterTheDelayOnceAStayAndGoOverEachBackground) {
     }
 }
 
-TEST_F(HintsTest, NeighbourReplacesTheTextWithoutHidingTheLabel) {
+TEST_F(HintsTest, NeighbourReplacesTheTextWithoutHidingTheLabelAndOnlyTheBackgroundsCancel) {
+    move_over("spor_1");
+    tick();
     move_over("asinput");
+    EXPECT_TRUE(shown());
+    move_over("Chiudi");
+    EXPECT_TRUE(Timer1().isActive()) << "the hint still comes";
     tick();
     EXPECT_EQ(text("Label25"),
               "Quota del suolo sul livello del mare nel sito di realizzazione dell' edificio, ininfluente se "
               "minore di 200 m.");
     move_over("spor_1");
-    EXPECT_TRUE(shown());
-    tick();
-    EXPECT_EQ(text("Label25"),
-              "Il carico distribuito in punta dovuto a neve sporgente va considerato in caso di copertura "
-              "aggettante sulle pareti perimetrali.");
-}
-
-TEST_F(HintsTest, OnlyTheBackgroundsCancelOneThatIsToCome) {
-    move_over("asinput");
-    move_over("Chiudi");
-    EXPECT_TRUE(Timer1().isActive()) << "the hint still comes";
-    move_over("asinput");
     move_over("Frame1", bottom("Frame1"));
     EXPECT_FALSE(Timer1().isActive());
 }

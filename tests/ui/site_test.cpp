@@ -1,51 +1,41 @@
-#include <QAbstractItemView>
-#include <QWheelEvent>
 #include <fstream>
 
 #include "tests/ui/window_test.h"
-#include "text/names.h"
 
 namespace coltre {
 namespace {
 
-using Site = MainWindowTest;
+class Site : public MainWindowTest {
+  protected:
+    void SetUp() override {
+        MainWindowTest::SetUp();
+        list("Provinciainput").setCurrentText("Torino");
+    }
+    QComboBox& municipalities = control<QComboBox>(window, "comuneinput");
+};
 
 TEST_F(Site, ProvinceShowsItsZoneAndTheAltitudeOfItsFirstMunicipality) {
+    EXPECT_EQ(field("asinput"), "239");
     list("Provinciainput").setCurrentText("Alessandria");
     EXPECT_EQ(text("Zonalabel"), "(Zona I Mediterranea)");
     EXPECT_EQ(program.cells.zone, 1);
-    EXPECT_EQ(list("comuneinput").currentIndex(), 0);
-    EXPECT_EQ(list("comuneinput").currentText(), "Alessandria");
+    EXPECT_EQ(municipalities.currentIndex(), 0);
+    EXPECT_EQ(municipalities.currentText(), "Alessandria");
     EXPECT_EQ(field("asinput"), "95");
-    list("Provinciainput").setCurrentText("Torino");
-    EXPECT_EQ(field("asinput"), "239");
-    list("comuneinput").setCurrentText("Sestriere");
-    EXPECT_EQ(field("asinput"), "2035");
 }
 
 TEST_F(Site, RegionChangesTheProvincesAlone) {
-    list("Provinciainput").setCurrentText("Torino");
-    list("comuneinput").setCurrentText("Sestriere");
+    municipalities.setCurrentText("Sestriere");
     list("regione").setCurrentText("Umbria");
     EXPECT_EQ(list("Provinciainput").count(), 2);
     EXPECT_EQ(list("Provinciainput").currentIndex(), -1);
-    EXPECT_EQ(list("comuneinput").currentText(), "Sestriere");
+    EXPECT_EQ(municipalities.currentText(), "Sestriere");
     EXPECT_EQ(field("asinput"), "2035");
     EXPECT_EQ(text("Zonalabel"), "(Zona I Alpina)");
     EXPECT_EQ(program.cells.zone, 0);
 }
 
-TEST_F(Site, SameMunicipalityChosenAgainBringsItsAltitudeBack) {
-    list("Provinciainput").setCurrentText("Torino");
-    type("asinput", "300");
-    auto& municipalities = list("comuneinput");
-    municipalities.showPopup();
-    QTest::keyClick(municipalities.view(), Qt::Key_Return);
-    EXPECT_EQ(field("asinput"), "239");
-}
-
 TEST_F(Site, SecondReadErrorEndsTheProgramAndLeavesTheWindowAsItIs) {
-    list("Provinciainput").setCurrentText("Torino");
     list("regione").setCurrentText("Veneto");
     dialogs.expect(Icon::error, "Errore in lettura del file altitudine.txt .");
     list("Provinciainput").setCurrentText("Vicenza");
@@ -54,16 +44,13 @@ TEST_F(Site, SecondReadErrorEndsTheProgramAndLeavesTheWindowAsItIs) {
 }
 
 TEST_F(Site, EditedFileCountsAtTheNextChoice) {
-    list("Provinciainput").setCurrentText("Torino");
     std::ofstream(directory.path() / "altitudini.txt", std::ios::binary)
         << "Torino\r\nTorino    12\r\nNuovo   7\r\n\r\n";
-    list("comuneinput").setCurrentIndex(1);  // Aglie', no longer in the file: the file is written anew
+    municipalities.setCurrentIndex(1);  // Aglie', no longer in the file: the file is written anew
     EXPECT_EQ(field("asinput"), "315");
 }
 
 TEST_F(Site, ClosedListJumpsToWhatIsTyped) {
-    list("Provinciainput").setCurrentText("Torino");
-    auto& municipalities = list("comuneinput");
     municipalities.setFocus();
     QTest::keyClicks(&municipalities, "agli");
     QTest::sendKeyEvent(QTest::Click, &municipalities, Qt::Key_Egrave, "è", Qt::NoModifier);
@@ -79,9 +66,11 @@ TEST_F(Site, ClosedListJumpsToWhatIsTyped) {
     EXPECT_EQ(municipalities.currentText(), "Quassolo");
 }
 
-TEST_F(Site, OpenListJumpsToWhatIsTypedAndChoosesOnReturn) {
-    list("Provinciainput").setCurrentText("Torino");
-    auto& municipalities = list("comuneinput");
+TEST_F(Site, OpenListJumpsToWhatIsTypedAndChoosesOnReturnTheSameAgainToo) {
+    type("asinput", "300");
+    municipalities.showPopup();
+    QTest::keyClick(municipalities.view(), Qt::Key_Return);
+    EXPECT_EQ(field("asinput"), "239");
     municipalities.showPopup();
     QTest::keyClicks(municipalities.view(), "castiglioneto");
     EXPECT_EQ(field("asinput"), "239") << "nothing is chosen yet";
@@ -91,7 +80,6 @@ TEST_F(Site, OpenListJumpsToWhatIsTypedAndChoosesOnReturn) {
 }
 
 TEST_F(Site, WheelOverAListChangesNothing) {
-    list("Provinciainput").setCurrentIndex(0);
     for (const char* name : {"regione", "Provinciainput", "comuneinput", "ComboEsp", "udmcombo"}) {
         QComboBox& under_pointer = list(name);
         const QString before = under_pointer.currentText();

@@ -1,8 +1,5 @@
-#include <QCheckBox>
-#include <QKeySequence>
 #include <set>
 
-#include "site/regions.h"
 #include "tests/startup/suite_tree.h"
 #include "tests/ui/window_test.h"
 #include "ui/number_field.h"
@@ -12,25 +9,23 @@ namespace {
 
 using Start = MainWindowTest;
 
-QStringList items(const QComboBox& list) {
-    QStringList texts;
+/// Its entries and which is selected.
+std::string items(const QComboBox& list) {
+    QString texts;
     for (int i = 0; i < list.count(); ++i)
-        texts += list.itemText(i);
-    return texts;
+        texts += list.itemText(i) + "; ";
+    return (texts + list.currentText()).toStdString();
 }
 
 TEST_F(Start, StandAloneShowsTheDesignedWindow) {
     EXPECT_EQ(window.windowTitle(), "Coltre - ARCOVIA 15");
-    EXPECT_EQ(items(list("udmcombo")), QStringList({"kN , m", "Kgf , m", "kgf , cm"}));
-    EXPECT_EQ(list("udmcombo").currentText(), "kN , m");
-    EXPECT_EQ(items(list("ComboEsp")), QStringList({"0.9", "1.0", "1.1"}));
-    EXPECT_EQ(list("ComboEsp").currentText(), "1.0");
-    EXPECT_EQ(list("regione").count(), static_cast<int>(regions().size()));
+    EXPECT_EQ(items(list("udmcombo")), "kN , m; Kgf , m; kgf , cm; kN , m");
+    EXPECT_EQ(items(list("ComboEsp")), "0.9; 1.0; 1.1; 1.0");
+    EXPECT_EQ(list("regione").count(), 28);
     EXPECT_EQ(list("regione").currentText(), "Piemonte");
     // The event of the selection has filled the provinces, and chosen none.
-    EXPECT_EQ(items(list("Provinciainput")), QStringList({"Torino", "Alessandria", "Asti", "Biella", "Cuneo",
-                                                          "Novara", "Verbania", "Vercelli"}));
-    EXPECT_EQ(list("Provinciainput").currentIndex(), -1);
+    EXPECT_EQ(items(list("Provinciainput")),
+              "Torino; Alessandria; Asti; Biella; Cuneo; Novara; Verbania; Vercelli; ");
     EXPECT_EQ(list("comuneinput").count(), 0);
     EXPECT_EQ(text("Zonalabel"), "(Zona 1)");
     EXPECT_EQ(field("TextCTermico"), "1.0");
@@ -43,10 +38,7 @@ TEST_F(Start, StandAloneShowsTheDesignedWindow) {
 }
 
 TEST_F(Start, WindowFitsASmallScreenAndItsMnemonicsAreUnambiguous) {
-    const QSize least = window.minimumSizeHint();
-    EXPECT_LE(least.width(), 1024);
-    EXPECT_LE(least.height(), 700);
-
+    EXPECT_EQ(window.minimumSizeHint().boundedTo(QSize(1024, 700)), window.minimumSizeHint());
     auto& tabs = get<QTabWidget>("SSTab1");
     for (int tab = 0; tab < tabs.count(); ++tab) {
         choose_tab(tab);
@@ -60,8 +52,7 @@ TEST_F(Start, WindowFitsASmallScreenAndItsMnemonicsAreUnambiguous) {
         std::set<QString> keys;
         for (const QString& caption : captions) {
             const QKeySequence key = QKeySequence::mnemonic(caption);
-            const bool is_new = key.isEmpty() || keys.insert(key.toString()).second;
-            EXPECT_TRUE(is_new) << caption.toStdString();
+            EXPECT_TRUE(key.isEmpty() || keys.insert(key.toString()).second) << caption.toStdString();
         }
         EXPECT_GE(keys.size(), 18U);
     }
@@ -69,7 +60,6 @@ TEST_F(Start, WindowFitsASmallScreenAndItsMnemonicsAreUnambiguous) {
 
 TEST_F(Start, UnclearTextIsMarkedAndSaysHowItIsRead) {
     auto& Ct = get<NumberField>("TextCTermico");
-    EXPECT_FALSE(Ct.is_marked());
     type("TextCTermico", "1,5");
     EXPECT_TRUE(Ct.is_marked());
     EXPECT_EQ(Ct.accessibleDescription(), "letto come 1");
@@ -88,7 +78,6 @@ TEST_F(SuiteStart, ShowsTheJobAndSelectsKgfAndCm) {
     start("|autonomo=1" + suite.command_line());
     EXPECT_EQ(window.windowTitle().toStdString(), "Coltre - ARCOVIA 15 - " + suite.jobs() + "\\job001");
     EXPECT_EQ(list("udmcombo").currentText(), "kgf , cm");
-    EXPECT_EQ(list("regione").currentText(), "Piemonte");
 
     // The report goes to the job, though the root on the command line comes back in lower case.
     click("Check1Box");

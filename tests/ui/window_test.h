@@ -1,16 +1,10 @@
 #pragma once
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTabWidget>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 #include <stdexcept>
-#include <string>
 
 #include "tests/support/temporary_directory.h"
 #include "tests/ui/fake_dialogs.h"
@@ -20,9 +14,9 @@ namespace coltre {
 
 /// A control of a window by its name; a name that is not there fails the test.
 template <typename Control = QWidget>
-Control& control(QWidget& window, const char* name) {
-    auto* found = window.findChild<Control*>(name);
-    if (!found) throw std::runtime_error(std::string("no control ") + name);
+Control& control(QWidget& window, const std::string& name) {
+    auto* found = window.findChild<Control*>(name.c_str());
+    if (!found) throw std::runtime_error("no control " + name);
     return *found;
 }
 
@@ -34,26 +28,23 @@ Window* open_window() {
     return nullptr;
 }
 
-/// The main window on the screen, stand-alone in a directory of its own.
-class MainWindowTest : public testing::Test {
+/// A window as a user meets it, in a directory of its own.
+class WindowTest : public testing::Test {
   protected:
-    MainWindowTest() : window(program, dialogs, dialogs) {}
-
-    void SetUp() override { start(""); }
-
-    void start(const std::string& command_line) {
-        ASSERT_TRUE(window.load(command_line, directory.text()));
-        window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-    }
-
     template <typename Control = QWidget>
-    Control& get(const char* name) {
-        return control<Control>(window, name);
+    Control& get(const std::string& name) {
+        return control<Control>(*tested, name);
     }
     QComboBox& list(const char* name) { return get<QComboBox>(name); }
-    std::string text(const char* label) { return get<QLabel>(label).text().toStdString(); }
+    std::string text(const std::string& label) { return get<QLabel>(label).text().toStdString(); }
     std::string field(const char* name) { return get<QLineEdit>(name).text().toStdString(); }
+    /// The texts of the labels with these numbers.
+    std::vector<std::string> texts(const char* array, const std::vector<int>& numbers) {
+        std::vector<std::string> found;
+        for (const int i : numbers)
+            found.push_back(text(array + std::to_string(i)));
+        return found;
+    }
 
     /// Types over what the field holds.
     void type(const char* name, const QString& typed) {
@@ -63,13 +54,30 @@ class MainWindowTest : public testing::Test {
         QTest::keyClick(&edit, Qt::Key_Delete);
         QTest::keyClicks(&edit, typed);
     }
-    void click(const char* button) { QTest::mouseClick(&get(button), Qt::LeftButton); }
-    void choose_tab(int index) { get<QTabWidget>("SSTab1").setCurrentIndex(index); }
+    /// A check box answers on its mark and its text alone, not on the whole of its rectangle.
+    void click(const char* button) {
+        QTest::mouseClick(&get(button), Qt::LeftButton, {}, QPoint(10, get(button).height() / 2));
+    }
 
     TemporaryDirectory directory;
     Program program;
     FakeDialogs dialogs;
-    Form1 window;
+    QPointer<QWidget> tested;
+};
+
+/// The main window on the screen, stand-alone.
+class MainWindowTest : public WindowTest {
+  protected:
+    void SetUp() override { start(""); }
+    void start(const std::string& command_line) {
+        tested = &window;
+        ASSERT_TRUE(window.load(command_line, directory.text()));
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    }
+    void choose_tab(int index) { get<QTabWidget>("SSTab1").setCurrentIndex(index); }
+
+    Form1 window{program, dialogs, dialogs};
 };
 
 }  // namespace coltre
