@@ -18,7 +18,7 @@ namespace {
 
 using namespace coltre;
 
-constexpr long line_count = 2000;
+constexpr long line_count = 10000;
 
 std::string request_lines(std::string (*request)(long)) {
     std::string lines;
