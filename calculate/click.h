@@ -21,8 +21,8 @@ struct Stop {
 /// What a click on a calculate button leaves besides the program cells.
 struct ClickOutcome {
     Fault fault = Fault::none;  ///< why the calculation stopped; Fault::none if it ran to its end
-    std::string
-        file_failure;  ///< what was told about a report that could not be written; empty if nothing was
+    /// What was told about a report that could not be written; empty if nothing was.
+    std::string file_failure;
     bool report_written = false;  ///< the report stands on disk, whole or up to where the calculation stopped
     bool results_complete = false;        ///< all results are in their cells: the labels are to be refreshed
     std::optional<double> altitude;       ///< as read from its field, m

@@ -112,7 +112,6 @@ CLI::App& add_subcommand(CLI::App& parent, std::string_view name, Choice& choice
     CLI::App& command = *parent.add_subcommand(std::string(name));
     command.set_help_flag("-h,--help");
     command.allow_extras();
-    command.parse_complete_callback([] {});
     command.preparse_callback([&choice, help = std::move(help)](std::size_t) { choice.help = help; });
     return command;
 }

@@ -217,6 +217,7 @@ Result perform(const Request& request, const Surroundings& surroundings, SiteMem
     result.qsk = outcome.qsk;
     result.error =
         outcome.fault != Fault::none ? std::string(fault_text(outcome.fault)) : outcome.file_failure;
+    result.told = !result.error.empty();
     if (outcome.report_written) {
         const std::string name = special ? "\\coltrecasipart.txt" : "\\coltre.txt";
         result.report = find_path(program.directories.WorkDirectory + name).string();

@@ -103,8 +103,7 @@ void Form1::draw(const RoofTab& tab, const ProgramCells* loads) {
     // A number beyond all range makes no roof: the sketch says so by its neutral shape.
     if (reader.stop()) roof.alfa1 = roof.L = std::numeric_limits<double>::quiet_NaN();
     Drawing drawing = sketch_roof(roof, loads);
-    const bool has_numbers = tab.sketch->findChild<ResultLabel*>()->has_result();
-    if (loads == nullptr && has_numbers) mark_as_pending(drawing);
+    if (loads == nullptr && tab.sketch->shows_numbers()) mark_as_pending(drawing);
     tab.sketch->set_drawing(std::move(drawing));
 }
 

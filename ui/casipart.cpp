@@ -1,7 +1,6 @@
 #include "ui/casipart.h"
 
 #include <QKeyEvent>
-#include <QSignalBlocker>
 #include <limits>
 #include <utility>
 
@@ -58,17 +57,15 @@ casipart::casipart(Program& program, UserDialogs& dialogs, std::function<SiteFie
     m_ui->sketch_7->set_suggested_name("ostacolo");
 
     for (NumberField* const field : findChildren<NumberField*>()) {
-        connect(field, &QLineEdit::textChanged, this, [this] { draw_page(false); });
+        connect(field, &QLineEdit::textChanged, this, [this] { draw(fields().cartelle, false); });
     }
     connect(m_ui->cartelle, &QTabWidget::currentChanged, this, &casipart::on_page);
     connect(m_ui->Check1Box, &QCheckBox::toggled, this, &casipart::on_report_switch);
     connect(m_ui->Calcola2, &QPushButton::clicked, this, &casipart::on_calculate);
     connect(m_ui->Chiudi2, &QPushButton::clicked, this, &casipart::close);
     on_page();
-    for (int page = m_ui->cartelle->count() - 1; page >= 0; --page) {
-        const QSignalBlocker quietly(m_ui->cartelle);
-        m_ui->cartelle->setCurrentIndex(page);
-        draw_page(false);
+    for (const SpecialCase page : {SpecialCase::level_change, SpecialCase::wall, SpecialCase::snow_guard}) {
+        draw(page, false);
     }
     on_report_switch();
     m_ui->h2input->setFocus();
@@ -126,17 +123,19 @@ SpecialCasesFields casipart::fields() const {
     };
 }
 
-/// Draws the sketch of the selected page from its entries.
+/// Draws the sketch of a page from its entries.
 /// @param with_results  the cells hold the results of these very entries
-void casipart::draw_page(bool with_results) {
+void casipart::draw(SpecialCase page, bool with_results) {
+    SpecialCasesFields typed = fields();
+    typed.cartelle = page;
     EntryReader reader;
-    SpecialCaseEntries entries = read_entries(fields(), reader);
+    SpecialCaseEntries entries = read_entries(typed, reader);
     // Entries that are no numbers make no roof: the sketch says so by its neutral shape.
     if (reader.stop()) entries.h = entries.b = std::numeric_limits<double>::quiet_NaN();
     SketchWidget* const sketches[] = {m_ui->sketch_5, m_ui->sketch_6, m_ui->sketch_7};
-    SketchWidget& sketch = *sketches[m_ui->cartelle->currentIndex()];
+    SketchWidget& sketch = *sketches[static_cast<std::size_t>(page)];
     Drawing drawing = sketch_special_case(entries, with_results ? &m_program.cells : nullptr);
-    if (!with_results && sketch.findChild<ResultLabel*>()->has_result()) mark_as_pending(drawing);
+    if (!with_results && sketch.shows_numbers()) mark_as_pending(drawing);
     sketch.set_drawing(std::move(drawing));
 }
 
@@ -168,7 +167,7 @@ void casipart::on_special_case(const SpecialCaseEntries& entries) {
             row.label->show_number(m_program.cells.*row.cell, row.decimals);
         }
     }
-    draw_page(true);
+    draw(entries.special_case, true);
 }
 
 }  // namespace coltre

@@ -40,7 +40,7 @@ class casipart : public QWidget, private CalculationObserver {
     void on_calculate();
 
     [[nodiscard]] SpecialCasesFields fields() const;
-    void draw_page(bool with_results);
+    void draw(SpecialCase page, bool with_results);
     void on_special_case(const SpecialCaseEntries& entries) override;
 
     Program& m_program;

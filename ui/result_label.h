@@ -2,8 +2,6 @@
 
 #include <QLabel>
 
-#include "ui/sketches/sketch_widget.h"
-
 namespace coltre {
 
 /// A label that shows a result: selectable text in the program's number form.
@@ -16,9 +14,6 @@ class ResultLabel : public QLabel {
     /// Shows the value rounded to `decimals` decimals (a tie to the even neighbour), with a blank for the
     /// sign: " 0.576".
     void show_number(double value, int decimals);
-
-    /// False while the label shows the dash that it is designed with.
-    [[nodiscard]] bool has_result() const { return text() != no_number; }
 
   protected:
     /// Selects the text when the keyboard comes to it, so that it is seen where the focus is.

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "tests/ui/window_test.h"
 
 namespace coltre {
@@ -114,6 +116,26 @@ TEST_F(MainCalculation, EnterInAnyFieldCalculates) {
                    "ARCOVIA\rProgrammi di calcolo\rper l'ingegneria delle strutture\rVia Esempio 1 - 00000 "
                    "Esempio (XX)\rTel. 000 0000000 - Fax 000 0000001\rwww.example.com\rinfo@example.com");
     QTest::keyClick(&get("Info"), Qt::Key_Return);
+}
+
+TEST_F(MainCalculation, SketchSaysWhenItsNumbersAreOfOtherEntries) {
+    const auto is_pending = [this](const char* sketch) {
+        return std::ranges::any_of(get<SketchWidget>(sketch).drawing().texts, [](const Text& text) {
+            return text.text == "numeri dell'ultimo calcolo, non di questi dati";
+        });
+    };
+    const char* const entries[] = {"inputalfa", "inputalfa1", "inputalfa3", "Lcopcil"};
+    const char* const sketches[] = {"sketch_1", "sketch_2", "sketch_3", "sketch_4"};
+    for (int tab = 0; tab < 4; ++tab) {
+        SCOPED_TRACE(tab);
+        choose_tab(tab);
+        type(entries[tab], "20");
+        EXPECT_FALSE(is_pending(sketches[tab])) << "there are no numbers yet";
+        click("Calcola");
+        EXPECT_FALSE(is_pending(sketches[tab]));
+        type(entries[tab], "25");
+        EXPECT_TRUE(is_pending(sketches[tab]));
+    }
 }
 
 }  // namespace

@@ -146,10 +146,14 @@ QSize SketchWidget::minimumSizeHint() const {
     return size_for_letters(0.85);
 }
 
+bool SketchWidget::shows_numbers() const {
+    return !label_texts().empty();
+}
+
 SlotTexts SketchWidget::label_texts() const {
     SlotTexts texts;
     for (const HostedLabel& it : m_labels)
-        if (it.label->text() != no_number) texts[it.slot] = it.label->text();
+        if (it.label && it.label->text() != no_number) texts[it.slot] = it.label->text();
     return texts;
 }
 

@@ -34,6 +34,9 @@ class SketchWidget : public QWidget {
     /// @param slot   name of the slot, "carico_1" for instance
     void host(QLabel* label, const QString& slot);
 
+    /// Whether any label that was taken in shows a number.
+    [[nodiscard]] bool shows_numbers() const;
+
     /// File name without suffix that saving suggests; "schizzo" before.
     void set_suggested_name(const QString& name) { m_suggested_name = name; }
 
