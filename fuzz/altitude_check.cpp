@@ -9,8 +9,8 @@
 #include "fuzz/require.h"
 #include "site/altitude_file.h"
 #include "site/regions.h"
-#include "tests/site/altitude_directory.h"
 #include "tests/support/fake_doors.h"
+#include "tests/support/temporary_directory.h"
 
 // Input: a province, then the bytes of altitudini.txt.
 
@@ -42,7 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(repair_altitudes(repaired) == repaired, "repairing twice changes nothing");
 
     if (!is_province(province)) return 0;
-    static const AltitudeDirectory directory;
+    static const TemporaryDirectory directory;
     directory.put("altitudini.txt", repaired);
     FakeDoors user;
     Doors doors = user.doors();

@@ -12,8 +12,8 @@
 #include "fuzz/require.h"
 #include "site/altitude_fields.h"
 #include "site/built_in_altitudes.h"
-#include "tests/site/altitude_directory.h"
 #include "tests/support/fake_doors.h"
+#include "tests/support/temporary_directory.h"
 
 // Input: province, municipality, then the bytes of altitudini.txt; if none are left there is no such file.
 
@@ -45,7 +45,7 @@ void check_find_field(std::string_view bytes, std::string_view wanted) {
 /// @param read   true if it succeeded
 template <typename Read>
 void check_read(const std::optional<std::string_view>& given, Read read) {
-    static const AltitudeDirectory directory;
+    static const TemporaryDirectory directory;
     static const std::string built_in = built_in_altitude_file();
     constexpr std::string_view earlier = "kept by an earlier repair";
     for (const std::string& name : directory.files())

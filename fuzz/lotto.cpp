@@ -12,7 +12,7 @@
 #include "fuzz/require.h"
 #include "platform/files.h"
 #include "site/built_in_altitudes.h"
-#include "tests/site/altitude_directory.h"
+#include "tests/support/temporary_directory.h"
 
 // Input: the lines of a batch. It runs in an empty directory that holds nothing but the directory
 // "relazioni".
@@ -27,7 +27,7 @@ using namespace coltre::fuzz;
 /// for files is left alone.
 class Workplace {
   public:
-    explicit Workplace(const AltitudeDirectory& parent)
+    explicit Workplace(const TemporaryDirectory& parent)
         : m_back(fs::current_path()), m_path(parent.path() / "ufficio") {
         fs::create_directories(m_path / "relazioni");
         fs::current_path(m_path);
@@ -71,7 +71,7 @@ bool stays_inside(const cli::Request& request) {
     return true;
 }
 
-std::string answers(const std::string& lines, const AltitudeDirectory& program) {
+std::string answers(const std::string& lines, const TemporaryDirectory& program) {
     const Workplace workplace(program);
     std::istringstream in(lines);
     std::ostringstream out;
@@ -99,7 +99,7 @@ void check_answer(const std::string& line, const std::string& text) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const AltitudeDirectory program;
+    static const TemporaryDirectory program;
     static const std::string built_in = built_in_altitude_file();
     if (!program.content("altitudini.txt")) program.put("altitudini.txt", built_in);
 

@@ -2,9 +2,14 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <fstream>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <system_error>
+#include <vector>
 
 #include "platform/files.h"
 
@@ -27,6 +32,21 @@ class TemporaryDirectory {
     [[nodiscard]] const std::filesystem::path& path() const { return m_path; }
     /// The directory in the suite's notation.
     [[nodiscard]] std::string text() const { return suite_notation(m_path); }
+
+    void put(std::string_view name, std::string_view bytes) const {
+        std::ofstream(m_path / name, std::ios::binary) << bytes;
+    }
+    [[nodiscard]] std::optional<std::string> content(const std::string& name) const {
+        return read_file(text() + "\\" + name);
+    }
+    /// Names of all that the directory holds, sorted.
+    [[nodiscard]] std::vector<std::string> files() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(m_path))
+            names.push_back(entry.path().filename().string());
+        std::ranges::sort(names);
+        return names;
+    }
 
   private:
     std::filesystem::path m_path;
