@@ -27,6 +27,11 @@ AltitudeBlock read_block(std::string_view province, FieldReader reader) {
 
 }  // namespace
 
+const BuiltInBlocks& BuiltInBlocks::instance() {
+    static const BuiltInBlocks blocks;
+    return blocks;
+}
+
 BuiltInBlocks::BuiltInBlocks() : m_bytes(built_in_altitude_file()) {
     for (const Region& region : regions()) {
         for (const std::string_view province : region.provinces) {

@@ -18,7 +18,9 @@ struct AltitudeBlock {
 /// The blocks of the built-in table in its order, found by the header.
 class BuiltInBlocks {
   public:
-    BuiltInBlocks();
+    /// The one set there is, made at the first use.
+    static const BuiltInBlocks& instance();
+
     BuiltInBlocks(const BuiltInBlocks&) = delete;
     BuiltInBlocks& operator=(const BuiltInBlocks&) = delete;
 
@@ -29,6 +31,8 @@ class BuiltInBlocks {
     [[nodiscard]] const AltitudeBlock* find(std::string_view header) const;
 
   private:
+    BuiltInBlocks();
+
     std::string m_bytes;  ///< all texts point in here
     std::vector<AltitudeBlock> m_blocks;
     std::unordered_map<std::string_view, const AltitudeBlock*> m_by_header;

@@ -46,7 +46,7 @@ class Inspection {
     void put(std::string_view bytes);
     void put_field();
 
-    BuiltInBlocks m_built_in;
+    const BuiltInBlocks& m_built_in = BuiltInBlocks::instance();
     FieldReader m_reader;
     std::size_t m_line = 1;
     bool m_after_comma = false;    ///< the field follows a comma in its line

@@ -28,6 +28,8 @@ StartUp start_up(std::string_view command_line, std::string_view own_directory, 
 
     // "diroot" alone decides. Deliberate: "autonomo" with the value 1 was meant to force the stand-alone
     // mode, but its value counts as it stood before the command line was searched, so that it never does.
+    // find_entry() supplies bars that the text lacks, parse_suite_root() does not: "diroot=c:/suite" alone
+    // means the suite but names no root, and the program must then lie in the suite's own directory.
     program.StandaloneFlag = !find_entry(command_line, "diroot", "=", "").has_value();
 
     StartUp start;
