@@ -11,6 +11,7 @@
 #include "cli/altitude_commands.h"
 #include "cli/batch.h"
 #include "cli/help.h"
+#include "version/version.h"
 
 namespace coltre::cli {
 
@@ -145,7 +146,7 @@ int run(std::span<const std::string> arguments, const Surroundings& surroundings
     Choice choice;
     CLI::App app;
     app.set_help_flag("-h,--help");
-    app.set_version_flag("--version", "coltre-calcolo " COLTRE_VERSION);
+    app.set_version_flag("--version", "coltre-calcolo " + std::string(version_and_build()));
     app.allow_extras();
     app.require_subcommand(0, 1);
 

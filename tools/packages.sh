@@ -4,7 +4,7 @@
 program_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev qt6-translations-l10n)
 
 # To run all checks besides.
-check_packages=(libgtest-dev libgmock-dev libbenchmark-dev locales clang-format xvfb xauth xdotool imagemagick)
+check_packages=(libgtest-dev libgmock-dev libbenchmark-dev locales clang-format xvfb xauth xdotool imagemagick git)
 
 # For tools/fuzz, besides those of the program.
 fuzz_packages=(clang libclang-rt-14-dev)

@@ -12,6 +12,7 @@
 #include "ui/Form1.h"
 #include "ui/pictures.h"
 #include "ui/qt_dialogs.h"
+#include "version/version.h"
 
 namespace coltre {
 
@@ -47,18 +48,18 @@ constexpr std::string_view help =
     "     coltre '|diroot=RADICE|'  avviato dalla suite installata in RADICE\n\n"
     "Senza schermo si usa il comando coltre-calcolo.\n";
 
+/// @return the exit status of the process
+int print(std::string_view text) {
+    std::cout << text << std::flush;
+    return std::cout ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
 }  // namespace
 
 int run(int argc, char** argv) {
     const std::string command_line = joined_arguments(argc, argv);  // Qt takes its own options out
-    if (command_line == "--version") {
-        std::cout << "coltre " COLTRE_VERSION "\n";
-        return EXIT_SUCCESS;
-    }
-    if (command_line == "--help") {
-        std::cout << help;
-        return EXIT_SUCCESS;
-    }
+    if (command_line == "--version") return print("coltre " + std::string(version_and_build()) + "\n");
+    if (command_line == "--help") return print(help);
 
     take_file_size_limit_as_error();
     qInstallMessageHandler(end_without_display);
