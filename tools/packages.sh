@@ -1,10 +1,12 @@
 # Debian packages that the scripts install where they are missing. Sourced, not run.
 
 # To build and run the program.
-program_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev qt6-translations-l10n)
+program_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev qt6-translations-l10n
+    cmark-gfm)
 
 # To run all checks besides.
-check_packages=(libgtest-dev libgmock-dev libbenchmark-dev locales clang-format xvfb xauth xdotool imagemagick git)
+check_packages=(libgtest-dev libgmock-dev libbenchmark-dev locales clang-format xvfb xauth xdotool imagemagick git
+    desktop-file-utils appstream mandoc)
 
 # For tools/fuzz, besides those of the program.
 fuzz_packages=(clang libclang-rt-14-dev)
