@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <iostream>
 #include <istream>
 #include <ostream>
 #include <streambuf>
@@ -64,7 +65,7 @@ int main() {
     LineCounter counter;
     std::istream in(&source);
     std::ostream out(&counter);
-    const cli::BatchEnd end = cli::run_batch(in, out, {.own_directory = directory.text()});
+    const cli::BatchEnd end = cli::run_batch(in, out, std::cerr, {.own_directory = directory.text()});
     const double peak = peak_memory();
     std::printf("%ld results, %s; peak memory %.1f MiB, at most %.0f MiB%s\n", counter.lines,
                 end == cli::BatchEnd::all_well ? "all well" : "some failed", peak, at_most_mib,
