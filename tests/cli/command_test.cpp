@@ -46,7 +46,7 @@ TEST(Command, ExitStatusTellsWhoIsWrong) {
              {{"parete", "--zona", "0", "--altitudine", "1", "--h", "1", "--alfa", "2"},
               bad_usage,
               "«--alfa»"},
-             {{"parete", "--json=1x"}, bad_usage, "--json non prende un valore"},
+             {{"parete", "--json=x"}, bad_usage, "--json non prende un valore"},
              {{"altitudini"}, bad_usage, "manca il comando"},
              {{"lotto", "/nessuna/richiesta"}, bad_usage, "impossibile leggere il file"},
              {{"parete", "--zona", "0", "--altitudine", "1", "--h", "x"},
