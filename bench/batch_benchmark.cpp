@@ -86,9 +86,9 @@ void parse_and_write_by_name(benchmark::State& state) {
     parse_and_write(state, request_by_name);
 }
 
-BENCHMARK(batch_by_zone);
-BENCHMARK(parse_and_write_by_zone);
-BENCHMARK(batch_by_name);
-BENCHMARK(parse_and_write_by_name);
+BENCHMARK(batch_by_zone)->Unit(benchmark::kMillisecond);
+BENCHMARK(parse_and_write_by_zone)->Unit(benchmark::kMillisecond);
+BENCHMARK(batch_by_name)->Unit(benchmark::kMillisecond);
+BENCHMARK(parse_and_write_by_name)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -254,9 +254,12 @@ void Form1::calculate_clicked() {
     if (outcome.L2output) m_ui->L2output->setText(QString::fromStdString(*outcome.L2output));
     if (outcome.results_complete) {
         show_ground_load();
-        for (const DisplayRow& row : display_rows(entries.SSTab1))
-            findChild<ResultLabel*>(row.label)->show_number(m_program.cells.*row.cell.cell, row.decimals);
-        draw(m_tabs[static_cast<std::size_t>(entries.SSTab1)], &m_program.cells);
+        const RoofTab& tab = m_tabs[static_cast<std::size_t>(entries.SSTab1)];
+        for (const DisplayRow& row : display_rows(tab.family)) {
+            auto* const label = tab.sketch->findChild<ResultLabel*>(row.label, Qt::FindDirectChildrenOnly);
+            label->show_number(m_program.cells.*row.cell.cell, row.decimals);
+        }
+        draw(tab, &m_program.cells);
     }
     // Last: the numbers are those of the altitude as it was typed.
     if (outcome.asinput) m_ui->asinput->setText(QString::fromStdString(*outcome.asinput));
