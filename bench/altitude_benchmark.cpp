@@ -42,7 +42,7 @@ void read_file_bytes(benchmark::State& state) {
     }
 }
 
-BENCHMARK(read_altitude_farthest);
-BENCHMARK(read_file_bytes);
+BENCHMARK(read_altitude_farthest)->Unit(benchmark::kMicrosecond);
+BENCHMARK(read_file_bytes)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
+#include <iostream>
 #include <nlohmann/json.hpp>
 #include <sstream>
 #include <vector>
@@ -40,7 +41,7 @@ struct Table {
 std::string batch_results(const std::string& requests, const cli::Surroundings& surroundings) {
     std::istringstream in(requests);
     std::ostringstream out;
-    run_batch(in, out, surroundings);
+    run_batch(in, out, std::cerr, surroundings);
     return std::move(out).str();
 }
 
@@ -85,9 +86,9 @@ void parse_and_write_by_name(benchmark::State& state) {
     parse_and_write(state, request_by_name);
 }
 
-BENCHMARK(batch_by_zone);
-BENCHMARK(parse_and_write_by_zone);
-BENCHMARK(batch_by_name);
-BENCHMARK(parse_and_write_by_name);
+BENCHMARK(batch_by_zone)->Unit(benchmark::kMillisecond);
+BENCHMARK(parse_and_write_by_zone)->Unit(benchmark::kMillisecond);
+BENCHMARK(batch_by_name)->Unit(benchmark::kMillisecond);
+BENCHMARK(parse_and_write_by_name)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -1,13 +1,14 @@
 // Memory of a batch of a million requests, half of them by name, streamed in and out.
 
-#include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <iostream>
 #include <istream>
 #include <ostream>
 #include <streambuf>
 #include <string>
 
+#include "bench/figure.h"
 #include "bench/request_lines.h"
 #include "cli/batch.h"
 #include "tests/support/temporary_directory.h"
@@ -64,10 +65,8 @@ int main() {
     LineCounter counter;
     std::istream in(&source);
     std::ostream out(&counter);
-    const cli::BatchEnd end = cli::run_batch(in, out, {.own_directory = directory.text()});
-    const double peak = peak_memory();
-    std::printf("%ld results, %s; peak memory %.1f MiB, at most %.0f MiB%s\n", counter.lines,
-                end == cli::BatchEnd::all_well ? "all well" : "some failed", peak, at_most_mib,
-                peak <= at_most_mib ? "" : "  MISSED");
-    return counter.lines == request_count && peak <= at_most_mib ? 0 : 1;
+    const cli::BatchEnd end = cli::run_batch(in, out, std::cerr, {.own_directory = directory.text()});
+    if (end != cli::BatchEnd::all_well || counter.lines != request_count) return 2;
+    print({"memory of a batch of 1,000,000", "MiB", peak_memory(), std::nullopt, at_most_mib});
+    return 0;
 }

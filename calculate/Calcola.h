@@ -5,7 +5,8 @@
 
 namespace coltre {
 
-/// Texts and states of the main window's controls at the moment of the click. Texts are read leniently.
+/// Texts and states of the main window's controls at the moment of the click. Numbers are read
+/// leniently.
 struct MainWindowFields {
     std::string asinput;       ///< altitude, m
     std::string ComboEsp;      ///< exposure coefficient CE

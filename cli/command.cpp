@@ -47,6 +47,8 @@ int run_calculation(const Request& request, bool json, const Surroundings& surro
                     const Streams& streams) {
     SiteMemory memory;
     const Result result = perform(request, surroundings, memory);
+    for (const std::string& entry : result.misread)
+        streams.err << "Attenzione: " << entry << '\n';
     if (json) {
         streams.out << to_json(result) << '\n';
     } else {
@@ -64,7 +66,7 @@ int run_calculation(const Request& request, bool json, const Surroundings& surro
 
 int run_batch_command(const std::string& file, const Surroundings& surroundings, const Streams& streams) {
     const auto finish = [&](std::istream& in) {
-        const BatchEnd end = run_batch(in, streams.out, surroundings);
+        const BatchEnd end = run_batch(in, streams.out, streams.err, surroundings);
         if (end == BatchEnd::input_failed)
             streams.err << "coltre-calcolo: impossibile leggere le richieste\n";
         return check_output(streams.out, streams.err, end == BatchEnd::all_well ? all_well : failed);
@@ -135,6 +137,7 @@ std::string usage_mistake(const CLI::ParseError& error) {
     const std::string text = error.what();
     const std::string option = text.substr(0, text.find(':'));
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return "manca il valore di " + option;
+    if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) return "--json non prende un valore";
     return "argomenti errati";
 }
 

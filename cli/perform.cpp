@@ -11,6 +11,8 @@
 #include "site/altitude_file.h"
 #include "site/regions.h"
 #include "text/names.h"
+#include "text/number_reading.h"
+#include "text/number_text.h"
 
 namespace coltre::cli {
 
@@ -132,6 +134,22 @@ std::optional<Site> site_by_name(const Request& request, Program& program, Doors
     return site;
 }
 
+/// What a calculation takes from entries that it cannot wholly understand: "1,5" is 1. The windows mark such
+/// a field.
+std::vector<std::string> misread_entries(const Request& request) {
+    std::vector<std::string> misread;
+    for (std::size_t i = 0; i < key_count; ++i) {
+        const auto key = static_cast<Key>(i);
+        const auto& text = request.value(key);
+        if (!text || !reads_leniently(*request.kind, key)) continue;
+        const LenientNumber number = read_leniently(*text);
+        if (!number.wholly_understood && !number.beyond_range)
+            misread.push_back(std::string(info(key).name) + " " + in_quotes(*text) + " letto come " +
+                              shortest_number_text(number.value));
+    }
+    return misread;
+}
+
 MainWindowFields main_window_fields(const Request& request, std::string altitude) {
     MainWindowFields fields;
     fields.asinput = std::move(altitude);
@@ -176,6 +194,7 @@ Result perform(const Request& request, const Surroundings& surroundings, SiteMem
     result.error = find_mistake(request);
     result.wrong_request = !result.error.empty();
     if (result.wrong_request) return result;
+    result.misread = misread_entries(request);
 
     CollectedMessages collected(result.messages);
     Program program;

@@ -122,6 +122,12 @@ bool takes(Kind kind, Key key) {
     return std::ranges::find(common, key) != common.end() || std::ranges::find(entries, key) != entries.end();
 }
 
+bool reads_leniently(Kind kind, Key key) {
+    if (!info(key).is_number || key == Key::zona) return false;
+    if (std::ranges::find(common, key) != common.end()) return true;
+    return kind != Kind::discontinuita && kind != Kind::parete;
+}
+
 std::optional<SnowZone> zone_of(std::string_view text) {
     const StrictNumber number = read_strictly(text, '.');
     if (number.verdict != StrictNumber::Verdict::number) return std::nullopt;

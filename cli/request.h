@@ -73,6 +73,10 @@ std::optional<Kind> kind_of(std::string_view name);
 std::span<const Key> common_keys();
 bool takes(Kind kind, Key key);
 
+/// Whether the calculation reads this number leniently, so that a text may be understood in part alone. The
+/// entries of a level change and of a wall are read strictly, and so is the zone.
+bool reads_leniently(Kind kind, Key key);
+
 /// A request: texts exactly as given, a number as it stands in the request.
 struct Request {
     std::optional<Kind> kind;

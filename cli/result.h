@@ -23,12 +23,13 @@ struct Result {
     std::optional<double> qsk;                            ///< kN/m2
     std::vector<std::pair<std::string_view, double>> mu;  ///< by the label of the load case
     std::vector<std::pair<std::string_view, double>>
-        results;                    ///< by the name of the cell, in their order of setting
-    std::string report;             ///< path of the report; empty if none was written
-    std::vector<Message> messages;  ///< the message boxes, in order
-    std::string error;              ///< empty if all is well
-    bool told = false;              ///< a message box has said what went wrong
-    bool wrong_request = false;     ///< the request itself was wrong, and touched no file
+        results;                       ///< by the name of the cell, in their order of setting
+    std::string report;                ///< path of the report; empty if none was written
+    std::vector<Message> messages;     ///< the message boxes, in order
+    std::vector<std::string> misread;  ///< in Italian: each entry that was not wholly understood
+    std::string error;                 ///< empty if all is well
+    bool told = false;                 ///< a message box has said what went wrong
+    bool wrong_request = false;        ///< the request itself was wrong, and touched no file
 };
 
 /// The result as one JSON object on one line, without a line end.

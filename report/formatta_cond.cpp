@@ -81,7 +81,7 @@ std::int16_t shift_of_factor(double factor) {
 }
 
 bool has_exponent(std::string_view text) {
-    return text.find_first_of("eE") != npos;
+    return std::ranges::any_of(text, [](char c) { return c == 'e' || c == 'E'; });
 }
 
 void pad_left(std::string& text, int width) {

@@ -17,8 +17,7 @@ namespace coltre {
 /// @param directives  directive string; empty for the plain number text
 /// @param factor      scale factor, finite; also fixes the decimal shift where no unit is converted
 /// @return the empty text after a wrong directive or an overflow, which is told in a message box; asterisks
-/// for a
-///         number that does not fit its field
+///         for a number that does not fit its field
 std::string formatta(double value, std::string_view directives, double factor, MessageBoxes& message_boxes);
 
 /// Converts the value by the unit command of the directive string. A command that names one unit twice keeps

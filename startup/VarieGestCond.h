@@ -17,8 +17,7 @@ namespace coltre {
 /// @param separator         what stands between key and value, "=" on the command line
 /// @param extra_separators  characters that separate entries as "|" does
 /// @return nothing when the key is absent; otherwise the value as written, blanks included. It is empty for
-/// an
-///         empty value, and for the last of several entries when no separator closes it: deliberate.
+///         an empty value, and for the last of several entries when no separator closes it: deliberate.
 std::optional<std::string> find_entry(std::string_view list, std::string_view key, std::string_view separator,
                                       std::string_view extra_separators);
 

@@ -61,11 +61,11 @@ std::string_view first_character(std::string_view text) {
     if (text.empty()) return text;
     const auto lead = static_cast<unsigned char>(text[0]);
     const std::size_t length = announced_length(lead);
+    if (length == 1) return text.substr(0, 1);
     const std::string_view character = text.substr(0, length);
     const bool whole =
         character.size() == length && std::ranges::all_of(character.substr(1), is_continuation);
-    if (length > 1 && (!whole || !is_shortest_form(lead, static_cast<unsigned char>(text[1]))))
-        return text.substr(0, 1);
+    if (!whole || !is_shortest_form(lead, static_cast<unsigned char>(text[1]))) return text.substr(0, 1);
     return character;
 }
 

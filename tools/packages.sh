@@ -10,3 +10,6 @@ check_packages=(libgtest-dev libgmock-dev libbenchmark-dev locales clang-format 
 
 # For tools/fuzz, besides those of the program.
 fuzz_packages=(clang libclang-rt-14-dev)
+
+# For tools/benchmark, besides those of the program: speedcrunch is what the windows are compared with.
+bench_packages=(libbenchmark-dev python3 libx11-6 xvfb speedcrunch)

@@ -72,6 +72,14 @@ void Form1::connect_controls() {
     connect(m_ui->Calcola, &QPushButton::clicked, this, &Form1::calculate_clicked);
     connect(m_ui->Info, &QPushButton::clicked, this, &Form1::information_clicked);
     connect(m_ui->Chiudi, &QPushButton::clicked, this, &Form1::close);
+
+    connect(m_ui->asinput, &QLineEdit::textChanged, this, &Form1::site_changed);
+    connect(m_ui->TextCTermico, &QLineEdit::textChanged, this, &Form1::site_changed);
+    connect(m_ui->ComboEsp, &QComboBox::currentIndexChanged, this, &Form1::site_changed);
+    connect(this, &Form1::site_changed, this, [this] {
+        for (const RoofTab& tab : m_tabs)
+            draw(tab, nullptr);
+    });
 }
 
 void Form1::set_up_sketches() {
@@ -179,6 +187,7 @@ void Form1::province_chosen() {
     const ProvinceZone zone = ZoneOfProvince(province);
     m_program.cells.zone = zone.zone;
     m_ui->Zonalabel->setText(qt(zone.caption));
+    emit site_changed();
     m_ui->comuneinput->fill({});
     const auto municipalities = FillMunicipalities(m_program.directories.ProgramDirectory, province, m_doors);
     if (!municipalities) return;  // the program has ended
@@ -202,6 +211,7 @@ void Form1::return_period_clicked() {
     if (!m_dialogs.ask(return_period_question()) || raise_open(m_return_period)) return;
     auto* dialog = new PeriododiRitorno(m_program.cells, m_dialogs, m_ui->OutputPerRit->text(), this);
     connect(dialog, &PeriododiRitorno::confirmed, m_ui->OutputPerRit, &ResultLabel::setText);
+    connect(dialog, &PeriododiRitorno::confirmed, this, &Form1::site_changed);
     m_return_period = dialog;
     dialog->show();
 }
@@ -212,9 +222,11 @@ void Form1::exposure_table_clicked() {
 
 void Form1::special_cases_clicked() {
     if (raise_open(m_special_cases)) return;
-    m_special_cases = new casipart(
+    auto* window = new casipart(
         m_program, m_dialogs, [this] { return site_fields(); }, [this] { show_ground_load(); }, this);
-    m_special_cases->show();
+    connect(this, &Form1::site_changed, window, &casipart::mark_ground_load_as_old);
+    m_special_cases = window;
+    window->show();
 }
 
 MainWindowFields Form1::fields() const {
@@ -238,15 +250,19 @@ void Form1::calculate_clicked() {
     const MainWindowFields entries = fields();
     CalculationObserver nobody;
     const ClickOutcome outcome = Calcola(entries, m_program, m_dialogs, nobody);
-    if (outcome.asinput) m_ui->asinput->setText(QString::fromStdString(*outcome.asinput));
     if (outcome.L1output) m_ui->L1output->setText(QString::fromStdString(*outcome.L1output));
     if (outcome.L2output) m_ui->L2output->setText(QString::fromStdString(*outcome.L2output));
-    if (!outcome.results_complete) return;
-    show_ground_load();
-    for (const DisplayRow& row : display_rows(entries.SSTab1)) {
-        findChild<ResultLabel*>(row.label)->show_number(m_program.cells.*row.cell.cell, row.decimals);
+    if (outcome.results_complete) {
+        show_ground_load();
+        const RoofTab& tab = m_tabs[static_cast<std::size_t>(entries.SSTab1)];
+        for (const DisplayRow& row : display_rows(tab.family)) {
+            auto* const label = tab.sketch->findChild<ResultLabel*>(row.label, Qt::FindDirectChildrenOnly);
+            label->show_number(m_program.cells.*row.cell.cell, row.decimals);
+        }
+        draw(tab, &m_program.cells);
     }
-    draw(m_tabs[static_cast<std::size_t>(entries.SSTab1)], &m_program.cells);
+    // Last: the numbers are those of the altitude as it was typed.
+    if (outcome.asinput) m_ui->asinput->setText(QString::fromStdString(*outcome.asinput));
 }
 
 void Form1::information_clicked() {

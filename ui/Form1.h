@@ -46,6 +46,11 @@ class Form1 : public QWidget {
     /// `caricosuolo` shows the qsk cell.
     void show_ground_load();
 
+  signals:
+    /// The site, a coefficient or the return period is another one: numbers shown so far belong to the old
+    /// one.
+    void site_changed();
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
 

@@ -73,6 +73,11 @@ casipart::casipart(Program& program, UserDialogs& dialogs, std::function<SiteFie
 
 casipart::~casipart() = default;
 
+void casipart::mark_ground_load_as_old() {
+    draw(SpecialCase::level_change, false);
+    draw(SpecialCase::wall, false);
+}
+
 void casipart::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         m_ui->Calcola2->click();

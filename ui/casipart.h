@@ -30,6 +30,10 @@ class casipart : public QWidget, private CalculationObserver {
                       std::function<void()> show_ground_load, QWidget* parent = nullptr);
     ~casipart() override;
 
+    /// The ground load is no longer that of the numbers shown: the sketches of the cases that depend on it
+    /// say so.
+    void mark_ground_load_as_old();
+
   protected:
     /// Enter calculates, wherever the focus is but on a button.
     void keyPressEvent(QKeyEvent* event) override;

@@ -46,6 +46,7 @@ TEST(Command, ExitStatusTellsWhoIsWrong) {
              {{"parete", "--zona", "0", "--altitudine", "1", "--h", "1", "--alfa", "2"},
               bad_usage,
               "«--alfa»"},
+             {{"parete", "--json=x"}, bad_usage, "--json non prende un valore"},
              {{"altitudini"}, bad_usage, "manca il comando"},
              {{"lotto", "/nessuna/richiesta"}, bad_usage, "impossibile leggere il file"},
              {{"parete", "--zona", "0", "--altitudine", "1", "--h", "x"},
@@ -59,6 +60,14 @@ TEST(Command, ExitStatusTellsWhoIsWrong) {
         EXPECT_THAT(run.err, HasSubstr(c.err));
         EXPECT_EQ(run.out.empty(), c.status == bad_usage) << run.out;
     }
+}
+
+TEST(Command, SaysWhatItReadsFromAnEntryThatItDoesNotWhollyUnderstand) {
+    const CommandRun run = run_command(
+        {"una-falda", "--zona", "0", "--altitudine", "1e2m", "--alfa", "trenta", "--ct", " 1 ", "--json"});
+    EXPECT_EQ(run.status, all_well);
+    EXPECT_EQ(run.err,
+              "Attenzione: altitudine «1e2m» letto come 100\nAttenzione: alfa «trenta» letto come 0\n");
 }
 
 TEST(Command, JsonIsTheResultOfABatch) {

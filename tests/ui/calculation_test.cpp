@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <functional>
 
 #include "tests/ui/window_test.h"
 
@@ -9,7 +10,15 @@ using testing::Each;
 using testing::ElementsAre;
 
 /// Zone I Alpina at sea level: qsk = 1.5. Overhang loads of less than 3 kN/m2 are qs^3 / 3.
-using MainCalculation = MainWindowTest;
+class MainCalculation : public MainWindowTest {
+  protected:
+    /// Whether the sketch says that its numbers belong to other entries.
+    bool is_pending(const char* sketch) {
+        return std::ranges::any_of(get<SketchWidget>(sketch).drawing().texts, [](const Text& text) {
+            return text.text == "numeri dell'ultimo calcolo, non di questi dati";
+        });
+    }
+};
 
 TEST_F(MainCalculation, EachFamilyShowsItsCellsAlone) {
     click("Calcola");
@@ -62,6 +71,7 @@ TEST_F(MainCalculation, HighSiteIsToldAndShows1500ThoughThisCalculationUsesWhatW
                    "carico neve non inferiori a quelli previsti per 1500 m.>\r(Circ. 4 luglio 1996)");
     click("Calcola");
     EXPECT_EQ(field("asinput"), " 1500");
+    EXPECT_TRUE(is_pending("sketch_1")) << "the numbers are not those for 1500 m";
     EXPECT_EQ(text("caricosuolo"), " 8.1042");  // 1.39 (1 + (1600 / 728)^2)
     click("Calcola");
     EXPECT_EQ(text("caricosuolo"), " 7.2911");
@@ -119,11 +129,6 @@ TEST_F(MainCalculation, EnterInAnyFieldCalculates) {
 }
 
 TEST_F(MainCalculation, SketchSaysWhenItsNumbersAreOfOtherEntries) {
-    const auto is_pending = [this](const char* sketch) {
-        return std::ranges::any_of(get<SketchWidget>(sketch).drawing().texts, [](const Text& text) {
-            return text.text == "numeri dell'ultimo calcolo, non di questi dati";
-        });
-    };
     const char* const entries[] = {"inputalfa", "inputalfa1", "inputalfa3", "Lcopcil"};
     const char* const sketches[] = {"sketch_1", "sketch_2", "sketch_3", "sketch_4"};
     for (int tab = 0; tab < 4; ++tab) {
@@ -135,6 +140,18 @@ TEST_F(MainCalculation, SketchSaysWhenItsNumbersAreOfOtherEntries) {
         EXPECT_FALSE(is_pending(sketches[tab]));
         type(entries[tab], "25");
         EXPECT_TRUE(is_pending(sketches[tab]));
+    }
+    const std::function<void()> site_changes[] = {
+        [this] { type("asinput", "300"); },
+        [this] { type("TextCTermico", "1.1"); },
+        [this] { list("ComboEsp").setCurrentIndex(2); },
+        [this] { list("Provinciainput").setCurrentText("Cuneo"); },
+    };
+    for (const auto& change : site_changes) {
+        click("Calcola");
+        EXPECT_FALSE(is_pending("sketch_4"));
+        change();
+        EXPECT_TRUE(is_pending("sketch_4"));
     }
 }
 

@@ -1,5 +1,3 @@
-#include <fstream>
-
 #include "tests/ui/window_test.h"
 
 namespace coltre {
@@ -30,9 +28,12 @@ TEST_F(Site, RegionChangesTheProvincesAlone) {
     EXPECT_EQ(list("Provinciainput").count(), 2);
     EXPECT_EQ(list("Provinciainput").currentIndex(), -1);
     EXPECT_EQ(municipalities.currentText(), "Sestriere");
+    EXPECT_FALSE(municipalities.isEnabled()) << "they are of no province that is chosen";
     EXPECT_EQ(field("asinput"), "2035");
     EXPECT_EQ(text("Zonalabel"), "(Zona I Alpina)");
     EXPECT_EQ(program.cells.zone, 0);
+    list("Provinciainput").setCurrentText("Terni");
+    EXPECT_TRUE(municipalities.isEnabled());
 }
 
 TEST_F(Site, SecondReadErrorEndsTheProgramAndLeavesTheWindowAsItIs) {
@@ -43,11 +44,13 @@ TEST_F(Site, SecondReadErrorEndsTheProgramAndLeavesTheWindowAsItIs) {
     EXPECT_EQ(field("asinput"), "239");
 }
 
-TEST_F(Site, EditedFileCountsAtTheNextChoice) {
-    std::ofstream(directory.path() / "altitudini.txt", std::ios::binary)
-        << "Torino\r\nTorino    12\r\nNuovo   7\r\n\r\n";
-    municipalities.setCurrentIndex(1);  // Aglie', no longer in the file: the file is written anew
-    EXPECT_EQ(field("asinput"), "315");
+TEST_F(Site, EditedFileCountsAtTheNextChoiceAndComesBackWhereAMunicipalityIsGone) {
+    directory.put("altitudini.txt", "Torino\r\nAglie'    12\r\n\r\n");
+    municipalities.setCurrentText("Aglie'");
+    EXPECT_EQ(field("asinput"), "12");
+    municipalities.setCurrentText("Sestriere");
+    EXPECT_EQ(field("asinput"), "2035") << "of the file written anew";
+    EXPECT_EQ(directory.content("altitudini.bak"), "Torino\r\nAglie'    12\r\n\r\n");
 }
 
 TEST_F(Site, ClosedListJumpsToWhatIsTyped) {

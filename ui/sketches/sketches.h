@@ -37,12 +37,12 @@ void mark_as_pending(Drawing& drawing);
 Drawing sketch_roof(const Roof& roof, const ProgramCells* loads);
 
 /// A special case with the slots of its labels:
-///  - level change: carico_14 at the step, carico_15 at the end of the drift, lsoutput. A drift as long as
-///  the
-///    lower roof or longer is cut at its end: lsoutput and the four elements of Role::drift_length are away,
-///    and Role::drift_line ends at drift_end_cut.
-///  - wall: carico_17 at the wall, carico_16 at the end of the drift; ls2outputA in section, ls2outputB in
-///  plan
+///  - level change: carico_14 at the step, carico_15 at the end of the drift, lsoutput. A drift that is cut
+///  at
+///    the end of the lower roof: lsoutput and the four elements of Role::drift_length are away, and
+///    Role::drift_line ends at drift_end_cut.
+///  - wall: carico_17 at the wall, carico_16 at the end of the drift; in section ls2outputA, in plan
+///    ls2outputB
 ///  - snow guard: Fsoutput
 /// @param loads  the results of these entries, or null: ordinates follow the shape coefficients, for a ground
 ///               load of 1 kN/m2
