@@ -2,8 +2,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "ui/sketches/case_sketches.h"
 #include "ui/sketches/drawing_parts.h"
-#include "ui/sketches/families.h"
 
 namespace coltre {
 

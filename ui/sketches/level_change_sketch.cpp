@@ -2,8 +2,8 @@
 #include <cmath>
 
 #include "engine/special_loads.h"
+#include "ui/sketches/case_sketches.h"
 #include "ui/sketches/drawing_parts.h"
-#include "ui/sketches/families.h"
 #include "ui/sketches/sketches.h"
 
 namespace coltre {

@@ -3,8 +3,8 @@
 #include <cmath>
 
 #include "engine/Calcolo_Mu.h"
+#include "ui/sketches/case_sketches.h"
 #include "ui/sketches/drawing_parts.h"
-#include "ui/sketches/families.h"
 
 namespace coltre {
 

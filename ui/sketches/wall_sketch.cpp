@@ -1,8 +1,8 @@
 #include <algorithm>
 
 #include "engine/special_loads.h"
+#include "ui/sketches/case_sketches.h"
 #include "ui/sketches/drawing_parts.h"
-#include "ui/sketches/families.h"
 
 namespace coltre {
 
