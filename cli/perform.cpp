@@ -34,12 +34,12 @@ class ResultCollector : public CalculationObserver {
     explicit ResultCollector(Result& result) : m_result(result) {}
     void on_cell(const ResultCell& cell, double value) override {
         // The cut of a drift sets its cells once more.
-        const auto earlier =
-            std::ranges::find(m_result.results, cell.name, &std::pair<std::string_view, double>::first);
+        const auto earlier = std::ranges::find(m_result.results, cell.name,
+                                               [](const auto& result) { return result.first.name; });
         if (earlier != m_result.results.end()) {
             earlier->second = value;
         } else {
-            m_result.results.emplace_back(cell.name, value);
+            m_result.results.emplace_back(cell, value);
         }
     }
     void on_coefficient(std::string_view label, double mu) override { m_result.mu.emplace_back(label, mu); }

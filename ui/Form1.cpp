@@ -153,7 +153,7 @@ SiteFields Form1::site_fields() const {
 }
 
 void Form1::show_ground_load() {
-    m_ui->caricosuolo->show_number(m_program.cells.qsk, load_decimals);
+    m_ui->caricosuolo->show_number(m_program.cells.qsk, quantities::area_load.decimals);
 }
 
 void Form1::keyPressEvent(QKeyEvent* event) {
@@ -247,7 +247,7 @@ void Form1::calculate_clicked() {
         const RoofTab& tab = m_tabs[static_cast<std::size_t>(entries.SSTab1)];
         for (const DisplayRow& row : display_rows(tab.family)) {
             auto* const label = tab.sketch->findChild<ResultLabel*>(row.label, Qt::FindDirectChildrenOnly);
-            label->show_number(m_program.cells.*row.cell.cell, row.decimals);
+            label->show_number(m_program.cells.*row.cell.cell, row.cell.quantity.decimals);
         }
         draw(tab, &m_program.cells);
     }

@@ -8,6 +8,7 @@
 #include "report/unit_systems.h"
 #include "text/number_reading.h"
 #include "ui/lists.h"
+#include "ui/result_display.h"
 #include "ui/sketch_setup.h"
 #include "ui/sketches/sketches.h"
 #include "ui_casipart.h"
@@ -141,28 +142,10 @@ void casipart::calculate_clicked() {
 }
 
 void casipart::on_special_case(const SpecialCaseEntries& entries) {
-    struct Row {
-        SpecialCase page;
-        ResultLabel* label;
-        double ProgramCells::*cell;
-        int decimals;
-    };
-    const Row rows[] = {
-        {SpecialCase::level_change, m_ui->carico_14, &ProgramCells::level_qs2, 4},
-        {SpecialCase::level_change, m_ui->carico_15, &ProgramCells::level_qs1, 4},
-        {SpecialCase::level_change, m_ui->lsoutput, &ProgramCells::level_ls, 2},
-        {SpecialCase::wall, m_ui->carico_16, &ProgramCells::wall_qs1, 4},
-        {SpecialCase::wall, m_ui->carico_17, &ProgramCells::wall_qs2, 4},
-        {SpecialCase::wall, m_ui->ls2outputA, &ProgramCells::wall_ls, 2},
-        {SpecialCase::wall, m_ui->ls2outputB, &ProgramCells::wall_ls, 2},
-        {SpecialCase::snow_guard, m_ui->Fsoutput, &ProgramCells::Fs, 3},
-    };
     m_show_ground_load();
-    for (const Row& row : rows) {
-        if (row.page == entries.special_case) {
-            row.label->show_number(m_program.cells.*row.cell, row.decimals);
-        }
-    }
+    for (const DisplayRow& row : display_rows(entries.special_case))
+        findChild<ResultLabel*>(row.label)->show_number(m_program.cells.*row.cell.cell,
+                                                        row.cell.quantity.decimals);
     draw(entries.special_case, true);
 }
 
