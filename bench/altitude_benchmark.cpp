@@ -26,9 +26,8 @@ class TableDirectory : public TemporaryDirectory {
 void read_altitude_farthest(benchmark::State& state) {
     const TableDirectory directory;
     FakeDoors fake;
-    Doors doors = fake.doors();
     for (auto _ : state) {
-        const auto altitude = ReadAltitude(directory.text(), "Oristano", "Zerfaliu", doors);
+        const auto altitude = ReadAltitude(directory.text(), "Oristano", "Zerfaliu", fake.doors());
         if (altitude != "15") state.SkipWithError("wrong altitude");
     }
 }

@@ -1,5 +1,6 @@
 #include "calculate/Calcola.h"
 
+#include "engine/both_observers.h"
 #include "engine/ground_load.h"
 #include "engine/roof_loads.h"
 #include "report/snow_load_report.h"
@@ -33,7 +34,7 @@ std::string zero_load_reason(std::string_view quantity, const Roof& roof, const 
 }
 
 Stop explain(const CalculationEnd& end, const Roof& roof, const ProgramCells& cells) {
-    Stop stop{end.fault, "Non si può calcolare " + std::string(end.quantity) + "."};
+    Stop stop = stop_of(end);
     if (end.fault == Fault::division_by_zero && end.quantity.starts_with("qe_")) {
         stop.explanation += "\r" + zero_load_reason(end.quantity, roof, cells);
     }
@@ -123,7 +124,8 @@ ClickOutcome Calcola(const MainWindowFields& fields, Program& program, MessageBo
     ClickOutcome outcome;
     ProgramCells& cells = program.cells;
     double altitude = 0;
-    if (stopped(set_ground_load(fields, cells, altitude, outcome, message_boxes), outcome, message_boxes))
+    if (tell_if_stopped(set_ground_load(fields, cells, altitude, outcome, message_boxes), outcome,
+                        message_boxes))
         return outcome;
     outcome.altitude = altitude;
     outcome.qsk = cells.qsk;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "calculate/click.h"
+#include "calculate/entry_reader.h"
 #include "startup/program.h"
 
 namespace coltre {

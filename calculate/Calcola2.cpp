@@ -9,7 +9,7 @@ namespace coltre {
 namespace {
 
 Stop explain(const CalculationEnd& end, const SpecialCaseEntries& entries, const ProgramCells& cells) {
-    Stop stop{end.fault, "Non si può calcolare " + std::string(end.quantity) + "."};
+    Stop stop = stop_of(end);
     if (entries.special_case == SpecialCase::level_change && entries.h == 0) {
         stop.explanation += "\rIl dislivello h è 0.";
     } else if (entries.special_case != SpecialCase::snow_guard && cells.qsk == 0) {
@@ -68,7 +68,8 @@ ClickOutcome Calcola2(const SpecialCasesFields& fields, Program& program, Messag
     ClickOutcome outcome;
     ProgramCells& cells = program.cells;
     double altitude = 0;
-    if (stopped(set_design_ground_load(fields, cells, altitude), outcome, message_boxes)) return outcome;
+    if (tell_if_stopped(set_design_ground_load(fields, cells, altitude), outcome, message_boxes))
+        return outcome;
     outcome.altitude = altitude;
     outcome.qsk = cells.qsk;
     cells.unit_system = unit_system_of(fields.udmcombo).value_or(cells.unit_system);

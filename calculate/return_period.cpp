@@ -1,6 +1,6 @@
 #include "calculate/return_period.h"
 
-#include "calculate/click.h"
+#include "calculate/entry_reader.h"
 #include "engine/ground_load.h"
 #include "text/characters.h"
 #include "text/number_text.h"

@@ -1,6 +1,5 @@
 #include "cli/json_request.h"
 
-#include <cstdint>
 #include <nlohmann/json.hpp>
 
 #include "cli/json_text.h"

@@ -35,18 +35,25 @@ class ObjectWriter {
     }
     void text(std::string_view name, std::string_view value) { append_json_string(member(name), value); }
     void number(std::string_view name, double value) { member(name) += shortest_number_text(value); }
-    void numbers(std::string_view name, const std::vector<std::pair<std::string_view, double>>& values) {
-        member(name);
-        ObjectWriter object(m_json);
-        for (const auto& [label, value] : values)
-            object.number(label, value);
-        object.close();
-    }
     void close() { m_json += '}'; }
 
   private:
     std::string& m_json;
 };
+
+void append_coefficients(std::string& json, const Result& result) {
+    ObjectWriter object(json);
+    for (const auto& [label, mu] : result.mu)
+        object.number(label, mu);
+    object.close();
+}
+
+void append_results(std::string& json, const Result& result) {
+    ObjectWriter object(json);
+    for (const auto& [cell, value] : result.results)
+        object.number(cell.name, value);
+    object.close();
+}
 
 void append_messages(std::string& json, const std::vector<Message>& messages) {
     json += '[';
@@ -76,8 +83,8 @@ std::string to_json(const Result& result) {
     if (result.altitude) object.number("altitudine", *result.altitude);
     if (result.zone) object.number("zona", *result.zone);
     if (result.qsk) object.number("qsk", *result.qsk);
-    object.numbers("mu", result.mu);
-    object.numbers("risultati", result.results);
+    append_coefficients(object.member("mu"), result);
+    append_results(object.member("risultati"), result);
     if (!result.report.empty()) object.text("relazione", result.report);
     append_messages(object.member("messaggi"), result.messages);
     if (result.error.empty()) {

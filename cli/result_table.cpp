@@ -22,19 +22,6 @@ std::string right(std::string_view text, std::size_t width) {
     return std::string(width - std::min(width, character_count(text)), ' ').append(text);
 }
 
-/// Unit of a result cell and the decimals that the windows show it with.
-struct Quantity {
-    std::string_view unit;
-    int decimals;
-};
-
-Quantity quantity_of(std::string_view cell) {
-    if (cell.starts_with("qs")) return {"kN/m²", 4};
-    if (cell.starts_with("mu")) return {"", 4};
-    if (cell.starts_with('L') || cell == "ls") return {"m", 2};
-    return {"kN/m", 3};
-}
-
 void append_row(std::string& table, std::string_view name, std::string_view value, std::string_view unit) {
     table += left(name, name_width) + right(value, value_width);
     if (!unit.empty()) table.append(" ").append(unit);
@@ -57,13 +44,12 @@ std::string to_table(const Result& result) {
                         std::to_string(*result.zone) + " " + std::string(zone_caption(*result.zone)));
     }
     if (result.altitude) append_row(table, "Altitudine", shortest_number_text(*result.altitude), "m");
-    if (result.qsk) append_row(table, "qsk", fixed_number_text(*result.qsk, 4), "kN/m²");
+    if (result.qsk)
+        append_row(table, "qsk", fixed_number_text(*result.qsk, quantities::area_load.decimals), quantities::area_load.unit);
     for (const auto& [label, mu] : result.mu)
-        append_row(table, label, fixed_number_text(mu, 4), "");
-    for (const auto& [name, value] : result.results) {
-        const auto [unit, decimals] = quantity_of(name);
-        append_row(table, name, fixed_number_text(value, decimals), unit);
-    }
+        append_row(table, label, fixed_number_text(mu, quantities::coefficient.decimals), quantities::coefficient.unit);
+    for (const auto& [cell, value] : result.results)
+        append_row(table, cell.name, fixed_number_text(value, cell.quantity.decimals), cell.quantity.unit);
     if (!result.report.empty()) append_text_row(table, "Relazione", result.report);
     return table;
 }

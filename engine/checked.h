@@ -18,10 +18,10 @@ enum class Fault {
 /// A double, or the fault that the steps towards it met first. Underflow is no fault.
 class Checked {
   public:
+    // Not explicit: numbers and faults are operands.
     /// @param value  finite
-    constexpr Checked(double value)
-        : m_value(value) {}  // NOLINT(google-explicit-constructor): numbers are operands
-    constexpr Checked(Fault fault) : m_fault(fault) {}  // NOLINT(google-explicit-constructor)
+    constexpr Checked(double value) : m_value(value) {}
+    constexpr Checked(Fault fault) : m_fault(fault) {}
 
     /// The result; meaningful without a fault alone.
     [[nodiscard]] constexpr double value() const { return m_value; }

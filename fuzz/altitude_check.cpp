@@ -45,8 +45,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const TemporaryDirectory directory;
     directory.put("altitudini.txt", repaired);
     FakeDoors user;
-    Doors doors = user.doors();
-    require(FillMunicipalities(directory.text(), province, doors).has_value(), "every province can be read");
+    require(FillMunicipalities(directory.text(), province, user.doors()).has_value(),
+            "every province can be read");
     require(directory.content("altitudini.txt") == repaired, "the repaired file is not rewritten");
     return 0;
 }

@@ -54,8 +54,7 @@ void check_read(const std::optional<std::string_view>& given, Read read) {
     directory.put("altitudini.bak", earlier);
 
     FakeDoors user;
-    Doors doors = user.doors();
-    const bool succeeded = read(directory.text(), doors);
+    const bool succeeded = read(directory.text(), user.doors());
     require(user.shown.size() == (succeeded ? 0U : 1U), "a failure is told once, a success never");
     require(user.ended == (succeeded ? 0 : 1), "a failure ends the program");
 
@@ -79,10 +78,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto file = input.rest().empty() ? std::nullopt : std::optional(input.rest());
     check_find_field(input.rest(), province);
 
-    check_read(file, [&](std::string_view directory, Doors& doors) {
+    check_read(file, [&](std::string_view directory, Doors doors) {
         return FillMunicipalities(directory, province, doors).has_value();
     });
-    check_read(file, [&](std::string_view directory, Doors& doors) {
+    check_read(file, [&](std::string_view directory, Doors doors) {
         return ReadAltitude(directory, province, municipality, doors).has_value();
     });
     return 0;

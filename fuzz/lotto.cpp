@@ -4,7 +4,6 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "cli/batch.h"

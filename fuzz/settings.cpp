@@ -52,9 +52,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     suite.write_setting("LAVORO", job_file);
 
     FakeDoors user;
-    Doors doors = user.doors();
     Directories directories;
-    const bool goes_on = check_directories(suite.command_line(), "", "", directories, doors);
+    const bool goes_on = check_directories(suite.command_line(), "", "", directories, user.doors());
 
     const std::string jobs = setting(jobs_file);
     const std::string job = setting(job_file);

@@ -49,6 +49,9 @@ class ReportFile {
     void blank_line() { line(std::string_view{}); }
     void heading(const ReportHeading& heading);
 
+    /// The report's path, in the suite's notation.
+    [[nodiscard]] const std::string& name() const { return m_name; }
+
     /// Puts the report in place.
     void close() { static_cast<void>(m_file.commit()); }
 

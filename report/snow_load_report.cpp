@@ -1,7 +1,6 @@
 #include "report/snow_load_report.h"
 
 #include <array>
-#include <optional>
 
 #include "text/characters.h"
 #include "text/number_text.h"

@@ -11,6 +11,6 @@ namespace coltre {
 /// the old file then is as it was.
 /// @param ProgramDirectory  in the suite's notation
 /// @return false if the program was ended
-bool WriteAltitudeFile(std::string_view ProgramDirectory, Doors& doors);
+bool WriteAltitudeFile(std::string_view ProgramDirectory, Doors doors);
 
 }  // namespace coltre

@@ -51,7 +51,7 @@ std::optional<std::string> altitude(std::string_view bytes, std::string_view pro
 /// Runs the read, after a failure once more on the file written anew.
 /// @param read  takes the file's bytes; gives an optional, empty on failure
 template <typename Read>
-auto read_with_retry(std::string_view ProgramDirectory, Doors& doors, Read read)
+auto read_with_retry(std::string_view ProgramDirectory, Doors doors, Read read)
     -> decltype(read(std::string_view())) {
     for (bool retried = false;; retried = true) {
         if (const std::optional<std::string> bytes = read_file(altitude_file_name(ProgramDirectory))) {
@@ -70,7 +70,7 @@ auto read_with_retry(std::string_view ProgramDirectory, Doors& doors, Read read)
 }  // namespace
 
 std::optional<MunicipalityList> FillMunicipalities(std::string_view ProgramDirectory,
-                                                   std::string_view province, Doors& doors) {
+                                                   std::string_view province, Doors doors) {
     const std::string header = name_in_file(province);
     std::optional<std::vector<std::string>> names = read_with_retry(
         ProgramDirectory, doors, [&](std::string_view bytes) { return municipalities(bytes, header); });
@@ -82,7 +82,7 @@ std::optional<MunicipalityList> FillMunicipalities(std::string_view ProgramDirec
 }
 
 std::optional<std::string> ReadAltitude(std::string_view ProgramDirectory, std::string_view province,
-                                        std::string_view municipality, Doors& doors) {
+                                        std::string_view municipality, Doors doors) {
     const std::string header = name_in_file(province);
     const std::string name = name_in_file(municipality);
     return read_with_retry(ProgramDirectory, doors,

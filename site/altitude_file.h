@@ -25,13 +25,13 @@ struct MunicipalityList {
 /// The municipalities of a province for the list `comuneinput`, and what selecting its first entry reads.
 /// @return nothing if the program was ended
 std::optional<MunicipalityList> FillMunicipalities(std::string_view ProgramDirectory,
-                                                   std::string_view province, Doors& doors);
+                                                   std::string_view province, Doors doors);
 
 /// The altitude of a municipality, m, as the text for `asinput`: the last four characters of its line without
 /// blanks. The first line of that name behind the province's header counts. Deliberate: the last block has no
 /// empty line that would end the search for a name it does not hold; the file's last line is taken then.
 /// @return nothing if the program was ended
 std::optional<std::string> ReadAltitude(std::string_view ProgramDirectory, std::string_view province,
-                                        std::string_view municipality, Doors& doors);
+                                        std::string_view municipality, Doors doors);
 
 }  // namespace coltre

@@ -58,13 +58,13 @@ Tail split_tail(std::string_view text, std::size_t count) {
 }
 
 /// Tells the fault and ends the program. Always false: what check_directories() returns when the end returns.
-bool end_program(Doors& doors, std::string_view title, std::string text) {
+bool end_program(Doors doors, std::string_view title, std::string text) {
     doors.message_boxes.show({Icon::error, std::string(title), std::move(text)});
     doors.program_end.end();
     return false;
 }
 
-bool end_for_missing_directories(Doors& doors, const Directories& directories) {
+bool end_for_missing_directories(Doors doors, const Directories& directories) {
     return end_program(doors, suite_error_title,
                        "Uno dei seguenti direttori non è presente o non è accessibile:\r" +
                            missing_directory_list(directories));
@@ -102,7 +102,7 @@ std::string missing_directory_list(const Directories& directories) {
 }
 
 bool check_directories(std::string_view command_line, std::string_view process_command_line,
-                       std::string_view own_directory, Directories& directories, Doors& doors) {
+                       std::string_view own_directory, Directories& directories, Doors doors) {
     std::string& root = directories.SuiteRoot;
     root = parse_suite_root(command_line.empty() ? process_command_line : command_line);
     if (root.empty()) {

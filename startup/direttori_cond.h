@@ -51,6 +51,6 @@ std::string missing_directory_list(const Directories& directories);
 ///                              must be the suite's "\progra"
 /// @return false after a fault, where the program's end returned
 bool check_directories(std::string_view command_line, std::string_view process_command_line,
-                       std::string_view own_directory, Directories& directories, Doors& doors);
+                       std::string_view own_directory, Directories& directories, Doors doors);
 
 }  // namespace coltre

@@ -23,7 +23,7 @@ Directories standalone_directories(std::string_view own_directory) {
 }  // namespace
 
 StartUp start_up(std::string_view command_line, std::string_view own_directory, Program& program,
-                 Doors& doors) {
+                 Doors doors) {
     program.CommandLine = command_line;
 
     // "diroot" alone decides. Deliberate: "autonomo" with the value 1 was meant to force the stand-alone

@@ -29,6 +29,6 @@ struct StartUp {
 /// @param command_line   the arguments of the process as one text
 /// @param own_directory  the directory that holds the program
 StartUp start_up(std::string_view command_line, std::string_view own_directory, Program& program,
-                 Doors& doors);
+                 Doors doors);
 
 }  // namespace coltre

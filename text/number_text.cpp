@@ -7,6 +7,7 @@
 #include <limits>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 namespace coltre {
 

@@ -12,10 +12,11 @@
 #include "ui/CoeffEsposizione.h"
 #include "ui/PeriododiRitorno.h"
 #include "ui/casipart.h"
+#include "ui/lists.h"
 #include "ui/maker.h"
 #include "ui/result_display.h"
+#include "ui/sketch_setup.h"
 #include "ui/sketches/sketches.h"
-#include "ui/wheel.h"
 #include "ui_Form1.h"
 
 namespace coltre {
@@ -24,12 +25,6 @@ namespace {
 
 QString qt(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
-void fill(QComboBox& list, std::span<const std::string_view> items, int selected) {
-    for (const std::string_view item : items)
-        list.addItem(qt(item));
-    list.setCurrentIndex(selected);
 }
 
 /// Brings a window that is open to the front.
@@ -90,12 +85,7 @@ void Form1::set_up_sketches() {
          "copertura-piu-falde"},
         {RoofFamily::cylindrical, m_ui->Lcopcil, m_ui->hcopcil, m_ui->sketch_4, "copertura-cilindrica"}};
     for (const RoofTab& tab : m_tabs) {
-        tab.sketch->set_suggested_name(tab.picture);
-        tab.sketch->tell_error = [this](const QString& text) {
-            m_dialogs.show({Icon::error, std::string(program_title), text.toStdString()});
-        };
-        for (ResultLabel* label : tab.sketch->findChildren<ResultLabel*>())
-            tab.sketch->host(label, label->objectName());
+        set_up_sketch(*tab.sketch, tab.picture, m_dialogs);
         for (NumberField* field : {tab.first, tab.second})
             if (field != nullptr)
                 connect(field, &QLineEdit::textChanged, this, [this, &tab] { draw(tab, nullptr); });
@@ -163,7 +153,7 @@ SiteFields Form1::site_fields() const {
 }
 
 void Form1::show_ground_load() {
-    m_ui->caricosuolo->show_number(m_program.cells.qsk, load_decimals);
+    m_ui->caricosuolo->show_number(m_program.cells.qsk, quantities::area_load.decimals);
 }
 
 void Form1::keyPressEvent(QKeyEvent* event) {
@@ -257,7 +247,7 @@ void Form1::calculate_clicked() {
         const RoofTab& tab = m_tabs[static_cast<std::size_t>(entries.SSTab1)];
         for (const DisplayRow& row : display_rows(tab.family)) {
             auto* const label = tab.sketch->findChild<ResultLabel*>(row.label, Qt::FindDirectChildrenOnly);
-            label->show_number(m_program.cells.*row.cell.cell, row.decimals);
+            label->show_number(m_program.cells.*row.cell.cell, row.cell.quantity.decimals);
         }
         draw(tab, &m_program.cells);
     }

@@ -7,8 +7,10 @@
 #include "platform/surroundings.h"
 #include "report/unit_systems.h"
 #include "text/number_reading.h"
+#include "ui/lists.h"
+#include "ui/result_display.h"
+#include "ui/sketch_setup.h"
 #include "ui/sketches/sketches.h"
-#include "ui/wheel.h"
 #include "ui_casipart.h"
 
 namespace coltre {
@@ -40,34 +42,24 @@ casipart::casipart(Program& program, UserDialogs& dialogs, std::function<SiteFie
     m_ui->Label78->setSizePolicy(note_policy);
     m_ui->Label78->setMinimumHeight(3 * fontMetrics().lineSpacing());
 
-    for (const std::string_view item : unit_items) {
-        m_ui->udmcombo->addItem(QString::fromUtf8(item.data(), static_cast<qsizetype>(item.size())));
-    }
-    m_ui->udmcombo->setCurrentIndex(first_unit_item(program));
+    fill(*m_ui->udmcombo, unit_items, first_unit_item(program));
 
-    for (SketchWidget* const sketch : {m_ui->sketch_5, m_ui->sketch_6, m_ui->sketch_7}) {
-        sketch->tell_error = [this](const QString& text) {
-            m_dialogs.show({Icon::error, std::string(program_title), text.toStdString()});
-        };
-        for (ResultLabel* const label : sketch->findChildren<ResultLabel*>())
-            sketch->host(label, label->objectName());
-    }
-    m_ui->sketch_5->set_suggested_name("discontinuita");
-    m_ui->sketch_6->set_suggested_name("parete");
-    m_ui->sketch_7->set_suggested_name("ostacolo");
+    set_up_sketch(*m_ui->sketch_5, "discontinuita", m_dialogs);
+    set_up_sketch(*m_ui->sketch_6, "parete", m_dialogs);
+    set_up_sketch(*m_ui->sketch_7, "ostacolo", m_dialogs);
 
     for (NumberField* const field : findChildren<NumberField*>()) {
         connect(field, &QLineEdit::textChanged, this, [this] { draw(fields().cartelle, false); });
     }
-    connect(m_ui->cartelle, &QTabWidget::currentChanged, this, &casipart::on_page);
-    connect(m_ui->Check1Box, &QCheckBox::toggled, this, &casipart::on_report_switch);
-    connect(m_ui->Calcola2, &QPushButton::clicked, this, &casipart::on_calculate);
+    connect(m_ui->cartelle, &QTabWidget::currentChanged, this, &casipart::page_chosen);
+    connect(m_ui->Check1Box, &QCheckBox::toggled, this, &casipart::report_switched);
+    connect(m_ui->Calcola2, &QPushButton::clicked, this, &casipart::calculate_clicked);
     connect(m_ui->Chiudi2, &QPushButton::clicked, this, &casipart::close);
-    on_page();
+    page_chosen();
     for (const SpecialCase page : {SpecialCase::level_change, SpecialCase::wall, SpecialCase::snow_guard}) {
         draw(page, false);
     }
-    on_report_switch();
+    report_switched();
     m_ui->h2input->setFocus();
 }
 
@@ -86,7 +78,7 @@ void casipart::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void casipart::on_page() {
+void casipart::page_chosen() {
     const auto page = static_cast<SpecialCase>(m_ui->cartelle->currentIndex());
     m_ui->Label78->setVisible(page != SpecialCase::wall);
     if (page == SpecialCase::level_change) {
@@ -103,7 +95,7 @@ void casipart::on_page() {
     }
 }
 
-void casipart::on_report_switch() {
+void casipart::report_switched() {
     m_ui->udmcombo->setEnabled(m_ui->Check1Box->isChecked());
 }
 
@@ -144,34 +136,16 @@ void casipart::draw(SpecialCase page, bool with_results) {
     sketch.set_drawing(std::move(drawing));
 }
 
-void casipart::on_calculate() {
+void casipart::calculate_clicked() {
     // The labels are refreshed as soon as the case is complete, before the message about the report.
     Calcola2(fields(), m_program, m_dialogs, *this);
 }
 
 void casipart::on_special_case(const SpecialCaseEntries& entries) {
-    struct Row {
-        SpecialCase page;
-        ResultLabel* label;
-        double ProgramCells::*cell;
-        int decimals;
-    };
-    const Row rows[] = {
-        {SpecialCase::level_change, m_ui->carico_14, &ProgramCells::level_qs2, 4},
-        {SpecialCase::level_change, m_ui->carico_15, &ProgramCells::level_qs1, 4},
-        {SpecialCase::level_change, m_ui->lsoutput, &ProgramCells::level_ls, 2},
-        {SpecialCase::wall, m_ui->carico_16, &ProgramCells::wall_qs1, 4},
-        {SpecialCase::wall, m_ui->carico_17, &ProgramCells::wall_qs2, 4},
-        {SpecialCase::wall, m_ui->ls2outputA, &ProgramCells::wall_ls, 2},
-        {SpecialCase::wall, m_ui->ls2outputB, &ProgramCells::wall_ls, 2},
-        {SpecialCase::snow_guard, m_ui->Fsoutput, &ProgramCells::Fs, 3},
-    };
     m_show_ground_load();
-    for (const Row& row : rows) {
-        if (row.page == entries.special_case) {
-            row.label->show_number(m_program.cells.*row.cell, row.decimals);
-        }
-    }
+    for (const DisplayRow& row : display_rows(entries.special_case))
+        findChild<ResultLabel*>(row.label)->show_number(m_program.cells.*row.cell.cell,
+                                                        row.cell.quantity.decimals);
     draw(entries.special_case, true);
 }
 

@@ -39,9 +39,9 @@ class casipart : public QWidget, private CalculationObserver {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    void on_page();
-    void on_report_switch();
-    void on_calculate();
+    void page_chosen();
+    void report_switched();
+    void calculate_clicked();
 
     [[nodiscard]] SpecialCasesFields fields() const;
     void draw(SpecialCase page, bool with_results);

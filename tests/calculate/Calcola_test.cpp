@@ -102,7 +102,7 @@ TEST_F(MainCalculation, ReportThatCannotBeWrittenIsToldAndTheOldOneStays) {
         limit.rlim_cur = name == std::string("piena") ? 100 : unlimited;  // stands in for a full disk
         ::setrlimit(RLIMIT_FSIZE, &limit);
         const ClickOutcome outcome = click();
-        EXPECT_FALSE(outcome.report_written);
+        EXPECT_EQ(outcome.report, "");
         ASSERT_EQ(fake.shown.size(), 1U) << "no confirmation";
         EXPECT_EQ(fake.shown[0].icon, Icon::error);
         EXPECT_EQ(fake.shown[0].text, outcome.file_failure);

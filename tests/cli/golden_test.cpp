@@ -15,6 +15,10 @@
 
 // Whole calculations against the files in tests/data/golden: requests.jsonl, the results that they must give
 // in expected.jsonl, and the reports that they must leave. All of them were computed apart from this program.
+//
+// A case is one line in each of the two files, with the same "id", in the same order, and reports/<id>.txt if
+// it writes a report. "@DIR@" stands for a directory of its own. "*" stands for the text of a message whose
+// wording is the program's own.
 namespace coltre::cli {
 namespace {
 

@@ -23,9 +23,8 @@ class CheckDirectories : public testing::Test {
     std::string fault(const std::string& command_line, const std::string& process_command_line = "",
                       const std::string& own_directory = "") {
         FakeDoors fake;
-        Doors doors = fake.doors();
         const bool goes_on =
-            check_directories(command_line, process_command_line, own_directory, directories, doors);
+            check_directories(command_line, process_command_line, own_directory, directories, fake.doors());
         EXPECT_EQ(fake.ended, goes_on ? 0 : 1);
         EXPECT_EQ(fake.shown.size(), goes_on ? 0U : 1U);
         if (fake.shown.empty()) return no_fault;

@@ -14,8 +14,7 @@ namespace {
 class StartOfProgram : public testing::Test {
   protected:
     StartUp start(const std::string& command_line, const std::string& own_directory) {
-        Doors doors = fake.doors();
-        return start_up(command_line, own_directory, program, doors);
+        return start_up(command_line, own_directory, program, fake.doors());
     }
 
     SuiteTree suite;

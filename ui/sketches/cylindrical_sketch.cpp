@@ -2,8 +2,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "ui/sketches/case_sketches.h"
 #include "ui/sketches/drawing_parts.h"
-#include "ui/sketches/families.h"
 
 namespace coltre {
 
@@ -13,7 +13,6 @@ constexpr double span = 2500;  // of the arc
 constexpr double max_rise = span / 2;
 constexpr double base = 1180;  // of the load diagrams
 constexpr double room = 620;   // of their ordinates
-constexpr double slab_thickness = 110;
 
 /// The arc of one arrangement: the same roof stands in the sketch twice.
 struct Vault {
@@ -124,12 +123,12 @@ Drawing cylindrical_sketch(const Roof& roof, const ProgramCells* loads) {
     const double eaves_row = springing + 600;
     add_slot(drawing, "carico_11", {uniform.centre(), top_row}, Align::centre, "qs =", "kN/m²");
     add_slot(drawing, "carico_12", {7420 - slot_width("", "kN/m²"), top_row}, Align::right, "", "kN/m²");
-    add_slot(drawing, "carico_13", {7460, top_row}, Align::right, "", "kN/m²");
+    add_slot(drawing, "carico_13", {page_right, top_row}, Align::right, "", "kN/m²");
     add_slot(drawing, "L1output", {uniform.centre(), zone_row}, Align::centre, "L1 =", "m");
     add_slot(drawing, "L2output", {asymmetric.left, zone_row}, Align::left, "L2 =", "");
     add_slot(drawing, "spor_8", {uniform.left - 400, eaves_row}, Align::left, "qe =", "kN/m");
     add_slot(drawing, "spor_9", {asymmetric.left + 900, eaves_row}, Align::right, "", "kN/m");
-    add_slot(drawing, "spor_10", {7460, eaves_row}, Align::right, "", "kN/m");
+    add_slot(drawing, "spor_10", {page_right, eaves_row}, Align::right, "", "kN/m");
     add_caption(drawing, "0.5µ3 a sinistra, µ3 a destra", {asymmetric.centre(), bottom_row}, 3400);
     return drawing;
 }

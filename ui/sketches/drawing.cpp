@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "text/characters.h"
+
 namespace coltre {
 
 const LabelSlot* Drawing::find_slot(const std::string& name) const {
@@ -11,8 +13,7 @@ const LabelSlot* Drawing::find_slot(const std::string& name) const {
 
 double text_width(const std::string& text) {
     constexpr double letter_width = 0.6 * text_height;
-    const auto is_first_byte = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
-    return letter_width * static_cast<double>(std::ranges::count_if(text, is_first_byte));
+    return letter_width * static_cast<double>(character_count(text));
 }
 
 }  // namespace coltre

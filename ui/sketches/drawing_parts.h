@@ -9,6 +9,10 @@
 // The parts that the sketches are put together from.
 namespace coltre {
 
+// Twips of the page.
+inline constexpr double page_middle = 3750;
+inline constexpr double page_right = 7460;  ///< where labels at the right end
+inline constexpr double slab_thickness = 110;
 inline constexpr double slot_height = 320;    ///< of every label slot
 inline constexpr double number_width = 1080;  ///< room of the number in a label slot
 

@@ -2,15 +2,14 @@
 #include <cmath>
 
 #include "engine/special_loads.h"
+#include "ui/sketches/case_sketches.h"
 #include "ui/sketches/drawing_parts.h"
-#include "ui/sketches/families.h"
 #include "ui/sketches/sketches.h"
 
 namespace coltre {
 
 namespace {
 
-constexpr double slab_thickness = 110;
 constexpr double step = 2580;  // x of the step
 constexpr double room = 1250;  // of the load ordinates
 
@@ -117,13 +116,13 @@ Drawing level_change_sketch(const SpecialCaseEntries& entries, const ProgramCell
                  {drift_end, drift_row + 90});
     }
     if (drawing.neutral) {
-        add_caption(drawing, "", {3750, level + 1050});
+        add_caption(drawing, "", {page_middle, level + 1050});
     } else {
         add_dimensions(drawing, entries, shape);
     }
 
     add_slot(drawing, "carico_14", {step + 60, level - room - 260}, Align::left, "qs2 =", "kN/m²");
-    add_slot(drawing, "carico_15", {7460, top1 - 260}, Align::right, "qs1 =", "kN/m²");
+    add_slot(drawing, "carico_15", {page_right, top1 - 260}, Align::right, "qs1 =", "kN/m²");
     add_slot(drawing, "lsoutput", {(step + drift_end) / 2, drift_row + 230}, Align::centre, "ls =", "m");
     drawing.label_slots.back().visible = !cut;
     return drawing;

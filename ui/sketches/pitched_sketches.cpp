@@ -3,14 +3,13 @@
 #include <cmath>
 
 #include "engine/Calcolo_Mu.h"
+#include "ui/sketches/case_sketches.h"
 #include "ui/sketches/drawing_parts.h"
-#include "ui/sketches/families.h"
 
 namespace coltre {
 
 namespace {
 
-constexpr double slab_thickness = 110;
 constexpr double wall_thickness = 120;
 constexpr double usual_pitch = 20;  // of a neutral sketch
 constexpr double top_row = 240;     // halfway up the labels of the load diagrams
@@ -126,7 +125,7 @@ Drawing one_pitch_sketch(const Roof& roof, const ProgramCells* loads) {
              Align::right);
     add_slot(drawing, "carico_1", {centre, top_row}, Align::centre, "qs =", "kN/m²");
     add_slot(drawing, "spor_1", {eaves.x - 150, eaves.y + 240}, Align::right, "qe =", "kN/m");
-    add_caption(drawing, "qs sulla proiezione orizzontale, qe in gronda", {3750, bottom_row});
+    add_caption(drawing, "qs sulla proiezione orizzontale, qe in gronda", {page_middle, bottom_row});
     return drawing;
 }
 
@@ -184,7 +183,7 @@ Drawing two_pitches_sketch(const Roof& roof, const ProgramCells* loads) {
     add_text(drawing, Role::dimension, pitch_text(drawing, "α2", roof.alfa2),
              {first_ridge.x + 60, first_ridge.y}, Align::left, half_column);
     add_caption(drawing, "qs in kN/m² sulla proiezione orizzontale, qe in kN/m in gronda",
-                {3750, bottom_row});
+                {page_middle, bottom_row});
     return drawing;
 }
 
@@ -204,7 +203,7 @@ Drawing several_pitches_sketch(const Roof& roof, const ProgramCells* loads) {
 
     // Side 1 falls to the valley from the left, side 2 from the right; beyond their ridges half as much
     // roof again, of the same pitch, goes on.
-    const Point valley{3750, 2600 + 950 * std::max(side1.fall, side2.fall) / max_fall};
+    const Point valley{page_middle, 2600 + 950 * std::max(side1.fall, side2.fall) / max_fall};
     const Point ridge1{valley.x - side1.run, valley.y - side1.fall};
     const Point ridge2{valley.x + side2.run, valley.y - side2.fall};
     const Point end1{ridge1.x - side1.run / 2, ridge1.y + side1.fall / 2};
@@ -239,7 +238,7 @@ Drawing several_pitches_sketch(const Roof& roof, const ProgramCells* loads) {
     add_slot(drawing, "carico_8", {0, top_row}, Align::left, "qs =", "kN/m²");
     add_slot(drawing, "carico_9", {valley.x, top_row}, Align::centre, "qs =", "kN/m²");
     add_slot(drawing, "carico_10", {7500, top_row}, Align::right, "qs =", "kN/m²");
-    if (drawing.neutral) add_caption(drawing, "", {3750, bottom_row});
+    if (drawing.neutral) add_caption(drawing, "", {page_middle, bottom_row});
     return drawing;
 }
 

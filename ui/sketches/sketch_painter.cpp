@@ -1,7 +1,6 @@
 #include "ui/sketches/sketch_painter.h"
 
 #include <QFontMetricsF>
-#include <QLineF>
 #include <QList>
 #include <QPolygonF>
 #include <algorithm>

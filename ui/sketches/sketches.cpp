@@ -2,8 +2,8 @@
 
 #include "engine/roof_loads.h"
 #include "engine/special_loads.h"
+#include "ui/sketches/case_sketches.h"
 #include "ui/sketches/drawing_parts.h"
-#include "ui/sketches/families.h"
 
 namespace coltre {
 

@@ -1,7 +1,7 @@
 #include <cmath>
 
+#include "ui/sketches/case_sketches.h"
 #include "ui/sketches/drawing_parts.h"
-#include "ui/sketches/families.h"
 
 namespace coltre {
 
@@ -13,7 +13,6 @@ Drawing snow_guard_sketch(const SpecialCaseEntries& entries) {
     constexpr double base = 1180;  // of the load diagram
     constexpr double max_rise = 1850;
     constexpr double centre = 4900;
-    constexpr double slab_thickness = 110;
     const double cosine = std::cos(radians(pitch));
     const double sine = std::sin(radians(pitch));
     const double run = run_of_slope(pitch, 4200, max_rise);
@@ -54,7 +53,7 @@ Drawing snow_guard_sketch(const SpecialCaseEntries& entries) {
         add_text(drawing, Role::dimension, quantity(drawing, "b", entries.b, " m"), {centre, width_row + 180},
                  Align::centre);
     }
-    if (drawing.neutral) add_caption(drawing, "", {3750, 4100});
+    if (drawing.neutral) add_caption(drawing, "", {page_middle, 4100});
     if (height > 0) {
         add_text(drawing, Role::dimension, quantity(drawing, "qs", entries.qs, " kN/m²"), {centre, 330},
                  Align::centre);

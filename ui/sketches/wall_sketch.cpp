@@ -1,8 +1,8 @@
 #include <algorithm>
 
 #include "engine/special_loads.h"
+#include "ui/sketches/case_sketches.h"
 #include "ui/sketches/drawing_parts.h"
-#include "ui/sketches/families.h"
 
 namespace coltre {
 
@@ -18,8 +18,7 @@ Drawing wall_sketch(const SpecialCaseEntries& entries, const ProgramCells* loads
     constexpr double drift_end = wall_face + drift;
     constexpr double roof_end = 6500;
     constexpr double level = 2650;  // upper side of the roof
-    constexpr double slab_thickness = 110;
-    constexpr double room = 1050;  // of the load ordinates
+    constexpr double room = 1050;   // of the load ordinates
     const Fitted h = fit(height * drift / ls, 100, 1900);
 
     const ProgramCells results =
@@ -71,10 +70,10 @@ Drawing wall_sketch(const SpecialCaseEntries& entries, const ProgramCells* loads
     constexpr double load_row = level - room - 260;
     constexpr double middle = (wall_face + drift_end) / 2;
     add_slot(drawing, "carico_17", {wall_face + 60, load_row}, Align::left, "qs2 =", "kN/m²");
-    add_slot(drawing, "carico_16", {7460, top1 - 260}, Align::right, "qs1 =", "kN/m²");
+    add_slot(drawing, "carico_16", {page_right, top1 - 260}, Align::right, "qs1 =", "kN/m²");
     add_slot(drawing, "ls2outputA", {middle, section_row + 230}, Align::centre, "ls =", "m");
     add_slot(drawing, "ls2outputB", {middle, plan_row + 230}, Align::centre, "ls =", "m");
-    if (drawing.neutral) add_caption(drawing, "", {3750, 300});
+    if (drawing.neutral) add_caption(drawing, "", {page_middle, 300});
     add_text(drawing, Role::caption, "sezione", {100, level + 250}, Align::left);
     add_text(drawing, Role::caption, "pianta", {100, (plan_top + plan_bottom) / 2}, Align::left);
     return drawing;

@@ -5,10 +5,11 @@
 #include <cmath>
 #include <limits>
 
-using namespace coltre;
+namespace coltre {
+namespace {
 
 // A U of 100 x 100 with a notch of 20 x 60 from above: a diagonal may not cross the notch.
-TEST(HatchLines, leave_a_notch_free) {
+TEST(HatchLines, LeaveANotchFree) {
     const std::vector<Point> u{{0, 0}, {40, 0}, {40, 60}, {60, 60}, {60, 0}, {100, 0}, {100, 100}, {0, 100}};
     const auto pieces = hatch_lines(u, 10);
     ASSERT_FALSE(pieces.empty());
@@ -21,7 +22,7 @@ TEST(HatchLines, leave_a_notch_free) {
 
 // By hand: a ridge of 45 degrees both sides and a slab of 10: the lower corner lies 10 / cos 45 = 14.142
 // below the ridge, the ends 7.071 inwards and down.
-TEST(SlabSection, has_the_same_thickness_on_both_sides_and_no_spike) {
+TEST(SlabSection, HasTheSameThicknessOnBothSidesAndNoSpike) {
     const std::vector<Point> slab = slab_section({{0, 100}, {100, 0}, {200, 100}}, 10);
     ASSERT_EQ(slab.size(), 6U);
     EXPECT_NEAR(slab[4].x, 100, 1e-9);
@@ -32,7 +33,7 @@ TEST(SlabSection, has_the_same_thickness_on_both_sides_and_no_spike) {
     EXPECT_LT(slab_section({{-1, 1000}, {0, 0}, {1, 1000}}, 10)[4].y, 40);
 }
 
-TEST(Ordinate, is_finite_for_every_load) {
+TEST(Ordinate, IsFiniteForEveryLoad) {
     constexpr double nan = std::numeric_limits<double>::quiet_NaN(), inf = HUGE_VAL;
     EXPECT_DOUBLE_EQ(ordinate(1.5, 3, 600), 300);
     EXPECT_DOUBLE_EQ(ordinate(-1, 3, 600), 0);
@@ -42,7 +43,7 @@ TEST(Ordinate, is_finite_for_every_load) {
     }
 }
 
-TEST(Quantity, is_written_with_five_digits_and_the_decimal_point) {
+TEST(Quantity, IsWrittenWithFiveDigitsAndTheDecimalPoint) {
     Drawing drawing;
     EXPECT_EQ(quantity(drawing, "b1", 3.5, " m"), "b1 = 3.5 m");
     EXPECT_EQ(pitch_text(drawing, "α", 33.333333), "α = 33.33°");
@@ -50,7 +51,7 @@ TEST(Quantity, is_written_with_five_digits_and_the_decimal_point) {
     EXPECT_EQ(quantity(drawing, "b1", 3.5, " m"), "b1");
 }
 
-TEST(AddLoad, spaces_its_arrows_evenly_and_ends_them_on_the_base) {
+TEST(AddLoad, SpacesItsArrowsEvenlyAndEndsThemOnTheBase) {
     Drawing drawing;
     add_load(drawing, {{0, 0}, {1000, 0}, {2000, 500}}, 500);
     ASSERT_GT(drawing.arrows.size(), 3U);
@@ -65,3 +66,6 @@ TEST(AddLoad, spaces_its_arrows_evenly_and_ends_them_on_the_base) {
     add_load(without_load, {{0, 500}, {2000, 500}}, 500);
     EXPECT_TRUE(without_load.shapes.empty());
 }
+
+}  // namespace
+}  // namespace coltre

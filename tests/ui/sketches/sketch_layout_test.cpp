@@ -7,8 +7,7 @@
 
 #include "ui/sketches/sketches.h"
 
-using namespace coltre;
-
+namespace coltre {
 namespace {
 
 /// Whatever the entries and the results: finite coordinates, all on the page, no label or text over another,
@@ -60,7 +59,7 @@ void check(const Roof& roof, const SpecialCaseEntries& entries, double load) {
 
 }  // namespace
 
-TEST(SketchLayout, every_family_has_its_labels_and_no_other) {
+TEST(SketchLayout, EveryFamilyHasItsLabelsAndNoOther) {
     std::string names;
     const auto add = [&names](const Drawing& drawing) {
         for (const LabelSlot& slot : drawing.label_slots)
@@ -78,7 +77,7 @@ TEST(SketchLayout, every_family_has_its_labels_and_no_other) {
               "Fsoutput | ");
 }
 
-TEST(SketchLayout, holds_for_all_pitches_and_vaults) {
+TEST(SketchLayout, HoldsForAllPitchesAndVaults) {
     const std::vector<double> pitches{0, 5, 15, 30, 33.333333, 45, 60, 75, 89, 89.9999, 90, -5};
     for (const double alfa1 : pitches) {
         const SpecialCaseEntries guard{SpecialCase::snow_guard, 0, 0, 0, alfa1, 1.28, 5};
@@ -91,7 +90,7 @@ TEST(SketchLayout, holds_for_all_pitches_and_vaults) {
     }
 }
 
-TEST(SketchLayout, holds_for_all_steps_and_walls) {
+TEST(SketchLayout, HoldsForAllStepsAndWalls) {
     const std::vector<double> lengths{0.01, 0.5, 5, 5.01, 30, 5000, 99999};
     for (const double h : lengths) {
         ASSERT_NO_FATAL_FAILURE(check({}, {SpecialCase::wall, 0, 0, h, 0, 0, 0}, 1.2));
@@ -103,7 +102,7 @@ TEST(SketchLayout, holds_for_all_steps_and_walls) {
     }
 }
 
-TEST(SketchLayout, holds_for_whatever_is_typed) {
+TEST(SketchLayout, HoldsForWhateverIsTyped) {
     constexpr double inf = std::numeric_limits<double>::infinity();
     const std::vector<double> hostile{0,     -0.0,   90,     -1, 1e300, -1e300, 1e-300,
                                       1e308, 5e-324, 0.0099, 60, inf,   -inf,   std::nan("")};
@@ -118,3 +117,4 @@ TEST(SketchLayout, holds_for_whatever_is_typed) {
             check({static_cast<RoofFamily>(i % 4), any(), any(), any(), any()},
                   {static_cast<SpecialCase>(i % 3), any(), any(), any(), any(), any(), any()}, any()));
 }
+}  // namespace coltre

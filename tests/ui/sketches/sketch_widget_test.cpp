@@ -9,8 +9,7 @@
 
 #include "ui/sketches/sketches.h"
 
-using namespace coltre;
-
+namespace coltre {
 namespace {
 
 Drawing level_change(double b2) {
@@ -43,7 +42,7 @@ class SketchWidgetTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(SketchWidgetTest, labels_stay_within_their_slots_at_every_size) {
+TEST_F(SketchWidgetTest, LabelsStayWithinTheirSlotsAtEverySize) {
     for (const QSize size : {QSize(420, 260), QSize(900, 500), QSize(500, 900), QSize(1400, 300)}) {
         sketch.resize(size);
         QApplication::processEvents();
@@ -62,7 +61,7 @@ TEST_F(SketchWidgetTest, labels_stay_within_their_slots_at_every_size) {
     EXPECT_TRUE(sketch.rect().contains(qs2->geometry()));
 }
 
-TEST_F(SketchWidgetTest, label_of_a_hidden_slot_is_hidden_and_in_no_picture) {
+TEST_F(SketchWidgetTest, LabelOfAHiddenSlotIsHiddenAndInNoPicture) {
     ls->setText(" 5.4321");
     sketch.set_drawing(level_change(5));
     EXPECT_TRUE(ls->isHidden());
@@ -75,7 +74,7 @@ TEST_F(SketchWidgetTest, label_of_a_hidden_slot_is_hidden_and_in_no_picture) {
     EXPECT_FALSE(ls->isHidden());
 }
 
-TEST_F(SketchWidgetTest, the_menu_saves_the_picture_with_the_numbers_and_tells_why_not) {
+TEST_F(SketchWidgetTest, TheMenuSavesThePictureWithTheNumbersAndTellsWhyNot) {
     sketch.set_suggested_name("discontinuita");
     QString suggestion;
     sketch.ask_file = [&](const QString&, const QString& suggested, const QString&) {
@@ -102,7 +101,7 @@ TEST_F(SketchWidgetTest, the_menu_saves_the_picture_with_the_numbers_and_tells_w
 }
 
 // A picture in a report is dark on white, whatever the screen shows.
-TEST_F(SketchWidgetTest, pictures_do_not_follow_a_dark_palette) {
+TEST_F(SketchWidgetTest, PicturesDoNotFollowADarkPalette) {
     const QImage light = sketch_image(sketch.drawing(), {}, sketch.font());
     QPalette dark(QColor(40, 40, 40));
     dark.setColor(QPalette::Base, Qt::black);
@@ -111,3 +110,4 @@ TEST_F(SketchWidgetTest, pictures_do_not_follow_a_dark_palette) {
     EXPECT_EQ(sketch.grab().toImage().pixelColor(2, 2), QColor(Qt::black));
     EXPECT_EQ(sketch_image(sketch.drawing(), {}, sketch.font()), light);
 }
+}  // namespace coltre

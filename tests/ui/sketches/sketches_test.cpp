@@ -9,8 +9,7 @@
 #include <tuple>
 
 // That the sketches show the roof as it is: slopes, proportions, ordinates.
-using namespace coltre;
-
+namespace coltre {
 namespace {
 
 std::vector<Shape> shapes_of(const Drawing& drawing, Role role) {
@@ -42,7 +41,7 @@ Drawing level_change(double b1, double b2, double h, double alfa, const ProgramC
 
 }  // namespace
 
-TEST(PitchedSketch, slopes_are_true) {
+TEST(PitchedSketch, SlopesAreTrue) {
     struct Row {
         RoofFamily family;
         double alfa1, alfa2;
@@ -60,7 +59,7 @@ TEST(PitchedSketch, slopes_are_true) {
     }
 }
 
-TEST(TwoPitchesSketch, shows_the_three_arrangements_in_one_scale) {
+TEST(TwoPitchesSketch, ShowsTheThreeArrangementsInOneScale) {
     ProgramCells loads;
     std::tie(loads.qs_2a, loads.qs_2b, loads.qs_2c, loads.qs_2d) = std::tuple(1.2, 0.6, 0.8, 0.4);
     const Drawing drawing = sketch_roof({RoofFamily::two_pitches, 15, 40, 0, 0}, &loads);
@@ -75,7 +74,7 @@ TEST(TwoPitchesSketch, shows_the_three_arrangements_in_one_scale) {
     }
 }
 
-TEST(SeveralPitchesSketch, load_grows_in_a_straight_line_into_the_valley) {
+TEST(SeveralPitchesSketch, LoadGrowsInAStraightLineIntoTheValley) {
     ProgramCells loads;
     std::tie(loads.qs_3a, loads.qs_3b, loads.qs_3c) = std::tuple(1.2, 0.8, 2.4);
     const Drawing drawing = sketch_roof({RoofFamily::several_pitches, 20, 40, 0, 0}, &loads);
@@ -89,7 +88,7 @@ TEST(SeveralPitchesSketch, load_grows_in_a_straight_line_into_the_valley) {
 }
 
 // L1 = 2 R cos 30: of a half circle 0.866 L; of L = 10, H = 2 wider than the roof and drawn as wide.
-TEST(CylindricalSketch, has_the_proportions_of_the_roof_and_its_loaded_zone) {
+TEST(CylindricalSketch, HasTheProportionsOfTheRoofAndItsLoadedZone) {
     for (const auto& [H, width] : {std::pair{5.0, 0.8660254}, std::pair{2.0, 1.0}}) {
         const Drawing drawing = sketch_roof({RoofFamily::cylindrical, 0, 0, 10, H}, nullptr);
         std::vector<Point> arc = shapes_of(drawing, Role::roof).front().points;
@@ -110,7 +109,7 @@ TEST(CylindricalSketch, has_the_proportions_of_the_roof_and_its_loaded_zone) {
 }
 
 // Limits of the cut: h = 2 gives ls = 5, h = 4 gives ls = 8; equality is a cut.
-TEST(LevelChangeSketch, drift_is_whole_or_cut) {
+TEST(LevelChangeSketch, DriftIsWholeOrCut) {
     for (const auto& [h, b2, cut] :
          {std::tuple(2., 5., true), std::tuple(2., 5.01, false), std::tuple(4., 8., true),
           std::tuple(4., 8.01, false), std::tuple(100., 15., true), std::tuple(100., 15.01, false),
@@ -124,7 +123,7 @@ TEST(LevelChangeSketch, drift_is_whole_or_cut) {
     }
 }
 
-TEST(LevelChangeSketch, lengths_have_one_scale_until_one_is_broken) {
+TEST(LevelChangeSketch, LengthsHaveOneScaleUntilOneIsBroken) {
     const Drawing drawing = level_change(4, 9, 3, 20);  // ls = 6
     const std::vector<Shape> roofs = shapes_of(drawing, Role::roof);
     const std::vector<Point> lower = roofs[0].points, upper = roofs[1].points;
@@ -141,7 +140,7 @@ TEST(LevelChangeSketch, lengths_have_one_scale_until_one_is_broken) {
     EXPECT_TRUE(has_text(wide, "b2 = 6000 m"));
 }
 
-TEST(DriftSketches, ordinates_follow_the_results) {
+TEST(DriftSketches, OrdinatesFollowTheResults) {
     ProgramCells loads;
     loads.level_qs2 = loads.wall_qs2 = 3;
     loads.level_qs1 = loads.wall_qs1 = 1.2;
@@ -153,7 +152,7 @@ TEST(DriftSketches, ordinates_follow_the_results) {
     }
 }
 
-TEST(SnowGuardSketch, force_acts_down_the_slope_on_the_obstacle) {
+TEST(SnowGuardSketch, ForceActsDownTheSlopeOnTheObstacle) {
     const Drawing drawing = sketch_special_case({SpecialCase::snow_guard, 0, 0, 0, 25, 1.28, 5}, nullptr);
     const auto force = std::ranges::find(drawing.arrows, Role::point_load, &Arrow::role);
     ASSERT_NE(force, drawing.arrows.end());
@@ -163,7 +162,7 @@ TEST(SnowGuardSketch, force_acts_down_the_slope_on_the_obstacle) {
     EXPECT_TRUE(has_text(drawing, "qs = 1.28 kN/m²"));
 }
 
-TEST(NeutralSketch, shows_no_value_that_it_cannot_draw) {
+TEST(NeutralSketch, ShowsNoValueThatItCannotDraw) {
     for (const Drawing& drawing :
          {sketch_roof({RoofFamily::one_pitch, 90, 0, 0, 0}, nullptr),
           sketch_roof({RoofFamily::two_pitches, 20, -1, 0, 0}, nullptr),
@@ -179,3 +178,4 @@ TEST(NeutralSketch, shows_no_value_that_it_cannot_draw) {
     EXPECT_FALSE(sketch_roof({RoofFamily::cylindrical, 0, 0, 4, 2}, nullptr).neutral) << "a half circle";
     EXPECT_FALSE(sketch_roof({RoofFamily::one_pitch, 0, 0, 0, 0}, nullptr).neutral);
 }
+}  // namespace coltre

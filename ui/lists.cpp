@@ -1,6 +1,5 @@
-#include "ui/wheel.h"
+#include "ui/lists.h"
 
-#include <QComboBox>
 #include <QEvent>
 
 namespace coltre {
@@ -18,6 +17,12 @@ class WheelFilter : public QObject {
 };
 
 }  // namespace
+
+void fill(QComboBox& list, std::span<const std::string_view> items, int selected) {
+    for (const std::string_view item : items)
+        list.addItem(QString::fromUtf8(item.data(), static_cast<qsizetype>(item.size())));
+    list.setCurrentIndex(selected);
+}
 
 void leave_lists_to_clicks_and_keys(QWidget& window) {
     auto* const filter = new WheelFilter(&window);

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <optional>
+
+#include "cli/request.h"
+#include "cli/result.h"
+#include "cli/site_memory.h"
+#include "platform/doors.h"
+#include "startup/program.h"
+
+namespace coltre::cli {
+
+/// The site of a request that names one, with its zone in the zone cell: province, then municipality, chosen
+/// as the window does. Names need not be spelled as in the table: a single name that differs in case,
+/// accents, apostrophes and blanks alone is meant.
+/// @param request  with both names
+/// @param memory   sites found by earlier requests of the same batch
+/// @param result   takes the names, and what is wrong where the site cannot be had
+/// @return nothing in that case
+std::optional<Site> site_by_name(const Request& request, Program& program, Doors doors, SiteMemory& memory,
+                                 Result& result);
+
+}  // namespace coltre::cli
