@@ -45,9 +45,11 @@ std::string to_table(const Result& result) {
     }
     if (result.altitude) append_row(table, "Altitudine", shortest_number_text(*result.altitude), "m");
     if (result.qsk)
-        append_row(table, "qsk", fixed_number_text(*result.qsk, quantities::area_load.decimals), quantities::area_load.unit);
+        append_row(table, "qsk", fixed_number_text(*result.qsk, quantities::area_load.decimals),
+                   quantities::area_load.unit);
     for (const auto& [label, mu] : result.mu)
-        append_row(table, label, fixed_number_text(mu, quantities::coefficient.decimals), quantities::coefficient.unit);
+        append_row(table, label, fixed_number_text(mu, quantities::coefficient.decimals),
+                   quantities::coefficient.unit);
     for (const auto& [cell, value] : result.results)
         append_row(table, cell.name, fixed_number_text(value, cell.quantity.decimals), cell.quantity.unit);
     if (!result.report.empty()) append_text_row(table, "Relazione", result.report);
