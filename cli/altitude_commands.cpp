@@ -1,6 +1,8 @@
 #include "cli/altitude_commands.h"
 
+#include <filesystem>
 #include <string>
+#include <system_error>
 
 #include "cli/command.h"
 #include "platform/files.h"
@@ -39,13 +41,16 @@ void list(std::ostream& out, const std::vector<AltitudeFault>& faults) {
 
 int write_command(std::string_view directory, std::ostream& out, std::ostream& err) {
     const std::string bytes = built_in_altitude_file();
-    const auto earlier = read_file(altitude_file_name(suite_notation(directory)));
+    const std::string name = altitude_file_name(suite_notation(directory));
+    const auto earlier = read_file(name);
+    std::error_code error;
+    const bool existed = std::filesystem::exists(find_path(name), error);  // also one that cannot be read
     const std::string failure = replace_altitude_file(suite_notation(directory), bytes);
     if (!failure.empty()) return complain(err, "scrivere", directory, failure);
     if (earlier == bytes) {
         out << "Il file " << shown_path(directory) << " era già uguale alla tabella del programma.\n";
     } else {
-        out << "Scritto il file " << shown_path(directory) << kept(earlier.has_value()) << ".\n";
+        out << "Scritto il file " << shown_path(directory) << kept(existed) << ".\n";
     }
     return all_well;
 }

@@ -2,18 +2,22 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <memory>
 #include <system_error>
+#include <thread>
+#include <utility>
 #include <vector>
 
 #include "platform/code_page.h"
 #include "text/characters.h"
 
 #ifdef _WIN32
-#include <process.h>
+#include <io.h>
 #else
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -87,27 +91,50 @@ std::string system_reason(int error_number) {
     }
 }
 
-bool is_writable(const fs::path& path, const fs::file_status& status) {
+/// Why a file that is there may not be replaced, as an error number; 0 if it may.
+int refusal(const fs::path& path, const fs::file_status& status) {
+    if (!fs::is_regular_file(status)) return EISDIR;
     // Also where permissions bind nobody: the administrator's account, some network file systems.
-    if ((status.permissions() & fs::perms::owner_write) == fs::perms::none) return false;
+    if ((status.permissions() & fs::perms::owner_write) == fs::perms::none) return EACCES;
+#ifndef _WIN32
+    if (::access(path.c_str(), W_OK) != 0) return errno;
+#endif
+    return 0;
+}
+
+/// Whether a killed program left this temporary file: no program that lives takes a day to write one.
+bool is_left_behind(const fs::path& temporary) {
+    std::error_code error;
+    if (!fs::is_regular_file(fs::symlink_status(temporary, error))) return false;
+    const fs::file_time_type written = fs::last_write_time(temporary, error);
+    return !error && fs::file_time_type::clock::now() - written > std::chrono::hours(24);
+}
+
+/// Waits until the disk has what was written.
+/// @return false, with the reason in errno, if it does not take it
+bool bring_to_disk(std::FILE* file) {
+    if (std::fflush(file) != 0) return false;
 #ifdef _WIN32
-    return true;
+    return ::_commit(::_fileno(file)) == 0;
 #else
-    return ::access(path.c_str(), W_OK) == 0;
+    return ::fsync(::fileno(file)) == 0;
 #endif
 }
 
-/// A name beside the target that no other program, and no other file of this one, uses.
-fs::path temporary_beside(const fs::path& target) {
-    static std::atomic<unsigned> counter{0};
-#ifdef _WIN32
-    const int process = ::_getpid();
-#else
-    const int process = ::getpid();
+#ifndef _WIN32
+int open_directory(const fs::path& directory) {
+    return ::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+}
 #endif
-    fs::path name = target;
-    name += "." + std::to_string(process) + "-" + std::to_string(++counter) + ".tmp";
-    return name;
+
+/// Waits until the disk has the directory's names, where the system can be asked for that.
+void bring_names_to_disk([[maybe_unused]] const fs::path& directory) {
+#ifndef _WIN32
+    const int descriptor = open_directory(directory);
+    if (descriptor < 0) return;
+    static_cast<void>(::fsync(descriptor));
+    ::close(descriptor);
+#endif
 }
 
 }  // namespace
@@ -152,6 +179,8 @@ std::optional<std::string> read_file(std::string_view suite_path) {
     std::string bytes;
     std::error_code error;
     const auto size = fs::file_size(path, error);
+    constexpr std::size_t largest = 64U << 20U;
+    if (!error && size > largest) return std::nullopt;
     std::size_t room = error ? 65536 : static_cast<std::size_t>(size) + 1;
     static_cast<void>(std::setvbuf(file.get(), nullptr, _IONBF, 0));
     for (;;) {
@@ -159,6 +188,7 @@ std::optional<std::string> read_file(std::string_view suite_path) {
         bytes.resize(length + room);
         const std::size_t taken = std::fread(bytes.data() + length, 1, room, file.get());
         bytes.resize(length + taken);
+        if (bytes.size() > largest) return std::nullopt;
         if (taken < room) break;
         room = bytes.size();
     }
@@ -200,13 +230,31 @@ std::string file_line(std::string_view utf8) {
     return line + "\r\n";
 }
 
-bool rename_file(const fs::path& from, const fs::path& to) {
+std::string rename_file(const fs::path& from, const fs::path& to) {
     std::error_code error;
     fs::rename(from, to, error);
-    return !error;
+    return error ? system_reason(error.value()) : std::string();
 }
 
-FileReplacement::FileReplacement(std::string_view suite_path) : m_target(find_path(suite_path)) {
+#ifdef _WIN32
+DirectoryLock::DirectoryLock(const fs::path& /*directory*/) {}
+DirectoryLock::~DirectoryLock() = default;
+#else
+DirectoryLock::DirectoryLock(const fs::path& directory) : m_directory(open_directory(directory)) {
+    using namespace std::chrono_literals;
+    const auto deadline = std::chrono::steady_clock::now() + 5s;
+    while (m_directory >= 0 && ::flock(m_directory, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK &&
+           std::chrono::steady_clock::now() < deadline)
+        std::this_thread::sleep_for(1ms);
+}
+
+DirectoryLock::~DirectoryLock() {
+    if (m_directory >= 0) ::close(m_directory);  // which lets the next one in
+}
+#endif
+
+FileReplacement::FileReplacement(fs::path target, Outlives outlives)
+    : m_target(std::move(target)), m_outlives(outlives) {
     if (const int error_number = open()) fail(error_number);
 }
 
@@ -215,22 +263,27 @@ int FileReplacement::open() {
     std::error_code error;
     const fs::file_status status = fs::status(m_target, error);
     if (fs::exists(status)) {
-        if (!fs::is_regular_file(status)) return EISDIR;
-        if (!is_writable(m_target, status)) return EACCES;
+        if (const int error_number = refusal(m_target, status)) return error_number;
         // A link stays a link: what it points to is replaced.
         const fs::path linked = fs::canonical(m_target, error);
         if (!error) m_target = linked;
     } else if (fs::is_symlink(fs::symlink_status(m_target, error))) {
         return ELOOP;
     }
-    do {  // a name that a crash left behind is passed over
-        const fs::path name = temporary_beside(m_target);
-        errno = 0;
+    for (int number = 1; m_file == nullptr; ++number) {  // passes over what other programs are writing
+        fs::path name = m_target;
+        name += "." + std::to_string(number) + ".tmp";
         m_file = std::fopen(name.string().c_str(), "wbx");
-        if (m_file != nullptr) m_temporary = name;
-    } while (m_file == nullptr && errno == EEXIST);
-    if (m_file == nullptr) return errno;
-    if (fs::exists(status)) fs::permissions(m_temporary, status.permissions(), error);
+        if (m_file != nullptr) {
+            m_temporary = name;
+        } else if (errno != EEXIST) {
+            return errno;
+        } else if (is_left_behind(name)) {
+            fs::remove(name, error);
+        }
+    }
+    // Whoever writes the file is to be able to read it, even if the old one was closed to him.
+    if (fs::exists(status)) fs::permissions(m_temporary, status.permissions() | fs::perms::owner_read, error);
     return 0;
 }
 
@@ -245,10 +298,12 @@ void FileReplacement::write(std::string_view bytes) {
 
 bool FileReplacement::complete() {
     if (m_file == nullptr) return good();
+    int error_number = 0;
+    if (m_outlives == Outlives::power_failure && !bring_to_disk(m_file)) error_number = errno;
     // Writes what is still in the buffer, and hears of the faults that a network file system tells only now.
-    const bool closed = std::fclose(m_file) == 0;
+    if (std::fclose(m_file) != 0 && error_number == 0) error_number = errno;
     m_file = nullptr;
-    if (!closed) fail(errno);
+    if (error_number != 0) fail(error_number);
     return good();
 }
 
@@ -260,6 +315,7 @@ bool FileReplacement::commit() {
         fail(error.value());
     } else {
         m_temporary.clear();
+        if (m_outlives == Outlives::power_failure) bring_names_to_disk(m_target.parent_path());
     }
     return good();
 }

@@ -22,7 +22,8 @@ std::string suite_notation(const std::filesystem::path& path);
 bool is_directory(std::string_view suite_path);
 
 /// All bytes of a file.
-/// @return nothing if it cannot be opened or read, or is anything but a regular file
+/// @return nothing if it cannot be opened or read, is anything but a regular file, or holds more than 64 MiB:
+///         then it is none of the program's, and might be more than the memory takes
 std::optional<std::string> read_file(std::string_view suite_path);
 
 /// First line of a text file, without its line end, as UTF-8; empty for an empty file. A line of more than 64
@@ -49,16 +50,37 @@ std::optional<FileState> file_state(const std::filesystem::path& path);
 std::string file_line(std::string_view utf8);
 
 /// Gives the file another name in the same directory; an existing file of that name is replaced.
-/// @return false if the system refuses
-bool rename_file(const std::filesystem::path& from, const std::filesystem::path& to);
+/// @return why the system refuses, in Italian; empty when all went well
+std::string rename_file(const std::filesystem::path& from, const std::filesystem::path& to);
+
+/// Has programs that change files of one directory wait for each other. Where the file system knows no locks,
+/// or the turn does not come within five seconds, the program goes on without.
+class DirectoryLock {
+  public:
+    explicit DirectoryLock(const std::filesystem::path& directory);
+    ~DirectoryLock();
+    DirectoryLock(const DirectoryLock&) = delete;
+    DirectoryLock& operator=(const DirectoryLock&) = delete;
+
+  private:
+    int m_directory = -1;
+};
+
+/// What a replaced file outlives. A power failure costs waiting for the disk, some milliseconds; without that
+/// a file written in the last half minute may come out of one empty.
+enum class Outlives { program_crash, power_failure };
 
 /// Writes a file anew and puts it in place in one step: everything goes into a temporary file beside it,
 /// which takes its name when it is complete. Whatever happens before, the old file stays as it was. A file
 /// that its owner made read-only is not replaced.
+///
+/// The temporary file is named after the target: "coltre.txt.1.tmp", with the first number that is free. One
+/// that a killed program left behind is removed when it is a day old and the next file is written.
 class FileReplacement {
   public:
     /// Creates the temporary file. After a failure good() is false and reason() says why.
-    explicit FileReplacement(std::string_view suite_path);
+    /// @param target  taken as it is; find_path() finds one whatever its letter case
+    explicit FileReplacement(std::filesystem::path target, Outlives outlives = Outlives::program_crash);
     /// Without a commit() before, drops what was written.
     ~FileReplacement();
     FileReplacement(const FileReplacement&) = delete;
@@ -87,6 +109,7 @@ class FileReplacement {
     void drop();
 
     std::filesystem::path m_target;
+    Outlives m_outlives;
     std::filesystem::path m_temporary;
     std::FILE* m_file = nullptr;
     std::string m_reason;

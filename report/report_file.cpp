@@ -24,7 +24,7 @@ ReportLine& ReportLine::add(std::string_view text) {
 }
 
 ReportFile::ReportFile(std::string_view suite_path, MessageBoxes& message_boxes)
-    : m_name(suite_path), m_file(suite_path), m_message_boxes(message_boxes) {}
+    : m_name(suite_path), m_file(find_path(suite_path)), m_message_boxes(message_boxes) {}
 
 void ReportFile::line(std::string_view utf8) {
     m_file.write(file_line(utf8));

@@ -2,14 +2,14 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QFileInfo>
+#include <QFile>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 #include <QtMath>
 
+#include "platform/files.h"
 #include "ui/sketches/sketch_painter.h"
 
 namespace coltre {
@@ -78,22 +78,6 @@ bool paint_pdf(QBuffer& buffer, const Drawing& drawing, const SlotTexts& labels,
     return painter.end();
 }
 
-QString italian_reason(const QSaveFile& file) {
-    if (!QFileInfo(QFileInfo(file.fileName()).absolutePath()).isDir()) {
-        return QStringLiteral("la cartella non esiste");
-    }
-    switch (file.error()) {
-        case QFileDevice::PermissionsError:
-            return QStringLiteral("permesso negato");
-        case QFileDevice::ResourceError:
-        case QFileDevice::WriteError:
-            return QStringLiteral("scrittura non riuscita, forse il disco è pieno (%1)")
-                .arg(file.errorString());
-        default:
-            return file.errorString();
-    }
-}
-
 }  // namespace
 
 QImage sketch_image(const Drawing& drawing, const SlotTexts& labels, const QFont& font) {
@@ -129,12 +113,11 @@ QByteArray sketch_picture(const Drawing& drawing, const SlotTexts& labels, const
 }
 
 QString replace_file(const QString& path, const QByteArray& content) {
-    QSaveFile file(path);
     if (content.isEmpty()) return QStringLiteral("l'immagine non è stata creata");
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit()) {
-        return italian_reason(file);
-    }
-    return {};
+    FileReplacement file(QFile::encodeName(path).toStdString(), Outlives::power_failure);
+    file.write({content.constData(), static_cast<std::size_t>(content.size())});
+    file.commit();
+    return QString::fromStdString(file.reason());
 }
 
 }  // namespace coltre
