@@ -6,8 +6,8 @@
 
 #include "platform/files.h"
 #include "site/altitude_file.h"
-#include "site/altitude_replacement.h"
 #include "site/built_in_altitudes.h"
+#include "site/municipalities.h"
 #include "tests/support/fake_doors.h"
 #include "tests/support/temporary_directory.h"
 

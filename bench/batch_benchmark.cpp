@@ -11,7 +11,7 @@
 
 #include "bench/request_lines.h"
 #include "cli/batch.h"
-#include "site/altitude_replacement.h"
+#include "site/altitude_file.h"
 #include "site/built_in_altitudes.h"
 #include "tests/support/temporary_directory.h"
 

@@ -7,7 +7,7 @@
 #include "cli/command.h"
 #include "platform/files.h"
 #include "site/altitude_check.h"
-#include "site/altitude_replacement.h"
+#include "site/altitude_file.h"
 #include "site/built_in_altitudes.h"
 
 namespace coltre::cli {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "site/altitude_file.h"
+#include "site/municipalities.h"
 #include "site/regions.h"
 #include "text/names.h"
 

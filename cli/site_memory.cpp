@@ -1,6 +1,6 @@
 #include "cli/site_memory.h"
 
-#include "site/altitude_replacement.h"
+#include "site/altitude_file.h"
 
 namespace coltre::cli {
 

@@ -8,7 +8,7 @@ file(WRITE "${SOURCE}" "#include \"site/built_in_altitudes.h\"
 
 namespace coltre {
 
-std::string_view built_in_altitudes() {
+std::string_view built_in_table() {
     return
     \"${text}\";
 }

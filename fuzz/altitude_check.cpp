@@ -7,7 +7,7 @@
 
 #include "fuzz/input.h"
 #include "fuzz/require.h"
-#include "site/altitude_file.h"
+#include "site/municipalities.h"
 #include "site/regions.h"
 #include "tests/support/fake_doors.h"
 #include "tests/support/temporary_directory.h"

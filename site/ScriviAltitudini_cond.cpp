@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "site/altitude_replacement.h"
+#include "site/altitude_file.h"
 #include "site/built_in_altitudes.h"
 
 namespace coltre {

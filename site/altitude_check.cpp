@@ -9,11 +9,11 @@
 
 #include "platform/code_page.h"
 #include "platform/files.h"
-#include "site/altitude_blocks.h"
 #include "site/altitude_fields.h"
+#include "site/altitude_file.h"
 #include "site/altitude_line.h"
-#include "site/altitude_replacement.h"
 #include "site/built_in_altitudes.h"
+#include "site/built_in_blocks.h"
 
 namespace coltre {
 

@@ -1,92 +1,79 @@
 #include "site/altitude_file.h"
 
-#include <utility>
+#include <filesystem>
+#include <optional>
+#include <system_error>
 
-#include "platform/code_page.h"
 #include "platform/files.h"
-#include "site/ScriviAltitudini_cond.h"
-#include "site/altitude_fields.h"
-#include "site/altitude_replacement.h"
 
 namespace coltre {
 
 namespace {
 
-/// The name as the file holds it. One with characters outside the code page stands nowhere in it: a line end,
-/// which no field holds, instead of the "?" that such a character is written as.
-std::string name_in_file(std::string_view name) {
-    std::string bytes = to_code_page(name);
-    return from_code_page(bytes) == name ? bytes : "\n";
+namespace fs = std::filesystem;
+
+bool is_there(const fs::path& path) {
+    std::error_code error;
+    return fs::exists(fs::symlink_status(path, error));
 }
 
-std::optional<std::vector<std::string>> municipalities(std::string_view bytes, std::string_view province) {
-    std::optional<FieldReader> reader = find_field(bytes, province);
-    if (!reader) return std::nullopt;
-    std::vector<std::string> names;
-    while (reader->next()) {
-        if (reader->field().empty()) {
-            // Without a municipality there is no first one to select.
-            if (names.empty()) return std::nullopt;
-            return names;
-        }
-        const std::optional<std::string_view> name = municipality_of(reader->field());
-        if (!name) return std::nullopt;
-        names.push_back(from_code_page(*name));
-    }
-    return std::nullopt;
+/// Gives the file the first free numbered name.
+/// @return why it could not be done, in Italian; empty when all went well
+std::string move_aside(const fs::path& backup) {
+    int number = 1;
+    fs::path free_name;
+    do {
+        free_name = backup;
+        free_name += std::to_string(number++);
+    } while (is_there(free_name));
+    return rename_file(backup, free_name);
 }
 
-std::optional<std::string> altitude(std::string_view bytes, std::string_view province,
-                                    std::string_view municipality) {
-    std::optional<FieldReader> reader = find_field(bytes, province);
-    if (!reader) return std::nullopt;
-    while (reader->next()) {
-        const std::optional<std::string_view> name = municipality_of(reader->field());
-        if (!name) return std::nullopt;
-        if (*name == municipality || reader->at_end()) return from_code_page(altitude_of(reader->field()));
+/// Keeps the old file as altitudini.bak beside it. It stays in its place meanwhile, so that a crash finds it
+/// there; only one that cannot be read is moved.
+/// @param content  what the old file holds; nothing if it cannot be read
+/// @return why it could not be kept, in Italian; empty when all went well
+std::string keep(const fs::path& old_file, const std::optional<std::string>& content) {
+    const std::string backup_name = suite_notation(old_file.parent_path()) + "\\altitudini.bak";
+    const fs::path backup = find_path(backup_name);
+    std::error_code error;
+    // A link to the old file keeps nothing of it.
+    const bool links = fs::is_symlink(fs::symlink_status(backup, error));
+    if (content && !links && read_file(backup_name) == content) return {};
+    if (is_there(backup)) {
+        if (std::string reason = move_aside(backup); !reason.empty()) return reason;
     }
-    return std::nullopt;
-}
-
-/// Runs the read, after a failure once more on the file written anew.
-/// @param read  takes the file's bytes; gives an optional, empty on failure
-template <typename Read>
-auto read_with_retry(std::string_view ProgramDirectory, Doors doors, Read read)
-    -> decltype(read(std::string_view())) {
-    for (bool retried = false;; retried = true) {
-        if (const std::optional<std::string> bytes = read_file(altitude_file_name(ProgramDirectory))) {
-            if (auto result = read(std::string_view(*bytes))) return result;
-        }
-        if (retried) break;
-        if (!WriteAltitudeFile(ProgramDirectory, doors)) return std::nullopt;
-    }
-    // Deliberate: the message names "altitudine.txt".
-    doors.message_boxes.show(
-        {Icon::error, std::string(program_title), "Errore in lettura del file altitudine.txt ."});
-    doors.program_end.end();
-    return std::nullopt;
+    if (!content) return rename_file(old_file, backup);
+    FileReplacement copy(backup, Outlives::power_failure);
+    copy.write(*content);
+    copy.commit();
+    return copy.reason();
 }
 
 }  // namespace
 
-std::optional<MunicipalityList> FillMunicipalities(std::string_view ProgramDirectory,
-                                                   std::string_view province, Doors doors) {
-    const std::string header = name_in_file(province);
-    std::optional<std::vector<std::string>> names = read_with_retry(
-        ProgramDirectory, doors, [&](std::string_view bytes) { return municipalities(bytes, header); });
-    if (!names) return std::nullopt;
-    std::optional<std::string> first_altitude =
-        ReadAltitude(ProgramDirectory, province, names->front(), doors);
-    if (!first_altitude) return std::nullopt;
-    return MunicipalityList{std::move(*names), std::move(*first_altitude)};
+std::string altitude_file_name(std::string_view ProgramDirectory) {
+    return std::string(ProgramDirectory) + "\\altitudini.txt";
 }
 
-std::optional<std::string> ReadAltitude(std::string_view ProgramDirectory, std::string_view province,
-                                        std::string_view municipality, Doors doors) {
-    const std::string header = name_in_file(province);
-    const std::string name = name_in_file(municipality);
-    return read_with_retry(ProgramDirectory, doors,
-                           [&](std::string_view bytes) { return altitude(bytes, header, name); });
+std::string replace_altitude_file(std::string_view ProgramDirectory, std::string_view bytes) {
+    const std::string name = altitude_file_name(ProgramDirectory);
+    FileReplacement replacement(find_path(name), Outlives::power_failure);
+    if (!replacement.good()) return replacement.reason();
+    // Two programs that both keep the old file must not take each other's backups for their own.
+    const DirectoryLock lock(replacement.target().parent_path());
+    const std::optional<std::string> old_content = read_file(name);
+    if (old_content == bytes) return {};
+
+    replacement.write(bytes);
+    if (!replacement.complete()) return replacement.reason();
+    if (is_there(replacement.target())) {
+        const std::string reason = keep(replacement.target(), old_content);
+        if (!reason.empty())
+            return "non si riesce a conservare il vecchio file come altitudini.bak (" + reason + ")";
+    }
+    replacement.commit();
+    return replacement.reason();
 }
 
 }  // namespace coltre

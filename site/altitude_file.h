@@ -1,37 +1,18 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "platform/doors.h"
-
-// Reading altitudini.txt, whole for each choice that the user makes: a file edited meanwhile counts at once.
-// When a read fails the file is written anew from the built-in table and read once more; a second failure is
-// told to the user and ends the program. A file that reads without error is never rewritten.
-//
-// A read fails where the file cannot be read, holds no line that equals the province, or where it comes upon
-// the end of the file or a line without a blank. Deliberate: of the built-in table itself "Vicenza" (a line
-// "33543") and "Oristano" (no empty line at the end of the file) fail.
 namespace coltre {
 
-/// The municipalities of a province.
-struct MunicipalityList {
-    std::vector<std::string> names;  ///< at least one, in the order of the file
-    std::string altitude;            ///< text of ReadAltitude() for the first
-};
+/// The name of the altitude file, in the suite's notation.
+std::string altitude_file_name(std::string_view ProgramDirectory);
 
-/// The municipalities of a province for the list `comuneinput`, and what selecting its first entry reads.
-/// @return nothing if the program was ended
-std::optional<MunicipalityList> FillMunicipalities(std::string_view ProgramDirectory,
-                                                   std::string_view province, Doors doors);
-
-/// The altitude of a municipality, m, as the text for `asinput`: the last four characters of its line without
-/// blanks. The first line of that name behind the province's header counts. Deliberate: the last block has no
-/// empty line that would end the search for a name it does not hold; the file's last line is taken then.
-/// @return nothing if the program was ended
-std::optional<std::string> ReadAltitude(std::string_view ProgramDirectory, std::string_view province,
-                                        std::string_view municipality, Doors doors);
+/// Puts these bytes in the place of altitudini.txt in one step. A different file that was there is kept as
+/// altitudini.bak, and a different altitudini.bak as the first free of altitudini.bak1, .bak2 and so on: an
+/// engineer's own altitudes are never lost. If the file holds these bytes already it is left alone, but not
+/// being able to write beside it is a failure all the same.
+/// @return why it failed, in Italian, with the old file as it was; empty when all went well
+std::string replace_altitude_file(std::string_view ProgramDirectory, std::string_view bytes);
 
 }  // namespace coltre

@@ -5,7 +5,7 @@
 namespace coltre {
 
 std::string built_in_altitude_file() {
-    const std::string lines = to_code_page(built_in_altitudes());
+    const std::string lines = to_code_page(built_in_table());
     std::string bytes;
     bytes.reserve(lines.size() + lines.size() / 16);
     for (const char c : lines) {

@@ -5,7 +5,7 @@
 
 #include "calculate/return_period.h"
 #include "report/unit_systems.h"
-#include "site/altitude_file.h"
+#include "site/municipalities.h"
 #include "site/regions.h"
 #include "startup/start_up.h"
 #include "text/number_text.h"

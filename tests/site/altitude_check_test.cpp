@@ -5,8 +5,8 @@
 #include <random>
 
 #include "platform/code_page.h"
-#include "site/altitude_file.h"
 #include "site/built_in_altitudes.h"
+#include "site/municipalities.h"
 #include "site/regions.h"
 #include "tests/site/altitude_directory.h"
 

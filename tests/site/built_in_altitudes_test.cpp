@@ -11,7 +11,7 @@ namespace coltre {
 namespace {
 
 TEST(BuiltInAltitudes, HasTheKnownNumberOfLines) {
-    std::istringstream table{std::string(built_in_altitudes())};
+    std::istringstream table{std::string(built_in_table())};
     std::set<std::string> names;
     int lines = 0, empty = 0, municipalities = 0;
     double highest = 0;

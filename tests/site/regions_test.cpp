@@ -26,7 +26,7 @@ TEST(Regions, EveryProvinceHasItsZoneAndItsBlockInTheAltitudeFile) {
     for (const Region& region : regions()) {
         for (const std::string_view province : region.provinces) {
             ++provinces[ZoneOfProvince(province).zone];
-            EXPECT_TRUE(find_field(built_in_altitudes(), province)) << province;
+            EXPECT_TRUE(find_field(built_in_table(), province)) << province;
         }
     }
     EXPECT_EQ(provinces, (std::map<SnowZone, int>{{0, 17}, {1, 20}, {2, 28}, {3, 38}}));

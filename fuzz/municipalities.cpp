@@ -1,4 +1,4 @@
-#include "site/altitude_file.h"
+#include "site/municipalities.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "site/altitude_blocks.h"
+#include "site/built_in_blocks.h"
 
 #include <algorithm>
 #include <optional>

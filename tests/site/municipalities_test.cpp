@@ -1,4 +1,4 @@
-#include "site/altitude_file.h"
+#include "site/municipalities.h"
 
 #include "site/built_in_altitudes.h"
 #include "tests/site/altitude_directory.h"
