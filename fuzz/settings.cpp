@@ -9,7 +9,7 @@
 #include "fuzz/require.h"
 #include "platform/code_page.h"
 #include "startup/direttori_cond.h"
-#include "tests/startup/suite_tree.h"
+#include "tests/support/suite_tree.h"
 #include "tests/support/fake_doors.h"
 #include "text/characters.h"
 

@@ -2,7 +2,7 @@
 
 #include "site/built_in_altitudes.h"
 #include "tests/faults/real_faults.h"
-#include "tests/startup/suite_tree.h"
+#include "tests/support/suite_tree.h"
 #include "tests/ui/window_test.h"
 #include "text/characters.h"
 

@@ -21,9 +21,6 @@ using testing::ElementsAre;
 
 class Files : public testing::Test {
   protected:
-    void write(const std::string& name, const std::string& bytes) const {
-        std::ofstream(at(name), std::ios::binary) << bytes;
-    }
     [[nodiscard]] std::string bytes_of(const std::string& name) const {
         std::ifstream file(at(name), std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
@@ -32,13 +29,6 @@ class Files : public testing::Test {
     [[nodiscard]] std::string suite_path(const std::string& name) const {
         return directory.text() + "\\" + name;
     }
-    [[nodiscard]] std::vector<std::string> names() const {
-        std::vector<std::string> found;
-        for (const auto& entry : fs::directory_iterator(directory.path()))
-            found.push_back(entry.path().filename().string());
-        return found;
-    }
-
     TemporaryDirectory directory;
 };
 
@@ -56,7 +46,7 @@ TEST_F(Files, AreFoundWhateverTheirLetterCase) {
 
 TEST_F(Files, AreTakenAsWrittenBeforeAnyOtherLetterCase) {
     for (const char* name : {"coltre.txt", "COLTRE.TXT", "Coltre.txt"})
-        write(name, name);
+        directory.put(name, name);
     EXPECT_EQ(read_file(suite_path("coltre.txt")), "coltre.txt");
     EXPECT_EQ(read_file(suite_path("Coltre.txt")), "Coltre.txt");
     EXPECT_EQ(read_file(suite_path("colTRE.txt")), "COLTRE.TXT");  // first in byte order
@@ -65,14 +55,14 @@ TEST_F(Files, AreTakenAsWrittenBeforeAnyOtherLetterCase) {
 TEST_F(Files, InADirectoryThatIsRelative) {
     const fs::path before = fs::current_path();
     fs::current_path(directory.path());
-    write("Dirlav", "x");
+    directory.put("Dirlav", "x");
     EXPECT_EQ(read_file("DIRLAV"), "x");
     fs::current_path(before);
 }
 
 TEST_F(Files, AreReadWhole) {
     const std::string bytes("\0\xFF\r\n\x1A", 5);
-    write("bytes", bytes);
+    directory.put("bytes", bytes);
     EXPECT_EQ(read_file(suite_path("bytes")), bytes);
     EXPECT_TRUE(read_file("\\proc\\self\\status").value_or("").size() > 100);  // its size is told as 0
 }
@@ -90,7 +80,7 @@ TEST_F(Files, AreRefusedWhereTheyAreNone) {
 TEST_F(Files, GiveTheirFirstLine) {
     for (const auto& [bytes, line] : {std::pair{"", ""}, std::pair{"a\rb", "a"}, std::pair{"\r\nsecond", ""},
                                       std::pair{"  Forl\xEC\x80 \n", "  Forlì€ "}}) {
-        write("dirlav", bytes);
+        directory.put("dirlav", bytes);
         EXPECT_EQ(read_first_line(suite_path("DIRLAV")), line);
     }
 }
@@ -101,11 +91,11 @@ TEST(FileLine, EndsWithCrLfAlone) {
 
 class Replacement : public Files {
   protected:
-    void SetUp() override { write("Coltre.txt", "old"); }
+    void SetUp() override { directory.put("Coltre.txt", "old"); }
     /// Only the file is there, with these bytes.
     void expect_left(const std::string& bytes) const {
         EXPECT_EQ(bytes_of("Coltre.txt"), bytes);
-        EXPECT_THAT(names(), ElementsAre("Coltre.txt"));
+        EXPECT_THAT(directory.files(), ElementsAre("Coltre.txt"));
     }
 };
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-#include "tests/startup/suite_tree.h"
+#include "tests/support/suite_tree.h"
 #include "tests/support/fake_doors.h"
 #include "text/characters.h"
 

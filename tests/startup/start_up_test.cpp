@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "tests/startup/suite_tree.h"
+#include "tests/support/suite_tree.h"
 #include "tests/support/fake_doors.h"
 #include "text/characters.h"
 

@@ -1,6 +1,6 @@
 #include <set>
 
-#include "tests/startup/suite_tree.h"
+#include "tests/support/suite_tree.h"
 #include "tests/ui/window_test.h"
 #include "ui/number_field.h"
 
