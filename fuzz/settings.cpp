@@ -9,8 +9,8 @@
 #include "fuzz/require.h"
 #include "platform/code_page.h"
 #include "startup/direttori_cond.h"
-#include "tests/support/suite_tree.h"
 #include "tests/support/fake_doors.h"
+#include "tests/support/suite_tree.h"
 #include "text/characters.h"
 
 // Input: the bytes of the settings file dirlav, the line "== lavoro", then those of lavoro.

@@ -7,8 +7,8 @@
 #include <string>
 #include <utility>
 
-#include "tests/support/suite_tree.h"
 #include "tests/support/fake_doors.h"
+#include "tests/support/suite_tree.h"
 #include "text/characters.h"
 
 namespace coltre {

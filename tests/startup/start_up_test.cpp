@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "tests/support/suite_tree.h"
 #include "tests/support/fake_doors.h"
+#include "tests/support/suite_tree.h"
 #include "text/characters.h"
 
 namespace coltre {
