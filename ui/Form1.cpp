@@ -73,7 +73,7 @@ void Form1::connect_controls() {
     connect(m_ui->ComboEsp, &QComboBox::currentIndexChanged, this, &Form1::site_changed);
     connect(this, &Form1::site_changed, this, [this] {
         for (const RoofTab& tab : m_tabs)
-            draw(tab, nullptr);
+            if (tab.sketch->shows_numbers()) draw(tab, nullptr);
     });
 }
 
