@@ -4,7 +4,6 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
-#include <iostream>
 #include <nlohmann/json.hpp>
 #include <sstream>
 #include <vector>
@@ -41,7 +40,7 @@ struct Table {
 std::string batch_results(const std::string& requests, const cli::Surroundings& surroundings) {
     std::istringstream in(requests);
     std::ostringstream out;
-    run_batch(in, out, std::cerr, surroundings);
+    run_batch(in, out, surroundings);
     return std::move(out).str();
 }
 

@@ -2,7 +2,6 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <iostream>
 #include <istream>
 #include <ostream>
 #include <streambuf>
@@ -65,7 +64,7 @@ int main() {
     LineCounter counter;
     std::istream in(&source);
     std::ostream out(&counter);
-    const cli::BatchEnd end = cli::run_batch(in, out, std::cerr, {.own_directory = directory.text()});
+    const cli::BatchEnd end = cli::run_batch(in, out, {.own_directory = directory.text()});
     if (end != cli::BatchEnd::all_well || counter.lines != request_count) return 2;
     print({"memory of a batch of 1,000,000", "MiB", peak_memory(), std::nullopt, at_most_mib});
     return 0;

@@ -1,6 +1,5 @@
 #include "cli/batch.h"
 
-#include <cstddef>
 #include <limits>
 #include <string>
 #include <string_view>
@@ -65,16 +64,14 @@ Result perform_line(const LineReader& reader, const Surroundings& surroundings, 
 
 }  // namespace
 
-BatchEnd run_batch(std::istream& in, std::ostream& out, std::ostream& err, const Surroundings& surroundings) {
+BatchEnd run_batch(std::istream& in, std::ostream& out, const Surroundings& surroundings) {
     bool some_failed = false;
     SiteMemory memory;
     LineReader reader(in);
-    for (std::size_t line = 1; out && reader.next(); ++line) {
+    while (out && reader.next()) {
         const Result result = perform_line(reader, surroundings, memory);
         some_failed = some_failed || !result.error.empty();
         out << to_json(result) << '\n';
-        for (const std::string& entry : result.misread)
-            err << "Attenzione: riga " << line << ": " << entry << '\n';
         if (in.rdbuf()->in_avail() <= 0) out.flush();
     }
     out.flush();

@@ -47,11 +47,11 @@ int run_calculation(const Request& request, bool json, const Surroundings& surro
                     const Streams& streams) {
     SiteMemory memory;
     const Result result = perform(request, surroundings, memory);
-    for (const std::string& entry : result.misread)
-        streams.err << "Attenzione: " << entry << '\n';
     if (json) {
         streams.out << to_json(result) << '\n';
     } else {
+        for (const std::string& entry : result.misread)
+            streams.err << "Attenzione: " << entry << '\n';
         for (const Message& message : result.messages)
             print_message(streams.err, message);
         if (!result.wrong_request) streams.out << to_table(result);
@@ -66,7 +66,7 @@ int run_calculation(const Request& request, bool json, const Surroundings& surro
 
 int run_batch_command(const std::string& file, const Surroundings& surroundings, const Streams& streams) {
     const auto finish = [&](std::istream& in) {
-        const BatchEnd end = run_batch(in, streams.out, streams.err, surroundings);
+        const BatchEnd end = run_batch(in, streams.out, surroundings);
         if (end == BatchEnd::input_failed)
             streams.err << "coltre-calcolo: impossibile leggere le richieste\n";
         return check_output(streams.out, streams.err, end == BatchEnd::all_well ? all_well : failed);

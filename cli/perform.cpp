@@ -58,7 +58,7 @@ std::vector<std::string> misread_entries(const Request& request) {
         if (!text || !reads_leniently(*request.kind, key)) continue;
         const LenientNumber number = read_leniently(*text);
         if (!number.wholly_understood && !number.beyond_range)
-            misread.push_back(std::string(info(key).name) + " " + in_quotes(*text) + " letto come " +
+            misread.push_back(std::string(info(key).name) + " " + in_quotes(*text) + ": letto come " +
                               shortest_number_text(number.value));
     }
     return misread;

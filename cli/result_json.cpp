@@ -55,6 +55,15 @@ void append_results(std::string& json, const Result& result) {
     object.close();
 }
 
+void append_texts(std::string& json, const std::vector<std::string>& texts) {
+    json += '[';
+    for (const std::string& text : texts) {
+        if (json.back() != '[') json += ", ";
+        append_json_string(json, text);
+    }
+    json += ']';
+}
+
 void append_messages(std::string& json, const std::vector<Message>& messages) {
     json += '[';
     for (const Message& message : messages) {
@@ -86,6 +95,7 @@ std::string to_json(const Result& result) {
     append_coefficients(object.member("mu"), result);
     append_results(object.member("risultati"), result);
     if (!result.report.empty()) object.text("relazione", result.report);
+    if (!result.misread.empty()) append_texts(object.member("letture"), result.misread);
     append_messages(object.member("messaggi"), result.messages);
     if (result.error.empty()) {
         object.member("errore") += "null";

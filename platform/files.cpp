@@ -110,6 +110,19 @@ bool is_left_behind(const fs::path& temporary) {
     return !error && fs::file_time_type::clock::now() - written > std::chrono::hours(24);
 }
 
+/// Opens the new file to those whom the old one was open to, as far as the system lets its writer do so.
+void take_over_access(const fs::path& old_file, const fs::file_status& old_status, const fs::path& new_file) {
+#ifndef _WIN32
+    struct stat owner {};
+    // The administrator may give the file back to its owner; others, at most to a group of their own.
+    if (::stat(old_file.c_str(), &owner) == 0 && ::chown(new_file.c_str(), owner.st_uid, owner.st_gid) != 0)
+        static_cast<void>(::chown(new_file.c_str(), static_cast<uid_t>(-1), owner.st_gid) == 0);
+#endif
+    // Whoever writes the file is to be able to read it, even if the old one was closed to him.
+    std::error_code error;
+    fs::permissions(new_file, old_status.permissions() | fs::perms::owner_read, error);
+}
+
 /// Waits until the disk has what was written.
 /// @return false, with the reason in errno, if it does not take it
 bool bring_to_disk(std::FILE* file) {
@@ -282,8 +295,7 @@ int FileReplacement::open() {
             fs::remove(name, error);
         }
     }
-    // Whoever writes the file is to be able to read it, even if the old one was closed to him.
-    if (fs::exists(status)) fs::permissions(m_temporary, status.permissions() | fs::perms::owner_read, error);
+    if (fs::exists(status)) take_over_access(m_target, status, m_temporary);
     return 0;
 }
 

@@ -63,11 +63,11 @@ TEST(Command, ExitStatusTellsWhoIsWrong) {
 }
 
 TEST(Command, SaysWhatItReadsFromAnEntryThatItDoesNotWhollyUnderstand) {
-    const CommandRun run = run_command(
-        {"una-falda", "--zona", "0", "--altitudine", "1e2m", "--alfa", "trenta", "--ct", " 1 ", "--json"});
+    const CommandRun run =
+        run_command({"una-falda", "--zona", "0", "--altitudine", "1e2m", "--alfa", "trenta", "--ct", " 1 "});
     EXPECT_EQ(run.status, all_well);
     EXPECT_EQ(run.err,
-              "Attenzione: altitudine «1e2m» letto come 100\nAttenzione: alfa «trenta» letto come 0\n");
+              "Attenzione: altitudine «1e2m»: letto come 100\nAttenzione: alfa «trenta»: letto come 0\n");
 }
 
 TEST(Command, JsonIsTheResultOfABatch) {
