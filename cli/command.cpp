@@ -38,9 +38,9 @@ int check_output(std::ostream& out, std::ostream& err, int status) {
 
 /// A message box as lines of text.
 void print_message(std::ostream& err, const Message& message) {
-    std::string text = message.text;
+    std::string text = message.title + ": " + message.text + '\n';
     std::ranges::replace(text, '\r', '\n');
-    err << message.title << ": " << text << '\n';
+    err << text;  // at once: another program may write to the same place
 }
 
 int run_calculation(const Request& request, bool json, const Surroundings& surroundings,

@@ -12,11 +12,11 @@
 #include "ui/CoeffEsposizione.h"
 #include "ui/PeriododiRitorno.h"
 #include "ui/casipart.h"
-#include "ui/lists.h"
 #include "ui/maker.h"
 #include "ui/result_display.h"
 #include "ui/sketch_setup.h"
 #include "ui/sketches/sketches.h"
+#include "ui/window_setup.h"
 #include "ui_Form1.h"
 
 namespace coltre {
@@ -49,6 +49,8 @@ Form1::Form1(Program& program, UserDialogs& dialogs, ProgramEnd& program_end, QW
     m_Timer1.setInterval(800);
     m_hints = std::make_unique<Hints>(*m_ui->Label25, m_Timer1);
     leave_lists_to_clicks_and_keys(*this);
+    answer_mnemonics_at_once(*this);
+    fit_to_screen(*this);
     set_up_sketches();
     set_up_hints();
     connect_controls();
@@ -143,6 +145,7 @@ bool Form1::load(std::string_view command_line, std::string_view own_directory) 
     m_ui->regione->fill(names);
     m_ui->regione->setCurrentIndex(start.region_item);
     m_ui->OutputPerRit->setText(qt(display_number_text(m_program.cells.return_period)).trimmed());
+    show_return_period_factor();
     return true;
 }
 
@@ -154,6 +157,12 @@ SiteFields Form1::site_fields() const {
 
 void Form1::show_ground_load() {
     m_ui->caricosuolo->show_number(m_program.cells.qsk, quantities::area_load.decimals);
+}
+
+void Form1::show_return_period_factor() {
+    const double factor = round_half_even(m_program.cells.return_period_factor, 4);
+    m_ui->OutputPerRit->setToolTip(tr("coefficiente del periodo di ritorno:") +
+                                   qt(display_number_text(factor)));
 }
 
 void Form1::keyPressEvent(QKeyEvent* event) {
@@ -201,6 +210,7 @@ void Form1::return_period_clicked() {
     if (!m_dialogs.ask(return_period_question()) || raise_open(m_return_period)) return;
     auto* dialog = new PeriododiRitorno(m_program.cells, m_dialogs, m_ui->OutputPerRit->text(), this);
     connect(dialog, &PeriododiRitorno::confirmed, m_ui->OutputPerRit, &ResultLabel::setText);
+    connect(dialog, &PeriododiRitorno::confirmed, this, &Form1::show_return_period_factor);
     connect(dialog, &PeriododiRitorno::confirmed, this, &Form1::site_changed);
     m_return_period = dialog;
     dialog->show();

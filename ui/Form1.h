@@ -70,6 +70,9 @@ class Form1 : public QWidget {
         SketchWidget* sketch;
         const char* picture;  ///< suggested name of a saved sketch
     };
+    /// The factor in force shows over the return period: at the start it is 1, which the 50 years do not
+    /// tell.
+    void show_return_period_factor();
     /// The sketch follows the entries; its loads are those of the cells, or where these belong to other
     /// entries, follow the shape coefficients.
     void draw(const RoofTab& tab, const ProgramCells* loads);

@@ -7,10 +7,10 @@
 #include "platform/surroundings.h"
 #include "report/unit_systems.h"
 #include "text/number_reading.h"
-#include "ui/lists.h"
 #include "ui/result_display.h"
 #include "ui/sketch_setup.h"
 #include "ui/sketches/sketches.h"
+#include "ui/window_setup.h"
 #include "ui_casipart.h"
 
 namespace coltre {
@@ -34,6 +34,7 @@ casipart::casipart(Program& program, UserDialogs& dialogs, std::function<SiteFie
       m_ui(std::make_unique<Ui::casipart>()) {
     m_ui->setupUi(this);
     leave_lists_to_clicks_and_keys(*this);
+    answer_mnemonics_at_once(*this);
     setAttribute(Qt::WA_DeleteOnClose);
 
     // The note comes and goes with the page; the pages are to stay where they are.
@@ -61,6 +62,7 @@ casipart::casipart(Program& program, UserDialogs& dialogs, std::function<SiteFie
     }
     report_switched();
     m_ui->h2input->setFocus();
+    fit_to_screen(*this);
 }
 
 casipart::~casipart() = default;
