@@ -70,12 +70,13 @@ std::vector<std::string> nearest_names(std::string_view typed, std::span<const s
         const bool same_start = !sought.empty() && folded.starts_with(sought);
         ranked.emplace_back(same_start ? 0 : edit_distance(sought, folded), i);
     }
-    const std::size_t count = std::min(most, ranked.size());
-    std::partial_sort(ranked.begin(), ranked.begin() + static_cast<std::ptrdiff_t>(count), ranked.end());
+    std::ranges::sort(ranked);
 
     std::vector<std::string> nearest;
-    for (std::size_t i = 0; i < count; ++i)
-        nearest.push_back(names[ranked[i].second]);
+    for (std::size_t i = 0; i < ranked.size() && nearest.size() < most; ++i) {
+        const std::string& name = names[ranked[i].second];  // a table may hold it twice
+        if (std::ranges::find(nearest, name) == nearest.end()) nearest.push_back(name);
+    }
     return nearest;
 }
 

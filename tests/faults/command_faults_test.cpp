@@ -26,7 +26,7 @@ using Arguments = std::vector<std::string>;
 using Make = std::function<void(const fs::path& file)>;
 const Make directory = [](const fs::path& file) { fs::create_directory(file); };
 const Make pipe_of_nobody = [](const fs::path& file) { ::mkfifo(file.c_str(), 0600); };
-const Make full_device = [](const fs::path& file) { fs::create_symlink("/dev/full", file); };
+const Make full_device = make_full_device;
 const Make link_to_itself = [](const fs::path& file) { fs::create_symlink(file.filename(), file); };
 const Make dangling_link = [](const fs::path& file) { fs::create_symlink("nowhere", file); };
 const Make text_file = [](const fs::path& file) { std::ofstream(file) << "text"; };
@@ -51,7 +51,7 @@ class CommandFaults : public testing::Test, public TemporaryDirectory {
     static void expect_told(const Arguments& arguments, const std::string& told,
                             const Conditions& conditions = {}) {
         const Command::End end = run(arguments, conditions);
-        EXPECT_EQ(end.status, 1) << arguments[1];
+        EXPECT_EQ(end.status, 1) << arguments.front();
         EXPECT_EQ(end.err, told);
     }
     [[nodiscard]] std::string no_report(const fs::path& place, const std::string& name,

@@ -8,6 +8,8 @@
 #include <sys/prctl.h>
 #include <sys/ptrace.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -42,6 +44,12 @@ inline constexpr int rounds_for_one = 5;
 #else
 inline constexpr int rounds_for_one = 1;
 #endif
+
+/// The device that every write finds full; a pipe where the test may make no device. Never a link to the
+/// system's own: a program that went wrong could replace that.
+inline void make_full_device(const std::filesystem::path& file) {
+    if (::mknod(file.c_str(), S_IFCHR | 0666, makedev(1, 7)) != 0) ::mkfifo(file.c_str(), 0600);
+}
 
 /// A small disk in the place of a directory, empty at first.
 class SmallDisk {

@@ -57,7 +57,7 @@ TEST_F(WindowFaults, FullDiskKeepsTheOldReportAndTheOldPicture) {
     if (!disk.mounted()) GTEST_SKIP() << "this machine mounts no disk for tests";
     for (const char* name : {"coltre.txt", "x.svg", "x.png", "x.pdf"})
         directory.put(name, "old");
-    fs::create_symlink("/dev/full", directory.path() / "full.svg");
+    make_full_device(directory.path() / "full.svg");
     disk.leave(0);
     click("Check1Box");
     expect_refused_report(directory.text(), "il disco è pieno");

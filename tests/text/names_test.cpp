@@ -17,7 +17,7 @@ TEST(FoldName, ForgetsCaseAccentsApostrophesAndBlanks) {
 }
 
 TEST(NearestNames, PutsTheSameStartFirstThenTheFewestChanges) {
-    const std::vector<std::string> names{"Forlì", "Formia", "Torino", "Fermo", "Terni"};
+    const std::vector<std::string> names{"Forlì", "Formia", "Torino", "Fermo", "Terni", "Formia"};
     EXPECT_THAT(nearest_names("for", names, 2), ElementsAre("Forlì", "Formia"));
     EXPECT_THAT(nearest_names("Trino", names, 1), ElementsAre("Torino"));
     // Of 1, 2 and 2 changes: of equals the first in the list.
