@@ -28,17 +28,13 @@ using Fields = std::vector<std::string>;
 /// What a read gives, the municipalities before the altitude; nothing where it fails.
 using Result = std::optional<std::vector<std::string>>;
 
-bool is_line_end(char c) {
-    return c == '\r' || c == '\n';
-}
-
 /// All fields of a file, byte by byte.
 Fields fields_of(std::string_view bytes) {
     Fields fields;
     bool field_begins = true;
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         if (field_begins) fields.emplace_back();
-        field_begins = bytes[i] == ',' || is_line_end(bytes[i]);
+        field_begins = std::string_view(",\r\n").find(bytes[i]) != std::string_view::npos;
         if (bytes.substr(i, 2) == "\r\n") ++i;
         if (!field_begins && (bytes[i] != ' ' || !fields.back().empty())) fields.back() += bytes[i];
     }
