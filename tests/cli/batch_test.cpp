@@ -1,7 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <fstream>
-#include <functional>
 #include <streambuf>
 
 #include "tests/cli/run_command.h"
@@ -10,7 +8,9 @@
 namespace coltre::cli {
 namespace {
 
+using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::StartsWith;
 
 /// A request for the roof of this site, with further members.
 std::string request(const std::string& site, const std::string& more = R"("alfa":15)") {
@@ -33,8 +33,8 @@ TEST(Batch, GoesOnAfterALineThatIsNoRequest) {
     for (const Json& result : run.results())
         errors.push_back(result["errore"].is_null() ? "" : result["errore"].get<std::string>());
     const std::string no_object = "la richiesta deve essere un oggetto JSON";
-    EXPECT_THAT(errors, testing::ElementsAre("riga vuota", HasSubstr("JSON illeggibile"), "errore numerico",
-                                             no_object, no_object, HasSubstr("più lunga"), ""));
+    EXPECT_THAT(errors, ElementsAre("riga vuota", HasSubstr("JSON illeggibile"), "errore numerico", no_object,
+                                    no_object, HasSubstr("più lunga"), ""));
 }
 
 TEST(Batch, IdComesBackWhateverItIs) {
@@ -60,64 +60,44 @@ TEST_F(BatchByName, NamesAreMatchedAndAnsweredInTheTablesSpelling) {
         {"lotto"}, {place("FORLI'", "forlì"), place("torino", "AGLIÈ"), place("Vicenza", "Vicenza"),
                     place("Torin", "Torino"), place("Torino", "Moncaliere"), place("Palermo", "palermo")});
     EXPECT_EQ(run.status, failed);
-    const auto results = run.results();
-    EXPECT_EQ(results[0]["provincia"], "Forlì");
-    EXPECT_EQ(results[0]["comune"], "Forlì");
-    EXPECT_EQ(results[0]["altitudine"], 34);
-    EXPECT_EQ(results[1]["comune"], "Aglie'");
-    EXPECT_EQ(results[1]["zona"], 0);
-    EXPECT_EQ(results[2]["errore"], "Errore in lettura del file altitudine.txt .")
-        << "a line of its block has no blank";
-    EXPECT_EQ(results[2]["messaggi"].size(), 1U);
-    EXPECT_THAT(results[3].value("errore", ""),
-                testing::StartsWith("provincia sconosciuta: «Torin»; forse Torino"));
-    EXPECT_THAT(results[4].value("errore", ""),
-                testing::StartsWith("comune sconosciuto: «Moncaliere»; forse Moncalieri"));
-    EXPECT_EQ(results[5]["comune"], "Palermo");
-    EXPECT_EQ(results[5]["zona"], 3);
-    EXPECT_EQ(results[5]["errore"], nullptr);
+    std::vector<std::string> answers;
+    for (const Json& result : run.results()) {
+        const Json& last = result[result["errore"].is_null() ? "zona" : "errore"];
+        answers.push_back(result.value("provincia", "") + "; " + result.value("comune", "") + "; " +
+                          (last.is_string() ? last.get<std::string>() : last.dump()));
+    }
+    EXPECT_THAT(
+        answers,
+        ElementsAre("Forlì; Forlì; 1", "Torino; Aglie'; 0",
+                    "Vicenza; Vicenza; Errore in lettura del file altitudine.txt .",
+                    StartsWith("Torin; Torino; provincia sconosciuta: «Torin»; forse Torino"),
+                    StartsWith("Torino; Moncaliere; comune sconosciuto: «Moncaliere»; forse Moncalieri"),
+                    "Palermo; Palermo; 3"));
 }
 
-/// Hands lines on one by one; a step comes before each.
-class StepwiseInput : public std::streambuf {
-  public:
-    StepwiseInput(std::vector<std::string> lines, std::function<void(std::size_t)> before_line)
-        : m_lines(std::move(lines)), m_before_line(std::move(before_line)) {}
-
-  protected:
+/// Hands lines on one by one, each made when it is asked for; an empty one ends them.
+struct StepwiseInput : std::streambuf {
+    explicit StepwiseInput(std::function<std::string()> make) : make_line(std::move(make)) {}
     int_type underflow() override {
-        if (m_next == m_lines.size()) return traits_type::eof();
-        m_before_line(m_next);
-        std::string& line = m_lines[m_next++].append("\n");
+        line = make_line();
         setg(line.data(), line.data(), line.data() + line.size());
-        return traits_type::to_int_type(line.front());
+        return line.empty() ? traits_type::eof() : traits_type::to_int_type(line.front());
     }
-
-  private:
-    std::vector<std::string> m_lines;
-    std::function<void(std::size_t)> m_before_line;
-    std::size_t m_next = 0;
+    std::function<std::string()> make_line;
+    std::string line;
 };
 
 TEST_F(BatchByName, FileThatChangesMeanwhileCountsAtOnce) {
-    const std::string torino = place("Torino", "Torino");
-    StepwiseInput lines({torino, torino, torino, torino}, [&](std::size_t line) {
-        if (line == 2) std::ofstream(directory.path() / "altitudini.txt") << "Torino\r\nTorino   777\r\n\r\n";
-        if (line == 3) std::ofstream(directory.path() / "altitudini.txt") << "Torino\r\nTorino   778\r\n\r\n";
+    StepwiseInput lines([this, line = 0]() mutable {
+        if (++line == 3) directory.put("altitudini.txt", "Torino\r\nTorino   777\r\n\r\n");
+        if (line == 4) directory.put("altitudini.txt", "Torino\r\nTorino   778\r\n\r\n");
+        return line > 4 ? "" : place("Torino", "Torino") + "\n";
     });
     std::istream in(&lines);
     std::vector<double> altitudes;
     for (const Json& result : run_command({"lotto"}, in).results())
         altitudes.push_back(result["altitudine"]);
-    EXPECT_THAT(altitudes, testing::ElementsAre(239, 239, 777, 778));
-}
-
-TEST(Batch, ClosedOutputIsAFailure) {
-    std::istringstream in(request(by_number) + "\n");
-    std::ostream closed(nullptr);
-    std::ostringstream err;
-    EXPECT_EQ(run(std::vector<std::string>{"lotto"}, {}, in, closed, err), failed);
-    EXPECT_THAT(err.str(), HasSubstr("impossibile scrivere i risultati"));
+    EXPECT_THAT(altitudes, ElementsAre(239, 239, 777, 778));
 }
 
 }  // namespace

@@ -2,9 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <tuple>
-#include <utility>
-
 #include "engine/Calcolo_Mu.h"
 
 namespace coltre {

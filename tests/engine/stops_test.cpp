@@ -1,9 +1,6 @@
 #include <gmock/gmock.h>
 
-#include <algorithm>
-#include <string>
 #include <variant>
-#include <vector>
 
 #include "engine/roof_loads.h"
 #include "engine/special_loads.h"

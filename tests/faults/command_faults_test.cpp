@@ -1,8 +1,7 @@
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
-#include <functional>
-#include <memory>
+#include <deque>
 
 #include "site/altitude_check.h"
 #include "site/built_in_altitudes.h"
@@ -12,7 +11,6 @@ namespace coltre {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::_;
 using testing::AnyOf;
 using testing::Contains;
 using testing::ElementsAre;
@@ -294,15 +292,13 @@ TEST_F(CommandFaults, ProgramsAtOnceSpoilNothing) {
         start_again();
         put("altitudini.txt", "own");
         put("altitudini.bak", "first");
-        {
-            std::vector<std::unique_ptr<Command>> commands;
-            for (const Arguments& arguments :
-                 {altitudes("scrivi"), altitudes("ripara"), site_and_report, site_and_report})
-                commands.push_back(std::make_unique<Command>(arguments));
-            for (const auto& command : commands) {
-                const Command::End end = command->wait();
-                EXPECT_EQ(end.status, 0) << end.err;
-            }
+        std::deque<Command> commands;
+        for (const Arguments& arguments :
+             {altitudes("scrivi"), altitudes("ripara"), site_and_report, site_and_report})
+            commands.emplace_back(arguments);
+        for (Command& command : commands) {
+            const Command::End end = command.wait();
+            EXPECT_EQ(end.status, 0) << end.err;
         }
         EXPECT_THAT(left()["altitudini.txt"],
                     AnyOf(built_in, summary(repair_altitudes(built_in_altitude_file())),

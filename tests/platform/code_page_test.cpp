@@ -2,9 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <string>
-#include <utility>
-
 namespace coltre {
 namespace {
 

@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <string>
-
 #include "tests/support/fake_doors.h"
 #include "tests/support/temporary_directory.h"
 

@@ -1,5 +1,6 @@
 #include "site/municipalities.h"
 
+#include "site/ScriviAltitudini_cond.h"
 #include "site/built_in_altitudes.h"
 #include "tests/site/altitude_directory.h"
 
@@ -17,7 +18,6 @@ class AltitudeFile : public AltitudeDirectory {
         return ReadAltitude(text(), province, municipality, doors);
     }
     const std::string read_error = "Errore in lettura del file altitudine.txt .";
-    const std::string write_error = "Errore di scrittura del file altitudini.txt .";
 };
 
 TEST_F(AltitudeFile, IsWrittenWhenItIsMissingAndSearchedInTheLastBlockToItsEnd) {
@@ -87,15 +87,17 @@ TEST_F(AltitudeFile, DamagedFileRepairsItselfAndTheOldOneSurvives) {
     }
 }
 
-TEST_F(AltitudeFile, DirectoryIsFoundWhateverItsCaseAndOneThatIsNotEndsOnce) {
-    std::filesystem::create_directory(path() / "Neve");
-    EXPECT_TRUE(FillMunicipalities(text() + "\\NEVE", "Torino", doors));
-    EXPECT_THAT(files(), ElementsAre("Neve"));
-    EXPECT_FALSE(FillMunicipalities(text() + "\\altrove", "Torino", doors));
-    expect_ended_with(write_error);
-    std::filesystem::create_directory(path() / "altitudini.txt");
-    EXPECT_FALSE(read("Torino", "Torino"));
-    expect_ended_with(write_error);
+TEST_F(AltitudeFile, WrittenAnewLosesNoBackup) {
+    for (const std::string_view own : {"first", "second", "third", "third"}) {
+        put("altitudini.txt", own);
+        EXPECT_TRUE(WriteAltitudeFile(text(), doors));
+        EXPECT_EQ(content("altitudini.bak"), own);
+    }
+    EXPECT_TRUE(WriteAltitudeFile(text(), doors));
+    EXPECT_EQ(content("altitudini.bak"), "third") << "the built-in table itself needs no backup";
+    EXPECT_EQ(content("altitudini.bak1"), "first");
+    EXPECT_EQ(content("altitudini.bak2"), "second");
+    EXPECT_EQ(files().size(), 4U);
 }
 
 }  // namespace

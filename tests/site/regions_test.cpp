@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <map>
-
 #include "site/altitude_fields.h"
 #include "site/built_in_altitudes.h"
 

@@ -2,10 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <optional>
-#include <string>
-#include <utility>
-
 namespace coltre {
 namespace {
 

@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <string>
-
 #include "tests/support/fake_doors.h"
 #include "tests/support/suite_tree.h"
 #include "text/characters.h"
@@ -23,15 +21,8 @@ class StartOfProgram : public testing::Test {
 };
 
 TEST_F(StartOfProgram, StandAloneLivesInTheProgramsOwnDirectory) {
-    program.cells.return_period = 200;
-    program.cells.return_period_factor = 1.5;
-    program.cells.zone = 3;
-    const StartUp start = this->start("", "  d:\\programmi\\neve ");
-    EXPECT_TRUE(start.goes_on);
-    EXPECT_EQ(start.caption, std::nullopt);
-    EXPECT_EQ(start.unit_item, 0);
-    EXPECT_EQ(exposure_items.at(static_cast<std::size_t>(start.exposure_item)), "1.0");
-    EXPECT_EQ(start.region_item, 15);
+    program.cells.return_period = program.cells.return_period_factor = program.cells.zone = 3;
+    EXPECT_TRUE(start("", "  d:\\programmi\\neve ").goes_on);
     EXPECT_TRUE(program.StandaloneFlag);
     EXPECT_EQ(program.cells.return_period, 50);
     EXPECT_EQ(program.cells.return_period_factor, 1);
@@ -53,24 +44,11 @@ TEST_F(StartOfProgram, OnlyTheRootDecidesTheMode) {
     }
     EXPECT_TRUE(start("|autonomo=1" + suite.command_line(), "d:\\x").goes_on);
     EXPECT_FALSE(program.StandaloneFlag);
+    EXPECT_EQ(program.unit_setting, "3");
+    EXPECT_EQ(program.directories.ProgramDirectory, lower_case(suite.root()) + "\\progra");
     // Without bars the entry is there, but gives no root.
     EXPECT_TRUE(start("diroot=c:\\elsewhere", suite.root() + "\\Progra").goes_on);
     EXPECT_EQ(program.directories.SuiteRoot, suite.root());
-}
-
-TEST_F(StartOfProgram, SuiteShowsTheJobOrEndsAndSetsNothingMore) {
-    const StartUp start = this->start(suite.command_line(), "d:\\x");
-    EXPECT_TRUE(start.goes_on);
-    EXPECT_EQ(start.caption, "Coltre - ARCOVIA 15 - " + suite.jobs() + "\\job001");
-    EXPECT_EQ(start.unit_item, 2);
-    EXPECT_EQ(program.unit_setting, "3");
-    EXPECT_EQ(program.directories.ProgramDirectory, lower_case(suite.root()) + "\\progra");
-
-    suite.remove("VideoCorso");
-    program.cells.zone = 2;
-    EXPECT_FALSE(this->start(suite.command_line(), "d:\\x").goes_on);
-    EXPECT_EQ(fake.ended, 1);
-    EXPECT_EQ(program.cells.zone, 2);
 }
 
 }  // namespace

@@ -2,9 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <string>
-#include <vector>
-
 namespace coltre {
 namespace {
 

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include <cfloat>
-#include <string>
 
 namespace coltre {
 namespace {

@@ -1,6 +1,3 @@
-#include <algorithm>
-#include <functional>
-
 #include "tests/ui/window_test.h"
 
 namespace coltre {
@@ -27,8 +24,7 @@ TEST_F(MainCalculation, EachFamilyShowsItsCellsAlone) {
     EXPECT_THAT(texts("carico_", {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13}), Each("–"));
 
     choose_tab(1);
-    type("inputalfa1", "15");
-    type("inputalfa2", "40");  // mu1 = 0.5333
+    type({{"inputalfa1", "15"}, {"inputalfa2", "40"}});  // mu1 = 0.5333
     click("Calcola");
     EXPECT_THAT(texts("carico_", {2, 3, 4, 5, 6, 7}),
                 ElementsAre(" 1.2", " 0.8", " 0.6", " 0.8", " 1.2", " 0.4"));
@@ -36,8 +32,7 @@ TEST_F(MainCalculation, EachFamilyShowsItsCellsAlone) {
     EXPECT_THAT(texts("carico_", {8, 9, 10, 11, 12, 13}), Each("–"));
 
     choose_tab(2);
-    type("inputalfa3", "20");
-    type("inputalfa4", "40");
+    type({{"inputalfa3", "20"}, {"inputalfa4", "40"}});
     click("Calcola");
     EXPECT_THAT(texts("carico_", {8, 9, 10}), ElementsAre(" 1.2", " 2.4", " 0.8")) << "valley in the middle";
     EXPECT_THAT(texts("spor_", {8, 9, 10}), Each("–"));
@@ -50,12 +45,9 @@ TEST_F(MainCalculation, EachFamilyShowsItsCellsAlone) {
     EXPECT_EQ(text("L1output") + text("L2output"), " 12.56 3.14 [m]");
     EXPECT_EQ(text("carico_11"), "–");
     EXPECT_EQ(text("caricosuolo"), " 1.5");
-    type("TextCTermico", "1.0");
-    type("Lcopcil", "20");
-    type("hcopcil", "1");  // R = 50.5, mu3 = 0.7
+    type({{"TextCTermico", "1.0"}, {"Lcopcil", "20"}, {"hcopcil", "1"}});  // R = 50.5, mu3 = 0.7
     click("Calcola");
-    type("hcopcil", "10.01");
-    type("asinput", "1000");
+    type({{"hcopcil", "10.01"}, {"asinput", "1000"}});
     dialogs.expect(Icon::warning, "Dimensioni copertura non congruenti");
     click("Calcola");
     EXPECT_EQ(text("L1output") + text("L2output") + text("caricosuolo"), " 87.47 21.87 [m] 1.5");

@@ -69,14 +69,9 @@ TEST_F(CasipartTest, OpensAnewWithTheDesignedEntriesInTheSuiteWithItsUnit) {
     program.unit_setting = "3";
     open();
     EXPECT_EQ(tested->windowTitle(), "Coltre - Casi particolari");
-    for (const auto& [name, entry] : Texts{{"h2input", "2"},
-                                           {"b1input", "3"},
-                                           {"b2input", "5"},
-                                           {"deltainput", "10"},
-                                           {"h3input", "2.30"},
-                                           {"qsinput", "1.28"},
-                                           {"biinput", "5"},
-                                           {"angoloinput", "10"}})
+    const Texts entries{{"h2input", "2"},    {"b1input", "3"},    {"b2input", "5"}, {"deltainput", "10"},
+                        {"h3input", "2.30"}, {"qsinput", "1.28"}, {"biinput", "5"}, {"angoloinput", "10"}};
+    for (const auto& [name, entry] : entries)
         EXPECT_EQ(field(name.c_str()), entry) << name;
     EXPECT_EQ(results(), Texts{});
     EXPECT_EQ(list("udmcombo").currentText(), "kgf , cm");
@@ -85,12 +80,6 @@ TEST_F(CasipartTest, OpensAnewWithTheDesignedEntriesInTheSuiteWithItsUnit) {
     EXPECT_FALSE(get("udmcombo").isEnabled());
     click("Calcola2");
     EXPECT_EQ(program.cells.unit_system, 3);
-    click("Check1Box");
-    QTest::keyClick(&get("udmcombo"), Qt::Key_Up);
-    click("Check1Box");
-    EXPECT_FALSE(get("udmcombo").isEnabled());
-    click("Calcola2");
-    EXPECT_EQ(program.cells.unit_system, 2);
     EXPECT_EQ(report(), "no report");
 }
 
@@ -109,16 +98,14 @@ TEST_F(CasipartTest, NoteFollowsThePage) {
     EXPECT_EQ(get("cartelle").height(), pages_height) << "the pages moved";
 }
 
-// (300 / 481)^2 = 0.3890025, so G = 0.85 * 1.3890025 = 1.1806521 and 0.8 G = 0.9445217 kN/m2.
-// Level change: (b1 + b2) / 2h = 4.5, 2h / G = 5.65, so mu2 = 4.0, qs2 = 4.7226084; ls = 2h = 6.6666 m.
-// Wall, at 200 m so that no load is that of the other page: G = 1, mu2 = 2.0, qs2 = 2, qs1 = 0.8; ls = 8.2468
-// m, its decimal comma read. Snow guard: 1.28 * 5 * sin(10 deg) = 6.4 * 0.1736482 = 1.1113483 kN/m.
+// Decimal commas are read. (300 / 481)^2 = 0.3890025, so G = 0.85 * 1.3890025 = 1.1806521 and 0.8 G =
+// 0.9445217 kN/m2. Level change: (b1 + b2) / 2h = 4.5, 2h / G = 5.65, so mu2 = 4.0, qs2 = 4.7226084; ls = 2h
+// = 6.6666 m. Wall, at 200 m so that no load is that of the other page: G = 1, mu2 = 2.0, qs2 = 2, qs1 = 0.8;
+// ls = 8.2468 m. Snow guard: 1.28 * 5 * sin(10 deg) = 6.4 * 0.1736482 = 1.1113483 kN/m.
 TEST_F(CasipartTest, ShowsTheCellsOfTheSelectedPageAlone) {
     site.asinput = "300";
     Texts expected{{"carico_14", " 4.7226"}, {"carico_15", " 0.9445"}, {"lsoutput", " 6.67"}};
-    type("h2input", "3.3333");
-    type("b1input", "10");
-    type("b2input", "20");
+    type({{"h2input", "3,3333"}, {"b1input", "10,0"}, {"b2input", "20,0"}, {"deltainput", "1,5"}});
     click("Calcola2");
     EXPECT_EQ(results(), expected);
 
@@ -139,23 +126,9 @@ TEST_F(CasipartTest, ShowsTheCellsOfTheSelectedPageAlone) {
     ASSERT_EQ(shown_ground_loads.size(), 3U);
     EXPECT_DOUBLE_EQ(shown_ground_loads[2], 0.495) << "in the shared cell before it is shown";
 
-    type("angoloinput", "30");  // Fs = qs b / 2, read leniently
-    type("qsinput", "1,5");
+    type({{"angoloinput", "30"}, {"qsinput", "1,5"}});  // Fs = qs b / 2, read leniently
     click("Calcola2");
     EXPECT_EQ(text("Fsoutput"), " 2.5");
-}
-
-// h = 1 m gives ls = 5 m, qs2 = 2.0 and qs1 = 0.8; a cut at 4 m raises qs1 to 0.8 + 1.2 / 5.
-TEST_F(CasipartTest, HidesTheDriftLengthExactlyWhenItIsCut) {
-    type("h2input", "1");
-    type("b1input", "10");
-    for (const auto& [b2, visible, qs1] : {std::tuple("4", false, " 1.04"), std::tuple("5", false, " 0.8"),
-                                           std::tuple("5.001", true, " 0.8")}) {
-        type("b2input", b2);
-        click("Calcola2");
-        EXPECT_EQ(get("lsoutput").isVisible(), visible) << b2;
-        EXPECT_EQ(text("carico_15"), qs1) << b2;
-    }
 }
 
 TEST_F(CasipartTest, AnEarlyStopIsToldAndLeavesEveryLabel) {
@@ -212,12 +185,6 @@ TEST_F(CasipartTest, ReportHoldsTheSelectedCaseAndIsConfirmedAfterTheResultsAreS
     EXPECT_EQ(shown_at_the_message, " 2");
     EXPECT_THAT(report(), AllOf(HasSubstr("m ; Kgf/mq ; Kgf/m\r\n"), HasSubstr("CONTRO PARETI VERTICALI\r\n"),
                                 Not(HasSubstr("DISCONTINUITA'"))));
-
-    // A stop leaves the heading, unconfirmed.
-    type("h3input", "");
-    dialogs.expect_stop("conversione non valida.\rIl campo «h» è vuoto.");
-    click("Calcola2");
-    EXPECT_THAT(report(), testing::EndsWith("qsk (carico neve al suolo) = 1.\r\n\r\n"));
 
     // A directory that cannot be written leaves no result either.
     program.directories.WorkDirectory += "\\missing";

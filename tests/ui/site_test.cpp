@@ -44,15 +44,6 @@ TEST_F(Site, SecondReadErrorEndsTheProgramAndLeavesTheWindowAsItIs) {
     EXPECT_EQ(field("asinput"), "239");
 }
 
-TEST_F(Site, EditedFileCountsAtTheNextChoiceAndComesBackWhereAMunicipalityIsGone) {
-    directory.put("altitudini.txt", "Torino\r\nAglie'    12\r\n\r\n");
-    municipalities.setCurrentText("Aglie'");
-    EXPECT_EQ(field("asinput"), "12");
-    municipalities.setCurrentText("Sestriere");
-    EXPECT_EQ(field("asinput"), "2035") << "of the file written anew";
-    EXPECT_EQ(directory.content("altitudini.bak"), "Torino\r\nAglie'    12\r\n\r\n");
-}
-
 TEST_F(Site, ClosedListJumpsToWhatIsTyped) {
     municipalities.setFocus();
     QTest::keyClicks(&municipalities, "agli");

@@ -1,5 +1,3 @@
-#include <set>
-
 #include "tests/support/suite_tree.h"
 #include "tests/ui/window_test.h"
 #include "ui/number_field.h"
@@ -78,25 +76,6 @@ TEST_F(SuiteStart, ShowsTheJobAndSelectsKgfAndCm) {
     start("|autonomo=1" + suite.command_line());
     EXPECT_EQ(window.windowTitle().toStdString(), "Coltre - ARCOVIA 15 - " + suite.jobs() + "\\job001");
     EXPECT_EQ(list("udmcombo").currentText(), "kgf , cm");
-
-    // The report goes to the job, though the root on the command line comes back in lower case.
-    click("Check1Box");
-    dialogs.expect(Icon::none,
-                   "Creazione della relazione " + suite.jobs() + "\\job001\\coltre.txt effettuata");
-    click("Calcola");
-    EXPECT_TRUE(std::filesystem::exists(find_path(suite.jobs() + "\\job001\\coltre.txt")));
-}
-
-TEST_F(SuiteStart, FaultOfTheSuiteEndsTheProgramBeforeTheListsAreFilled) {
-    suite.remove("IMPOSTAZIONI");
-    // The text of the box belongs to the directory check; here it counts that the end is the end.
-    class AnyBox : public FakeDialogs {
-        void show(const Message& message) override { EXPECT_EQ(message.title, "ERRORE"); }
-    } any;
-    Form1 other(program, any, any);
-    EXPECT_FALSE(other.load(suite.command_line(), directory.text()));
-    EXPECT_EQ(any.ended, 1);
-    EXPECT_EQ(control<QComboBox>(other, "regione").count(), 0);
 }
 
 }  // namespace

@@ -54,6 +54,10 @@ class WindowTest : public testing::Test {
         QTest::keyClick(&edit, Qt::Key_Delete);
         QTest::keyClicks(&edit, typed);
     }
+    void type(const std::vector<std::pair<const char*, const char*>>& entries) {
+        for (const auto& [name, typed] : entries)
+            type(name, typed);
+    }
     /// A check box answers on its mark and its text alone, not on the whole of its rectangle.
     void click(const char* button) {
         QTest::mouseClick(&get(button), Qt::LeftButton, {}, QPoint(10, get(button).height() / 2));

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
-#include <limits>
 
 namespace coltre {
 namespace {
@@ -31,24 +30,6 @@ TEST(SlabSection, HasTheSameThicknessOnBothSidesAndNoSpike) {
     EXPECT_NEAR(slab[5].y, 107.071, 1e-3);
     // A sharp corner is cut short.
     EXPECT_LT(slab_section({{-1, 1000}, {0, 0}, {1, 1000}}, 10)[4].y, 40);
-}
-
-TEST(Ordinate, IsFiniteForEveryLoad) {
-    constexpr double nan = std::numeric_limits<double>::quiet_NaN(), inf = HUGE_VAL;
-    EXPECT_DOUBLE_EQ(ordinate(1.5, 3, 600), 300);
-    EXPECT_DOUBLE_EQ(ordinate(-1, 3, 600), 0);
-    for (const double load : {0.0, nan, inf, -inf, 1e300}) {
-        for (const double largest : {0.0, nan, inf, 1.0})
-            EXPECT_THAT(ordinate(load, largest, 600), testing::AllOf(testing::Ge(0), testing::Le(600)));
-    }
-}
-
-TEST(Quantity, IsWrittenWithFiveDigitsAndTheDecimalPoint) {
-    Drawing drawing;
-    EXPECT_EQ(quantity(drawing, "b1", 3.5, " m"), "b1 = 3.5 m");
-    EXPECT_EQ(pitch_text(drawing, "α", 33.333333), "α = 33.33°");
-    drawing.neutral = true;
-    EXPECT_EQ(quantity(drawing, "b1", 3.5, " m"), "b1");
 }
 
 TEST(AddLoad, SpacesItsArrowsEvenlyAndEndsThemOnTheBase) {

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <limits>
 #include <random>
-#include <tuple>
 
 #include "ui/sketches/sketches.h"
 

@@ -24,7 +24,6 @@ QByteArray content(const QString& path) {
 class SketchWidgetTest : public testing::Test {
   protected:
     SketchWidgetTest() {
-        sketch.tell_error = [this](const QString& text) { errors.push_back(text.toStdString()); };
         sketch.host(qs2, "carico_14");
         sketch.host(ls, "lsoutput");
         sketch.set_drawing(level_change(8));
@@ -34,7 +33,6 @@ class SketchWidgetTest : public testing::Test {
     }
 
     QTemporaryDir directory;
-    std::vector<std::string> errors;
     SketchWidget sketch;
     QLabel* qs2 = new QLabel(" 3.7594");  // its children
     QLabel* ls = new QLabel(" 5");
@@ -74,7 +72,7 @@ TEST_F(SketchWidgetTest, LabelOfAHiddenSlotIsHiddenAndInNoPicture) {
     EXPECT_FALSE(ls->isHidden());
 }
 
-TEST_F(SketchWidgetTest, TheMenuSavesThePictureWithTheNumbersAndTellsWhyNot) {
+TEST_F(SketchWidgetTest, TheMenuSavesThePictureWithTheNumbers) {
     sketch.set_suggested_name("discontinuita");
     QString suggestion;
     sketch.ask_file = [&](const QString&, const QString& suggested, const QString&) {
@@ -94,10 +92,6 @@ TEST_F(SketchWidgetTest, TheMenuSavesThePictureWithTheNumbersAndTellsWhyNot) {
     QImage png;
     ASSERT_TRUE(png.loadFromData(saved_by("salva_png"), "PNG"));
     EXPECT_EQ(png.size(), QSize(1000, 574));
-    EXPECT_THAT(errors, testing::IsEmpty());
-    EXPECT_FALSE(sketch.save(directory.filePath("manca/schizzo.pdf"), PictureFormat::pdf));
-    EXPECT_THAT(errors,
-                testing::ElementsAre("Impossibile salvare il file schizzo.pdf: la cartella non esiste"));
 }
 
 // A picture in a report is dark on white, whatever the screen shows.

@@ -135,9 +135,9 @@ TEST(LevelChangeSketch, LengthsHaveOneScaleUntilOneIsBroken) {
     EXPECT_TRUE(has_text(drawing, "b2 = 9 m"));
 
     const std::size_t unbroken = shapes_of(drawing, Role::break_mark).size();
-    const Drawing wide = level_change(4, 6000, 3, 20);
+    const Drawing wide = level_change(4, 6000.04, 3, 20);
     EXPECT_EQ(shapes_of(wide, Role::break_mark).size(), unbroken + 2) << "on the roof and on its dimension";
-    EXPECT_TRUE(has_text(wide, "b2 = 6000 m"));
+    EXPECT_TRUE(has_text(wide, "b2 = 6000 m")) << "of five digits";
 }
 
 TEST(DriftSketches, OrdinatesFollowTheResults) {
@@ -153,11 +153,12 @@ TEST(DriftSketches, OrdinatesFollowTheResults) {
 }
 
 TEST(SnowGuardSketch, ForceActsDownTheSlopeOnTheObstacle) {
-    const Drawing drawing = sketch_special_case({SpecialCase::snow_guard, 0, 0, 0, 25, 1.28, 5}, nullptr);
+    const Drawing drawing = sketch_special_case({SpecialCase::snow_guard, 0, 0, 0, 25.001, 1.28, 5}, nullptr);
     const auto force = std::ranges::find(drawing.arrows, Role::point_load, &Arrow::role);
     ASSERT_NE(force, drawing.arrows.end());
-    EXPECT_NEAR(slope(force->to, force->from), 25, 1e-9);
+    EXPECT_NEAR(slope(force->to, force->from), 25.001, 1e-9);
     EXPECT_LT(force->to.x, force->from.x);
+    EXPECT_TRUE(has_text(drawing, "α = 25°"));
     EXPECT_TRUE(has_text(drawing, "b = 5 m"));
     EXPECT_TRUE(has_text(drawing, "qs = 1.28 kN/m²"));
 }
