@@ -55,6 +55,8 @@ TEST_F(Dialogs, RejectedReturnPeriodKeepsTheDialogOpenAndTheFactor) {
     EXPECT_EQ(control<QLineEdit>(dialog, "InputPerRIT").text(), "50");
     dialogs.expect(Icon::error, "Il Periodo di Ritorno deve essere un numero maggiore di 0.");
     confirm(dialog, "-3");
+    dialogs.expect_stop("errore numerico.\rIl numero scritto per «periodo di ritorno» è troppo grande.");
+    confirm(dialog, "1e309");  // is no number that the cell could take
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(text("OutputPerRit"), "50");
     EXPECT_EQ(program.cells.return_period, -3);
