@@ -106,6 +106,13 @@ TEST_F(MainCalculation, SketchFollowsWhatIsTypedAndCarriesTheLabels) {
     EXPECT_FALSE(sketch.save("/nowhere/x.svg", PictureFormat::svg));
 }
 
+TEST_F(MainCalculation, MnemonicsCountBeforeTheNextKey) {
+    dialogs.expect(Icon::none, "Creazione della relazione " + directory.text() + "\\coltre.txt effettuata");
+    QTest::keyClick(&window, Qt::Key_R, Qt::AltModifier);
+    QTest::keyClick(&window, Qt::Key_Return);
+    EXPECT_TRUE(directory.content("coltre.txt"));
+}
+
 TEST_F(MainCalculation, EnterInAnyFieldCalculates) {
     for (const char* name : {"regione", "asinput", "TextCTermico", "inputalfa", "Check1Box", "SSTab1"}) {
         get<QLabel>("carico_1").setText("");

@@ -46,6 +46,7 @@ TEST_F(Dialogs, ReturnPeriodIsConfirmedWhileTheMainWindowStaysUsable) {
     confirm(dialog, "  100 ");
     EXPECT_EQ(open_window<PeriododiRitorno>(), nullptr);
     EXPECT_EQ(text("OutputPerRit"), "100");
+    EXPECT_EQ(get("OutputPerRit").toolTip(), "coefficiente del periodo di ritorno: 0.9009");
     click("Calcola");
     EXPECT_EQ(text("caricosuolo"), " 1.3514");  // 1.5 times 0.9009
 }
