@@ -64,8 +64,8 @@ void snow_guard(Calculation& run, const SpecialCaseEntries& entries) {
 }  // namespace
 
 Checked drift_length(double h) {
-    const Checked length = Checked(2) * h;
-    return length.fault() == Fault::none ? std::clamp(length.value(), 5.0, 15.0) : length;
+    const Checked twice_h = Checked(2) * h;
+    return twice_h.fault() == Fault::none ? std::clamp(twice_h.value(), 5.0, 15.0) : twice_h;
 }
 
 bool drift_is_cut(double ls, double b2) {

@@ -73,9 +73,9 @@ bool stays_inside(const cli::Request& request) {
 std::string answers(const std::string& lines, const TemporaryDirectory& program) {
     const Workplace workplace(program);
     std::istringstream in(lines);
-    std::ostringstream out, err;
+    std::ostringstream out;
     const cli::BatchEnd end =
-        cli::run_batch(in, out, err, {.own_directory = program.text(), .decimal_separator = ','});
+        cli::run_batch(in, out, {.own_directory = program.text(), .decimal_separator = ','});
     require(end == cli::BatchEnd::all_well || end == cli::BatchEnd::some_failed, "the streams are sound");
     workplace.check_files();
     return out.str();
