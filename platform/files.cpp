@@ -1,7 +1,6 @@
 #include "platform/files.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <chrono>
 #include <memory>

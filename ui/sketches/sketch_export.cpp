@@ -1,7 +1,6 @@
 #include "ui/sketches/sketch_export.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QFile>
 #include <QPageSize>
 #include <QPainter>
