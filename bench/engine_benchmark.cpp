@@ -17,7 +17,7 @@ void calculate(benchmark::State& state, const Roof& roof) {
     for (auto _ : state) {
         Roof typed = roof;
         benchmark::DoNotOptimize(typed);
-        benchmark::DoNotOptimize(calculate_roof(cells, typed, nullptr));
+        benchmark::DoNotOptimize(calculate_roof(cells, typed));
         benchmark::ClobberMemory();
     }
 }

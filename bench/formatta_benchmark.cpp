@@ -13,17 +13,12 @@ namespace {
 
 using namespace coltre;
 
-class NoBoxes : public MessageBoxes {
-  public:
-    void show(const Message& /*message*/) override {}
-};
-
 void format(benchmark::State& state, std::string_view directives) {
-    NoBoxes boxes;
+    Messages told;
     double value = 1.23456789;
     for (auto _ : state) {
         benchmark::DoNotOptimize(value);
-        std::string text = formatta(value, directives, 1.0, boxes);
+        std::string text = formatta(value, directives, 1.0, told);
         benchmark::DoNotOptimize(text.data());
     }
 }

@@ -24,7 +24,7 @@ constexpr double at_most_ms = 5;
 constexpr int runs = 101;
 
 /// A user who closes every message box at once.
-class QuickUser : public UserDialogs, public ProgramEnd {
+class QuickUser : public UserDialogs {
   public:
     void show(const Message& /*message*/) override {}
     bool ask(const Message& /*question*/) override { return true; }
@@ -52,7 +52,7 @@ int main(int argc, char** argv) {
     const TemporaryDirectory directory;
     Program program;
     QuickUser user;
-    Form1 window(program, user, user);
+    Form1 window(program, user);
     if (!window.load("", directory.text())) return 2;
     window.resize(1280, 760);
     window.show();

@@ -1,6 +1,5 @@
 #include "calculate/Calcola.h"
 
-#include "engine/both_observers.h"
 #include "engine/ground_load.h"
 #include "engine/roof_loads.h"
 #include "report/snow_load_report.h"
@@ -11,13 +10,11 @@ namespace coltre {
 
 namespace {
 
-Message altitude_message() {
-    return {Icon::information, std::string(program_title),
-            "<Per altitudini superiori a 1500 m sul livello del mare si dovrà fare riferimento\r"
-            "alle condizioni locali di clima e di esposizione utilizzando comunque valori di\r"
-            "carico neve non inferiori a quelli previsti per 1500 m.>\r"
-            "(Circ. 4 luglio 1996)"};
-}
+constexpr const char* altitude_note =
+    "<Per altitudini superiori a 1500 m sul livello del mare si dovrà fare riferimento\r"
+    "alle condizioni locali di clima e di esposizione utilizzando comunque valori di\r"
+    "carico neve non inferiori a quelli previsti per 1500 m.>\r"
+    "(Circ. 4 luglio 1996)";
 
 /// Why the roof load under an overhang load is 0: the pitch that made it so, or the ground load.
 std::string zero_load_reason(std::string_view quantity, const Roof& roof, const ProgramCells& cells) {
@@ -42,56 +39,53 @@ Stop explain(const CalculationEnd& end, const Roof& roof, const ProgramCells& ce
 }
 
 /// Ground load with the altitude message on the way.
-/// @param altitude  out: as read, m
-std::optional<Stop> set_ground_load(const MainWindowFields& fields, ProgramCells& cells, double& altitude,
-                                    ClickOutcome& outcome, MessageBoxes& message_boxes) {
+std::optional<Stop> set_ground_load(const MainWindowFields& fields, ProgramCells& cells,
+                                    ClickOutcome& outcome) {
     EntryReader reader;
-    altitude = reader.lenient("altitudine", fields.asinput);
+    const double altitude = reader.lenient("altitudine", fields.asinput);
     if (reader.stop()) return reader.stop();
     if (altitude > highest_regulated_altitude) {
-        message_boxes.show(altitude_message());
+        outcome.tell(Icon::information, altitude_note);
         // Deliberate: this calculation goes on with the altitude as typed; only a later one reads 1500.
         outcome.asinput = display_number_text(highest_regulated_altitude);
     }
     if (auto stop = set_base_load(cells, altitude)) return stop;
     const auto [CE, Ct] = reader.coefficients(fields.ComboEsp, fields.TextCTermico);
     if (reader.stop()) return reader.stop();
-    return apply_coefficients(cells, CE, Ct);
+    if (auto stop = apply_coefficients(cells, CE, Ct)) return stop;
+    outcome.altitude = altitude;
+    outcome.qsk = cells.qsk;
+    return std::nullopt;
 }
 
-/// Load cases of the selected roof, and the two labels that show their widths at once.
-std::optional<Stop> calculate_family(const MainWindowFields& fields, ProgramCells& cells,
-                                     ClickOutcome& outcome, MessageBoxes& message_boxes,
-                                     CalculationObserver& observer) {
-    /// Writes the labels of L1 and L2 as soon as these are known, even if the calculation stops afterwards.
-    struct WidthLabels : CalculationObserver {
-        explicit WidthLabels(ClickOutcome& labels) : outcome(labels) {}
-        void on_cell(const ResultCell& cell, double value) override {
-            const std::string text = display_number_text(round_half_even(value, 2));
-            // Deliberate: the unit stands at L2 alone.
-            if (cell.name == results::L1.name) outcome.L1output = text;
-            if (cell.name == results::L2.name) outcome.L2output = text + " [m]";
-        }
-        ClickOutcome& outcome;
-    };
+/// The texts of the two labels that show the widths as soon as these are known.
+void set_width_labels(ClickOutcome& outcome) {
+    for (const auto& [cell, value] : outcome.calculation.results) {
+        const std::string text = display_number_text(round_half_even(value, 2));
+        // Deliberate: the unit stands at L2 alone.
+        if (cell == &results::L1) outcome.L1output = text;
+        if (cell == &results::L2) outcome.L2output = text + " [m]";
+    }
+}
 
+/// Load cases of the selected roof, with their section of the report.
+void calculate_family(const MainWindowFields& fields, const SnowLoadReportData& data, ProgramCells& cells,
+                      std::optional<ReportFile>& report, ClickOutcome& outcome) {
     EntryReader reader;
     const Roof roof = read_roof(fields, reader);
-    if (reader.stop()) return reader.stop();
-    WidthLabels labels(outcome);
-    BothObservers both(labels, observer);
-    CalculationObserver& observers = roof.family == RoofFamily::cylindrical ? both : observer;
+    if (reader.stop()) return outcome.stop(*reader.stop());
+    outcome.calculation = calculate_roof(cells, roof);
+    if (roof.family == RoofFamily::cylindrical) set_width_labels(outcome);
+    if (report) write_roof(*report, data, cells, roof, outcome.calculation);
 
-    const CalculationEnd end = calculate_roof(cells, roof, &observers);
+    const CalculationEnd& end = outcome.calculation.end;
+    outcome.results_complete = !end.stopped();
     if (end.fault == Fault::incongruent_dimensions) {
         outcome.fault = end.fault;
-        message_boxes.show(
-            {Icon::warning, std::string(program_title), "Dimensioni copertura non congruenti"});
-        return std::nullopt;
+        outcome.tell(Icon::warning, "Dimensioni copertura non congruenti");
+    } else if (end.stopped()) {
+        outcome.stop(explain(end, roof, cells));
     }
-    if (end.stopped()) return explain(end, roof, cells);
-    outcome.results_complete = true;
-    return std::nullopt;
 }
 
 }  // namespace
@@ -119,30 +113,24 @@ Roof read_roof(const MainWindowFields& fields, EntryReader& reader) {
     return roof;
 }
 
-ClickOutcome Calcola(const MainWindowFields& fields, Program& program, MessageBoxes& message_boxes,
-                     CalculationObserver& observer) {
+ClickOutcome Calcola(const MainWindowFields& fields, Program& program) {
     ClickOutcome outcome;
     ProgramCells& cells = program.cells;
-    double altitude = 0;
-    if (tell_if_stopped(set_ground_load(fields, cells, altitude, outcome, message_boxes), outcome,
-                        message_boxes))
+    if (const auto stop = set_ground_load(fields, cells, outcome)) {
+        outcome.stop(*stop);
         return outcome;
-    outcome.altitude = altitude;
-    outcome.qsk = cells.qsk;
-    cells.unit_system = unit_system_of(fields.udmcombo).value_or(cells.unit_system);
-    std::optional<SnowLoadReport> report;
-    if (fields.Check1Box) {
-        report.emplace(SnowLoadReportData{.WorkDirectory = program.directories.WorkDirectory,
-                                          .JobName = program.directories.JobName,
-                                          .Lcopcil = fields.Lcopcil,
-                                          .hcopcil = fields.hcopcil,
-                                          .altitude = altitude},
-                       cells, message_boxes);
     }
-    calculate_with_report(report ? &*report : nullptr, observer, outcome, message_boxes,
-                          [&](CalculationObserver& observers) {
-                              return calculate_family(fields, cells, outcome, message_boxes, observers);
-                          });
+    cells.unit_system = unit_system_of(fields.udmcombo).value_or(cells.unit_system);
+
+    const SnowLoadReportData data{program.directories.JobName, fields.Lcopcil, fields.hcopcil,
+                                  *outcome.altitude};
+    std::optional<ReportFile> report;
+    if (fields.Check1Box) {
+        report.emplace(program.directories.WorkDirectory + "\\coltre.txt", outcome.messages);
+        write_heading(*report, data, cells);
+    }
+    if (!report || report->failure().empty()) calculate_family(fields, data, cells, report, outcome);
+    if (report) close_report(*report, "Creazione della relazione " + report->name() + " effettuata", outcome);
     return outcome;
 }
 

@@ -28,8 +28,6 @@ Roof read_roof(const MainWindowFields& fields, EntryReader& reader);
 /// selected roof, end of the report. Results go into the program's cells, coltre.txt into its WorkDirectory.
 /// Told on the way: an altitude above 1500 m, a cylindrical roof that cannot be, the report written or not
 /// written, and any fault that stops the calculation; all that was computed before it stays.
-/// @param observer  hears of each result as soon as it is computed
-ClickOutcome Calcola(const MainWindowFields& fields, Program& program, MessageBoxes& message_boxes,
-                     CalculationObserver& observer);
+ClickOutcome Calcola(const MainWindowFields& fields, Program& program);
 
 }  // namespace coltre

@@ -18,25 +18,30 @@ Stop explain(const CalculationEnd& end, const SpecialCaseEntries& entries, const
     return stop;
 }
 
-std::optional<Stop> calculate_page(const SpecialCasesFields& fields, ProgramCells& cells,
-                                   ClickOutcome& outcome, CalculationObserver& observer) {
-    EntryReader reader;
-    const SpecialCaseEntries entries = read_entries(fields, reader);
-    if (reader.stop()) return reader.stop();
-    const CalculationEnd end = calculate_special_case(cells, entries, &observer);
-    if (end.stopped()) return explain(end, entries, cells);
-    outcome.results_complete = true;
-    return std::nullopt;
-}
-
 std::optional<Stop> set_design_ground_load(const SpecialCasesFields& fields, ProgramCells& cells,
-                                           double& altitude) {
+                                           ClickOutcome& outcome) {
     EntryReader reader;
-    altitude = reader.lenient("altitudine", fields.asinput);
+    const double altitude = reader.lenient("altitudine", fields.asinput);
     const auto [CE, Ct] = reader.coefficients(fields.ComboEsp, fields.TextCTermico);
     if (reader.stop()) return reader.stop();
     if (auto stop = set_base_load(cells, altitude)) return stop;
-    return apply_coefficients(cells, CE, Ct);
+    if (auto stop = apply_coefficients(cells, CE, Ct)) return stop;
+    outcome.altitude = altitude;
+    outcome.qsk = cells.qsk;
+    return std::nullopt;
+}
+
+/// The special case of the selected page, with its section of the report.
+void calculate_page(const SpecialCasesFields& fields, const SpecialCasesReportData& data, ProgramCells& cells,
+                    std::optional<ReportFile>& report, ClickOutcome& outcome) {
+    EntryReader reader;
+    const SpecialCaseEntries entries = read_entries(fields, reader);
+    if (reader.stop()) return outcome.stop(*reader.stop());
+    outcome.calculation = calculate_special_case(cells, entries);
+    const CalculationEnd& end = outcome.calculation.end;
+    outcome.results_complete = !end.stopped();
+    if (end.stopped()) return outcome.stop(explain(end, entries, cells));
+    if (report) write_special_case(*report, data, cells, entries);
 }
 
 }  // namespace
@@ -63,27 +68,23 @@ SpecialCaseEntries read_entries(const SpecialCasesFields& fields, EntryReader& r
     return entries;
 }
 
-ClickOutcome Calcola2(const SpecialCasesFields& fields, Program& program, MessageBoxes& message_boxes,
-                      CalculationObserver& observer) {
+ClickOutcome Calcola2(const SpecialCasesFields& fields, Program& program) {
     ClickOutcome outcome;
     ProgramCells& cells = program.cells;
-    double altitude = 0;
-    if (tell_if_stopped(set_design_ground_load(fields, cells, altitude), outcome, message_boxes))
+    if (const auto stop = set_design_ground_load(fields, cells, outcome)) {
+        outcome.stop(*stop);
         return outcome;
-    outcome.altitude = altitude;
-    outcome.qsk = cells.qsk;
-    cells.unit_system = unit_system_of(fields.udmcombo).value_or(cells.unit_system);
-    std::optional<SpecialCasesReport> report;
-    if (fields.Check1Box) {
-        report.emplace(SpecialCasesReportData{.WorkDirectory = program.directories.WorkDirectory,
-                                              .JobName = program.directories.JobName,
-                                              .angoloinput = fields.angoloinput,
-                                              .altitude = altitude},
-                       cells, message_boxes);
     }
-    calculate_with_report(
-        report ? &*report : nullptr, observer, outcome, message_boxes,
-        [&](CalculationObserver& observers) { return calculate_page(fields, cells, outcome, observers); });
+    cells.unit_system = unit_system_of(fields.udmcombo).value_or(cells.unit_system);
+
+    const SpecialCasesReportData data{program.directories.JobName, fields.angoloinput, *outcome.altitude};
+    std::optional<ReportFile> report;
+    if (fields.Check1Box) {
+        report.emplace(program.directories.WorkDirectory + "\\coltrecasipart.txt", outcome.messages);
+        write_heading(*report, data, cells);
+    }
+    if (!report || report->failure().empty()) calculate_page(fields, data, cells, report, outcome);
+    if (report) close_report(*report, "Creazione della relazione coltrecasipart.txt effettuata", outcome);
     return outcome;
 }
 

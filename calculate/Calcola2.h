@@ -29,8 +29,6 @@ SpecialCaseEntries read_entries(const SpecialCasesFields& fields, EntryReader& r
 /// unit system, heading of the report, the special case of the selected page, end of the report. Results go
 /// into the program's cells, coltrecasipart.txt into its WorkDirectory. An altitude above 1500 m is not told
 /// here.
-/// @param observer  hears of each result as soon as it is computed
-ClickOutcome Calcola2(const SpecialCasesFields& fields, Program& program, MessageBoxes& message_boxes,
-                      CalculationObserver& observer);
+ClickOutcome Calcola2(const SpecialCasesFields& fields, Program& program);
 
 }  // namespace coltre

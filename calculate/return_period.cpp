@@ -1,5 +1,7 @@
 #include "calculate/return_period.h"
 
+#include <utility>
+
 #include "calculate/entry_reader.h"
 #include "engine/ground_load.h"
 #include "text/characters.h"
@@ -15,35 +17,27 @@ Message return_period_question() {
             "Modificare il Periodo di Ritorno?"};
 }
 
-ReturnPeriodOutcome confirm_return_period(std::string_view InputPerRIT, ProgramCells& cells,
-                                          MessageBoxes& message_boxes) {
+ReturnPeriodOutcome confirm_return_period(std::string_view InputPerRIT, ProgramCells& cells) {
+    const auto stopped = [](const Stop& stop) {
+        return ReturnPeriodOutcome{message_of(stop), std::nullopt, stop.fault};
+    };
+    const auto refused = [](std::string text) {
+        return ReturnPeriodOutcome{Message{Icon::error, std::string(program_title), std::move(text)}, {}, {}};
+    };
     EntryReader reader;
     const double Tr = reader.lenient("periodo di ritorno", InputPerRIT);
-    if (reader.stop()) {
-        tell_stop(*reader.stop(), message_boxes);
-        return {std::nullopt, reader.stop()->fault};
-    }
+    if (reader.stop()) return stopped(*reader.stop());
     cells.return_period = Tr;
-    if (Tr <= 0) {
-        message_boxes.show({Icon::error, std::string(program_title),
-                            "Il Periodo di Ritorno deve essere un numero maggiore di 0."});
-        return {};
-    }
+    if (Tr <= 0) return refused("Il Periodo di Ritorno deve essere un numero maggiore di 0.");
     // Up to 1 year the factor's logarithm is not defined.
-    if (Tr <= 1) {
-        message_boxes.show({Icon::error, std::string(program_title),
-                            "Il Periodo di Ritorno deve essere un numero maggiore di 1."});
-        return {};
-    }
+    if (Tr <= 1) return refused("Il Periodo di Ritorno deve essere un numero maggiore di 1.");
     const Checked factor = return_period_factor(Tr);
     if (factor.fault() != Fault::none) {
-        tell_stop(
-            {factor.fault(), "Il Periodo di Ritorno è troppo lungo: il coefficiente non si può calcolare."},
-            message_boxes);
-        return {std::nullopt, factor.fault()};
+        return stopped(
+            {factor.fault(), "Il Periodo di Ritorno è troppo lungo: il coefficiente non si può calcolare."});
     }
     cells.return_period_factor = factor.value();
-    return {std::string(trim_blanks(display_number_text(Tr))), Fault::none};
+    return {std::nullopt, std::string(trim_blanks(display_number_text(Tr))), Fault::none};
 }
 
 }  // namespace coltre

@@ -22,10 +22,9 @@ std::string_view fault_text(Fault fault) {
     return {};
 }
 
-void tell_stop(const Stop& stop, MessageBoxes& message_boxes) {
-    message_boxes.show(
-        {Icon::error, std::string(program_title),
-         "Calcolo interrotto: " + std::string(fault_text(stop.fault)) + ".\r" + stop.explanation});
+Message message_of(const Stop& stop) {
+    return {Icon::error, std::string(program_title),
+            "Calcolo interrotto: " + std::string(fault_text(stop.fault)) + ".\r" + stop.explanation};
 }
 
 }  // namespace coltre

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "engine/calculation.h"
-#include "platform/message_boxes.h"
+#include "platform/messages.h"
 
 namespace coltre {
 
@@ -21,7 +21,7 @@ Stop stop_of(const CalculationEnd& end);
 /// "dimensioni non congruenti"; empty for Fault::none.
 std::string_view fault_text(Fault fault);
 
-/// Tells the user once, in a message box, that the calculation stopped and why.
-void tell_stop(const Stop& stop, MessageBoxes& message_boxes);
+/// Says that the calculation stopped and why.
+Message message_of(const Stop& stop);
 
 }  // namespace coltre

@@ -1,6 +1,7 @@
 #include "cli/perform.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "calculate/Calcola.h"
@@ -15,38 +16,6 @@
 namespace coltre::cli {
 
 namespace {
-
-/// Keeps the message boxes that the windows would have shown; a program end ends the request alone.
-class CollectedMessages : public MessageBoxes, public ProgramEnd {
-  public:
-    explicit CollectedMessages(std::vector<Message>& messages) : m_messages(messages) {}
-    void show(const Message& message) override { m_messages.push_back(message); }
-    void end() override {}
-    Doors doors() { return {*this, *this}; }
-
-  private:
-    std::vector<Message>& m_messages;
-};
-
-/// Keeps coefficients and result cells as they are set.
-class ResultCollector : public CalculationObserver {
-  public:
-    explicit ResultCollector(Result& result) : m_result(result) {}
-    void on_cell(const ResultCell& cell, double value) override {
-        // The cut of a drift sets its cells once more.
-        const auto earlier = std::ranges::find(m_result.results, cell.name,
-                                               [](const auto& result) { return result.first.name; });
-        if (earlier != m_result.results.end()) {
-            earlier->second = value;
-        } else {
-            m_result.results.emplace_back(cell, value);
-        }
-    }
-    void on_coefficient(std::string_view label, double mu) override { m_result.mu.emplace_back(label, mu); }
-
-  private:
-    Result& m_result;
-};
 
 /// What a calculation takes from entries that it cannot wholly understand: "1,5" is 1. The windows mark such
 /// a field.
@@ -110,7 +79,6 @@ Result perform(const Request& request, const Surroundings& surroundings, SiteMem
     if (result.wrong_request) return result;
     result.misread = misread_entries(request);
 
-    CollectedMessages collected(result.messages);
     Program program;
     program.directories.ProgramDirectory = surroundings.own_directory;
     if (const auto& directory = request.value(Key::altitudini)) {
@@ -123,7 +91,7 @@ Result perform(const Request& request, const Surroundings& surroundings, SiteMem
 
     std::string altitude;
     if (request.value(Key::provincia)) {
-        const auto site = site_by_name(request, program, collected.doors(), memory, result);
+        const auto site = site_by_name(request, program, memory, result);
         if (!site) return result;
         altitude = site->altitude;
     }
@@ -132,20 +100,21 @@ Result perform(const Request& request, const Surroundings& surroundings, SiteMem
     result.zone = program.cells.zone;
 
     if (const auto& Tr = request.value(Key::periodo_ritorno)) {
-        const Fault fault = confirm_return_period(*Tr, program.cells, collected).fault;
-        if (fault != Fault::none) {
-            result.error = fault_text(fault);
+        ReturnPeriodOutcome outcome = confirm_return_period(*Tr, program.cells);
+        if (outcome.message) result.messages.push_back(*std::move(outcome.message));
+        if (outcome.fault != Fault::none) {
+            result.error = fault_text(outcome.fault);
             result.told = true;
             return result;
         }
     }
 
-    ResultCollector collector(result);
     const bool special = *request.kind >= Kind::discontinuita;
-    const ClickOutcome outcome =
-        special ? Calcola2(special_cases_fields(request, altitude, surroundings.decimal_separator), program,
-                           collected, collector)
-                : Calcola(main_window_fields(request, altitude), program, collected, collector);
+    ClickOutcome outcome =
+        special ? Calcola2(special_cases_fields(request, altitude, surroundings.decimal_separator), program)
+                : Calcola(main_window_fields(request, altitude), program);
+    std::ranges::move(outcome.messages, std::back_inserter(result.messages));
+    result.calculation = outcome.calculation;
     result.altitude = outcome.altitude;
     result.qsk = outcome.qsk;
     result.error =

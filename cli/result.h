@@ -9,7 +9,7 @@
 #include "cli/request.h"
 #include "engine/calculation.h"
 #include "engine/program_cells.h"
-#include "platform/message_boxes.h"
+#include "platform/messages.h"
 
 namespace coltre::cli {
 
@@ -21,11 +21,10 @@ struct Result {
     std::string municipality;
     std::optional<double> altitude;  ///< m
     std::optional<SnowZone> zone;
-    std::optional<double> qsk;                            ///< kN/m2
-    std::vector<std::pair<std::string_view, double>> mu;  ///< by the label of the load case
-    std::vector<std::pair<ResultCell, double>> results;   ///< in their order of setting
-    std::string report;                                   ///< path of the report; empty if none was written
-    std::vector<Message> messages;                        ///< the message boxes, in order
+    std::optional<double> qsk;  ///< kN/m2
+    Calculation calculation;
+    std::string report;  ///< path of the report; empty if none was written
+    Messages messages;
     std::vector<std::string> misread;  ///< in Italian: each entry that was not wholly understood
     std::string error;                 ///< empty if all is well
     bool told = false;                 ///< a message box has said what went wrong

@@ -43,15 +43,15 @@ class ObjectWriter {
 
 void append_coefficients(std::string& json, const Result& result) {
     ObjectWriter object(json);
-    for (const auto& [label, mu] : result.mu)
+    for (const auto& [label, mu] : result.calculation.coefficients)
         object.number(label, mu);
     object.close();
 }
 
 void append_results(std::string& json, const Result& result) {
     ObjectWriter object(json);
-    for (const auto& [cell, value] : result.results)
-        object.number(cell.name, value);
+    for (const auto& [cell, value] : result.calculation.results)
+        object.number(cell->name, value);
     object.close();
 }
 

@@ -47,11 +47,11 @@ std::string to_table(const Result& result) {
     if (result.qsk)
         append_row(table, "qsk", fixed_number_text(*result.qsk, quantities::area_load.decimals),
                    quantities::area_load.unit);
-    for (const auto& [label, mu] : result.mu)
+    for (const auto& [label, mu] : result.calculation.coefficients)
         append_row(table, label, fixed_number_text(mu, quantities::coefficient.decimals),
                    quantities::coefficient.unit);
-    for (const auto& [cell, value] : result.results)
-        append_row(table, cell.name, fixed_number_text(value, cell.quantity.decimals), cell.quantity.unit);
+    for (const auto& [cell, value] : result.calculation.results)
+        append_row(table, cell->name, fixed_number_text(value, cell->quantity.decimals), cell->quantity.unit);
     if (!result.report.empty()) append_text_row(table, "Relazione", result.report);
     return table;
 }

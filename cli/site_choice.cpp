@@ -50,7 +50,7 @@ std::vector<std::string> all_provinces() {
 /// Chooses province and municipality as the window does.
 /// @return nothing, with the error in the result, where the site cannot be had
 std::optional<Site> choose_site(std::string_view typed_province, std::string_view typed_municipality,
-                                Program& program, Doors doors, Result& result) {
+                                Program& program, Result& result) {
     static const std::vector<std::string> provinces = all_provinces();
     const NameSearch province = find_name("provincia", typed_province, provinces);
     if (!province.mistake.empty()) {
@@ -59,7 +59,7 @@ std::optional<Site> choose_site(std::string_view typed_province, std::string_vie
     }
     program.cells.zone = ZoneOfProvince(province.found).zone;
     const auto municipalities =
-        FillMunicipalities(program.directories.ProgramDirectory, province.found, doors);
+        FillMunicipalities(program.directories.ProgramDirectory, province.found, result.messages);
     if (!municipalities) {
         result.error = result.messages.back().text;
         result.told = true;
@@ -70,8 +70,8 @@ std::optional<Site> choose_site(std::string_view typed_province, std::string_vie
         result.error = municipality.mistake;
         return std::nullopt;
     }
-    const auto altitude =
-        ReadAltitude(program.directories.ProgramDirectory, province.found, municipality.found, doors);
+    const auto altitude = ReadAltitude(program.directories.ProgramDirectory, province.found,
+                                       municipality.found, result.messages);
     if (!altitude) {
         result.error = result.messages.back().text;
         result.told = true;
@@ -82,14 +82,14 @@ std::optional<Site> choose_site(std::string_view typed_province, std::string_vie
 
 }  // namespace
 
-std::optional<Site> site_by_name(const Request& request, Program& program, Doors doors, SiteMemory& memory,
+std::optional<Site> site_by_name(const Request& request, Program& program, SiteMemory& memory,
                                  Result& result) {
     const std::string& directory = program.directories.ProgramDirectory;
     const std::string& province = *request.value(Key::provincia);
     const std::string& municipality = *request.value(Key::comune);
     auto site = memory.recall(directory, province, municipality);
     if (!site) {
-        site = choose_site(province, municipality, program, doors, result);
+        site = choose_site(province, municipality, program, result);
         if (site) memory.keep(directory, province, municipality, *site);
     }
     // An answer without a site still says which one was asked for.

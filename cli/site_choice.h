@@ -5,7 +5,6 @@
 #include "cli/request.h"
 #include "cli/result.h"
 #include "cli/site_memory.h"
-#include "platform/doors.h"
 #include "startup/program.h"
 
 namespace coltre::cli {
@@ -17,7 +16,7 @@ namespace coltre::cli {
 /// @param memory   sites found by earlier requests of the same batch
 /// @param result   takes the names, and what is wrong where the site cannot be had
 /// @return nothing in that case
-std::optional<Site> site_by_name(const Request& request, Program& program, Doors doors, SiteMemory& memory,
+std::optional<Site> site_by_name(const Request& request, Program& program, SiteMemory& memory,
                                  Result& result);
 
 }  // namespace coltre::cli

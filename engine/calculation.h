@@ -5,8 +5,9 @@
 
 #include "engine/checked.h"
 #include "engine/program_cells.h"
+#include "engine/short_list.h"
 
-// What the calculations tell while they run, and how they stop.
+// What the calculations give, and how they stop.
 namespace coltre {
 
 /// What kind of number a result is.
@@ -76,29 +77,24 @@ struct SpecialCaseEntries {
     double b = 0;     ///< horizontal distance from the obstacle to the ridge, m (snow guard)
 };
 
-/// One load case of a roof, as soon as it is known.
+/// A result and the value that its cell took.
+struct Result {
+    const ResultCell* cell;
+    double value;
+};
+
+/// The shape coefficient of a load case, under the label of that load case.
+struct Coefficient {
+    std::string_view label;
+    double mu;
+};
+
+/// One load case of a roof.
 struct LoadCase {
     std::string_view label;    ///< its coefficient as the report names it: "mu1", "0.5mu1(alfa1)", ...
     double mu;                 ///< shape coefficient
     double qs;                 ///< roof load, kN/m2
     std::optional<double> qe;  ///< load of the snow overhanging the eaves, kN/m; several pitches have none
-};
-
-/// Whoever wants to hear of results as they are computed: the report, the command. So each holds exactly what
-/// had been computed when a calculation stops early.
-class CalculationObserver {
-  public:
-    virtual ~CalculationObserver() = default;
-    /// A result cell has taken a value. A step may set a cell that an earlier step has set already.
-    virtual void on_cell(const ResultCell& /*cell*/, double /*value*/) {}
-    /// The shape coefficient of a load case is known, under the label of that load case.
-    virtual void on_coefficient(std::string_view /*label*/, double /*mu*/) {}
-    /// The first load cases of the roof are known: its section of the report starts.
-    virtual void on_roof(const Roof& /*roof*/) {}
-    /// A load case is complete.
-    virtual void on_load_case(const LoadCase& /*load_case*/) {}
-    /// A special case is complete, its results in the cells.
-    virtual void on_special_case(const SpecialCaseEntries& /*entries*/) {}
 };
 
 /// How a calculation ended: all well, or the fault and the quantity whose step met it.
@@ -109,37 +105,33 @@ struct CalculationEnd {
     [[nodiscard]] bool stopped() const { return fault != Fault::none; }
 };
 
-/// The running calculation: sets cells and tells the observer, until the first fault.
-class Calculation {
+/// What a calculation gave, in the order of its steps; of one that stopped, what came before the stop.
+struct Calculation {
+    ShortList<Result, 8> results;  ///< a cell that a later step sets again keeps its place
+    ShortList<Coefficient, 4> coefficients;
+    ShortList<LoadCase, 4> load_cases;  ///< those that are complete: the rows of the report
+    CalculationEnd end;
+};
+
+/// A calculation while it runs: sets cells, until the first fault.
+class Run {
   public:
-    /// @param observer  nullptr if nobody listens
-    Calculation(ProgramCells& cells, CalculationObserver* observer) : m_cells(cells), m_observer(observer) {}
+    explicit Run(ProgramCells& cells) : m_cells(cells) {}
 
     /// Sets the cell to the result, or keeps the fault and leaves the cell as it was.
     /// @return true if the calculation goes on
-    bool set(const ResultCell& cell, Checked result) {
-        if (result.fault() != Fault::none) {
-            stop(result.fault(), cell.name);
-            return false;
-        }
-        m_cells.*cell.cell = result.value();
-        if (m_observer != nullptr) m_observer->on_cell(cell, result.value());
-        return true;
-    }
+    bool set(const ResultCell& cell, Checked result);
 
     /// Keeps the fault of a step that sets no result cell.
     /// @param quantity  what the step was to compute
-    void stop(Fault fault, std::string_view quantity) { m_end = {fault, quantity}; }
+    void stop(Fault fault, std::string_view quantity) { m_calculation.end = {fault, quantity}; }
 
     [[nodiscard]] ProgramCells& cells() { return m_cells; }
-    /// Whoever listens, nullptr if nobody does.
-    [[nodiscard]] CalculationObserver* observer() { return m_observer; }
-    [[nodiscard]] CalculationEnd end() const { return m_end; }
+    [[nodiscard]] Calculation& calculation() { return m_calculation; }
 
   private:
     ProgramCells& m_cells;
-    CalculationObserver* m_observer;
-    CalculationEnd m_end;
+    Calculation m_calculation;
 };
 
 }  // namespace coltre

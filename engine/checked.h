@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 
 // Arithmetic in which every step is checked. A formula written with Checked reads like the plain one; the
@@ -46,6 +47,12 @@ class Checked {
     friend Checked tan(Checked a) { return step(a, a, std::tan(a.m_value)); }
     friend Checked arctan(Checked a) { return step(a, a, std::atan(a.m_value)); }
     friend Checked sin(Checked a) { return step(a, a, std::sin(a.m_value)); }
+    /// The smaller of the two, the first of equals.
+    friend Checked min(Checked a, Checked b) { return step(a, b, std::min(a.m_value, b.m_value)); }
+    /// The value brought between the limits, the lower one first.
+    friend Checked clamp(Checked a, double least, double most) {
+        return step(a, a, std::clamp(a.m_value, least, most));
+    }
 
   private:
     static Checked step(Checked a, Checked b, double result) {

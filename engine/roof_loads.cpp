@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "engine/Calcolo_Mu.h"
 
@@ -14,100 +15,86 @@ using namespace results;
 /// A load case that has an overhang load: its label and cells.
 struct LoadCaseCells {
     std::string_view label;
-    ResultCell qs;
-    ResultCell qe;
+    const ResultCell& qs;
+    const ResultCell& qe;
 };
 
 // Two pitches: each side full, then halved.
 constexpr LoadCaseCells side1_full{"mu1(alfa1)", qs_2a, qe_2a}, side1_halved{"0.5mu1(alfa1)", qs_2b, qe_2b};
 constexpr LoadCaseCells side2_full{"mu1(alfa2)", qs_2c, qe_2c}, side2_halved{"0.5mu1(alfa2)", qs_2d, qe_2d};
 
-/// The roof load of a coefficient; the observer hears of the coefficient with it.
-inline bool set_roof_load(Calculation& run, std::string_view label, const ResultCell& qs, Checked mu) {
+/// The roof load of a coefficient, and the coefficient under the label of its load case.
+bool set_roof_load(Run& run, std::string_view label, const ResultCell& qs, Checked mu) {
     if (!run.set(qs, mu * run.cells().qsk)) return false;
-    if (run.observer() != nullptr) run.observer()->on_coefficient(label, mu.value());
+    run.calculation().coefficients.push_back({label, mu.value()});
     return true;
 }
 
-bool set_overhang_load(Calculation& run, const LoadCaseCells& load_case) {
+bool set_overhang_load(Run& run, const LoadCaseCells& load_case) {
     return run.set(load_case.qe, qe(run.cells().*load_case.qs.cell));
 }
 
-inline void tell_roof(Calculation& run, const Roof& roof) {
-    if (CalculationObserver* const observer = run.observer()) observer->on_roof(roof);
-}
-
-/// @param qe  nullptr for a family without overhang loads
-inline void tell_load_case(Calculation& run, std::string_view label, double mu, double qs,
-                           const double* qe = nullptr) {
-    CalculationObserver* const observer = run.observer();
-    if (observer == nullptr) return;
-    observer->on_load_case({label, mu, qs, qe != nullptr ? std::optional(*qe) : std::nullopt});
-}
-
-inline void tell_load_case(Calculation& run, const LoadCaseCells& load_case, double mu) {
+/// The load case is complete.
+void add(Run& run, const LoadCaseCells& load_case, double mu) {
     const ProgramCells& cells = run.cells();
-    tell_load_case(run, load_case.label, mu, cells.*load_case.qs.cell, &(cells.*load_case.qe.cell));
+    run.calculation().load_cases.push_back(
+        {load_case.label, mu, cells.*load_case.qs.cell, cells.*load_case.qe.cell});
 }
 
-void one_pitch(Calculation& run, const Roof& roof) {
+void one_pitch(Run& run, const Roof& roof) {
     constexpr LoadCaseCells full{"mu1", qs_1, qe_1};
     ProgramCells& cells = run.cells();
-    mu1(cells, roof.alfa1);
+    cells.mu1 = mu1(roof.alfa1, cells.mu1);
     if (!set_roof_load(run, full.label, full.qs, cells.mu1)) return;
     if (!set_overhang_load(run, full)) return;
-    tell_roof(run, roof);
-    tell_load_case(run, full, cells.mu1);
+    add(run, full, cells.mu1);
 }
 
 /// The loads of one side of two pitches, full and halved.
-bool side_of_two_pitches(Calculation& run, double alfa, const LoadCaseCells& full,
-                         const LoadCaseCells& halved) {
+bool side_of_two_pitches(Run& run, double alfa, const LoadCaseCells& full, const LoadCaseCells& halved) {
     ProgramCells& cells = run.cells();
-    mu1(cells, alfa);
+    cells.mu1 = mu1(alfa, cells.mu1);
     return set_roof_load(run, full.label, full.qs, cells.mu1) &&
            set_roof_load(run, halved.label, halved.qs, Checked(0.5) * cells.mu1) &&
            set_overhang_load(run, full) && set_overhang_load(run, halved);
 }
 
-void two_pitches(Calculation& run, const Roof& roof) {
+void two_pitches(Run& run, const Roof& roof) {
     const ProgramCells& cells = run.cells();
     if (!side_of_two_pitches(run, roof.alfa1, side1_full, side1_halved)) return;
-    tell_roof(run, roof);
-    tell_load_case(run, side1_full, cells.mu1);
-    tell_load_case(run, side1_halved, 0.5 * cells.mu1);
+    add(run, side1_full, cells.mu1);
+    add(run, side1_halved, 0.5 * cells.mu1);
 
     if (!side_of_two_pitches(run, roof.alfa2, side2_full, side2_halved)) return;
-    tell_load_case(run, side2_full, cells.mu1);
-    tell_load_case(run, side2_halved, 0.5 * cells.mu1);
+    add(run, side2_full, cells.mu1);
+    add(run, side2_halved, 0.5 * cells.mu1);
 }
 
-void several_pitches(Calculation& run, const Roof& roof) {
+void several_pitches(Run& run, const Roof& roof) {
     constexpr std::string_view side1 = "mu1(alfa1)";
     constexpr std::string_view side2 = "mu1(alfa2)";
     constexpr std::string_view valley = "mu2((alfa1+alfa2)/2)";
     ProgramCells& cells = run.cells();
 
-    mu1(cells, roof.alfa1);
+    cells.mu1 = mu1(roof.alfa1, cells.mu1);
     if (!set_roof_load(run, side1, qs_3a, cells.mu1)) return;
-    tell_roof(run, roof);
-    tell_load_case(run, side1, cells.mu1, cells.qs_3a);
+    run.calculation().load_cases.push_back({side1, cells.mu1, cells.qs_3a, std::nullopt});
 
-    mu1(cells, roof.alfa2);
+    cells.mu1 = mu1(roof.alfa2, cells.mu1);
     if (!set_roof_load(run, side2, qs_3b, cells.mu1)) return;
-    tell_load_case(run, side2, cells.mu1, cells.qs_3b);
+    run.calculation().load_cases.push_back({side2, cells.mu1, cells.qs_3b, std::nullopt});
 
     const Checked mean = (Checked(roof.alfa1) + roof.alfa2) / 2;
     if (mean.fault() != Fault::none) {
         run.stop(mean.fault(), "mu2");
         return;
     }
-    mu2(cells, mean.value());
+    cells.mu2 = mu2(mean.value(), cells.mu2);
     if (!set_roof_load(run, valley, qs_3c, cells.mu2)) return;
-    tell_load_case(run, valley, cells.mu2, cells.qs_3c);
+    run.calculation().load_cases.push_back({valley, cells.mu2, cells.qs_3c, std::nullopt});
 }
 
-void cylindrical(Calculation& run, const Roof& roof) {
+void cylindrical(Run& run, const Roof& roof) {
     constexpr LoadCaseCells uniform{"mu1", qs_4a, qe_4a};
     constexpr LoadCaseCells halved{"0.5mu3", qs_4b, qe_4b};
     constexpr LoadCaseCells full{"mu3", qs_4c, qe_4c};
@@ -139,24 +126,21 @@ void cylindrical(Calculation& run, const Roof& roof) {
     for (const LoadCaseCells& load_case : {uniform, halved, full}) {
         if (!set_overhang_load(run, load_case)) return;
     }
-    tell_roof(run, roof);
-    tell_load_case(run, uniform, cells.mu1);
-    tell_load_case(run, halved, cells.mu2);
-    tell_load_case(run, full, cells.mu3);
+    add(run, uniform, cells.mu1);
+    add(run, halved, cells.mu2);
+    add(run, full, cells.mu3);
 }
 
 }  // namespace
 
 Checked qe(Checked qs) {
     const Checked d = qs / 3;
-    Checked k = 3 / d;
-    const Checked three_d = 3 * d;
-    if (k.fault() == Fault::none && three_d.value() < k.value()) k = three_d;
+    const Checked k = min(3 / d, 3 * d);
     return squared(qs) * k / 3;
 }
 
-CalculationEnd calculate_roof(ProgramCells& cells, const Roof& roof, CalculationObserver* observer) {
-    Calculation run(cells, observer);
+Calculation calculate_roof(ProgramCells& cells, const Roof& roof) {
+    Run run(cells);
     switch (roof.family) {
         case RoofFamily::one_pitch:
             one_pitch(run, roof);
@@ -168,11 +152,14 @@ CalculationEnd calculate_roof(ProgramCells& cells, const Roof& roof, Calculation
             several_pitches(run, roof);
             break;
         case RoofFamily::cylindrical:
-            if (roof.L / 2 < roof.H) return {Fault::incongruent_dimensions, {}};
-            cylindrical(run, roof);
+            if (roof.L / 2 < roof.H) {
+                run.stop(Fault::incongruent_dimensions, {});
+            } else {
+                cylindrical(run, roof);
+            }
             break;
     }
-    return run.end();
+    return std::move(run.calculation());
 }
 
 }  // namespace coltre

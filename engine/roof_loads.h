@@ -12,9 +12,8 @@ namespace coltre {
 /// @return kN/m
 Checked qe(Checked qs);
 
-/// Computes the roof's load cases from the qsk cell into its result cells, and tells the observer each
-/// result, then each section and load case as soon as it is complete. A roof that rises more than half its
-/// width stops with Fault::incongruent_dimensions before any cell changes.
-CalculationEnd calculate_roof(ProgramCells& cells, const Roof& roof, CalculationObserver* observer);
+/// Computes the roof's load cases from the qsk cell into its result cells. A roof that rises more than half
+/// its width stops with Fault::incongruent_dimensions before any cell changes.
+Calculation calculate_roof(ProgramCells& cells, const Roof& roof);
 
 }  // namespace coltre

@@ -19,8 +19,8 @@ namespace {
 constexpr auto npos = std::string_view::npos;
 constexpr std::string_view overflow = "Errore numerico: un valore della relazione è troppo grande.";
 
-void tell(MessageBoxes& message_boxes, std::string_view text) {
-    message_boxes.show({Icon::error, std::string(program_title), std::string(text)});
+void tell(Messages& messages, std::string_view text) {
+    messages.push_back({Icon::error, std::string(program_title), std::string(text)});
 }
 
 /// Where each keyword stands in a directive string, found in one go. A keyword counts where it stands first.
@@ -152,16 +152,15 @@ using Told = std::nullopt_t;
 
 /// The steps of formatta() behind the scaling.
 std::optional<std::string> format_field(double value, std::string_view directives, double factor,
-                                        MessageBoxes& message_boxes) {
-    const auto told = [&message_boxes](std::string_view text) -> Told {
-        tell(message_boxes, text);
+                                        Messages& messages) {
+    const auto told = [&messages](std::string_view text) -> Told {
+        tell(messages, text);
         return std::nullopt;
     };
 
     Keywords keywords(directives);
     std::int16_t shift = shift_of_factor(factor);
-    if (keywords.has(Keywords::cu) &&
-        converti_unita(value, directives, shift, message_boxes) != Fault::none) {
+    if (keywords.has(Keywords::cu) && converti_unita(value, directives, shift, messages) != Fault::none) {
         return told(overflow);
     }
 
@@ -221,18 +220,18 @@ std::optional<std::string> format_field(double value, std::string_view directive
 
 }  // namespace
 
-std::string formatta(double value, std::string_view directives, double factor, MessageBoxes& message_boxes) {
+std::string formatta(double value, std::string_view directives, double factor, Messages& messages) {
     const Checked scaled = Checked(value) * factor;
     if (scaled.fault() != Fault::none) {
-        tell(message_boxes, overflow);
+        tell(messages, overflow);
         return {};
     }
     if (directives.empty()) return plain_number_text(scaled.value());
-    return format_field(scaled.value(), directives, factor, message_boxes).value_or(std::string());
+    return format_field(scaled.value(), directives, factor, messages).value_or(std::string());
 }
 
 Fault converti_unita(double& value, std::string_view directives, std::int16_t& decimal_shift,
-                     MessageBoxes& message_boxes) {
+                     Messages& messages) {
     decimal_shift = 0;
     if (const UnitCommand* const command = find_unit_command(directives)) {
         const Checked converted = Checked(value) * command->multiplier;
@@ -249,7 +248,7 @@ Fault converti_unita(double& value, std::string_view directives, std::int16_t& d
     const bool same_unit = between != npos && end != npos && end > between &&
                            lower_case(directives.substr(units, between - units)) ==
                                lower_case(directives.substr(between + 1, end - between - 1));
-    if (!same_unit) tell(message_boxes, "Stringa di conversione unità di misura non riconosciuta.");
+    if (!same_unit) tell(messages, "Stringa di conversione unità di misura non riconosciuta.");
     return Fault::none;
 }
 

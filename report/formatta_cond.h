@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "engine/checked.h"
-#include "platform/message_boxes.h"
+#include "platform/messages.h"
 
 // The directive language of the reports: how a number becomes a field of a report line. docs/directives.md
 // holds the language, in the order of the steps of formatta().
@@ -16,17 +16,17 @@ namespace coltre {
 /// @param value       finite
 /// @param directives  directive string; empty for the plain number text
 /// @param factor      scale factor, finite; also fixes the decimal shift where no unit is converted
-/// @return the empty text after a wrong directive or an overflow, which is told in a message box; asterisks
+/// @return the empty text after a wrong directive or an overflow, which is told; asterisks
 ///         for a number that does not fit its field
-std::string formatta(double value, std::string_view directives, double factor, MessageBoxes& message_boxes);
+std::string formatta(double value, std::string_view directives, double factor, Messages& messages);
 
 /// Converts the value by the unit command of the directive string. A command that names one unit twice keeps
-/// the value; one that is not in the table is told in a message box and keeps it too.
+/// the value; one that is not in the table is told and keeps it too.
 /// @param value          multiplied in place; kept at an overflow
 /// @param decimal_shift  out: the command's decimal shift, 0 where the value was kept
 /// @return Fault::numeric_error at an overflow
 Fault converti_unita(double& value, std::string_view directives, std::int16_t& decimal_shift,
-                     MessageBoxes& message_boxes);
+                     Messages& messages);
 
 /// Position of the decimal point in a number text; where there is none one is appended. -1 for the exponent
 /// form.

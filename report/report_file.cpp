@@ -23,8 +23,8 @@ ReportLine& ReportLine::add(std::string_view text) {
     return *this;
 }
 
-ReportFile::ReportFile(std::string_view suite_path, MessageBoxes& message_boxes)
-    : m_name(suite_path), m_file(find_path(suite_path)), m_message_boxes(message_boxes) {}
+ReportFile::ReportFile(std::string_view suite_path, Messages& messages)
+    : m_name(suite_path), m_file(find_path(suite_path)), m_messages(messages) {}
 
 void ReportFile::line(std::string_view utf8) {
     m_file.write(file_line(utf8));
@@ -50,7 +50,7 @@ std::string ReportFile::failure() const {
 
 std::string ReportFile::formatted(double value, std::string_view directives,
                                   std::string_view conversion) const {
-    return formatta(value, std::string(directives).append(conversion), 1.0, m_message_boxes);
+    return formatta(value, std::string(directives).append(conversion), 1.0, m_messages);
 }
 
 }  // namespace coltre

@@ -3,10 +3,9 @@
 #include <string>
 #include <string_view>
 
-#include "engine/calculation.h"
 #include "engine/program_cells.h"
 #include "platform/files.h"
-#include "platform/message_boxes.h"
+#include "platform/messages.h"
 
 namespace coltre {
 
@@ -42,7 +41,7 @@ struct ReportHeading {
 class ReportFile {
   public:
     /// @param suite_path  the report, in the suite's notation
-    ReportFile(std::string_view suite_path, MessageBoxes& message_boxes);
+    ReportFile(std::string_view suite_path, Messages& messages);
 
     void line(std::string_view utf8);
     void line(const ReportLine& line) { this->line(line.text()); }
@@ -66,15 +65,7 @@ class ReportFile {
   private:
     std::string m_name;
     FileReplacement m_file;
-    MessageBoxes& m_message_boxes;
-};
-
-/// A report: it hears of the results as they are computed and writes them down.
-class Report : public CalculationObserver {
-  public:
-    [[nodiscard]] virtual ReportFile& file() = 0;
-    /// Message after a report that was written whole.
-    [[nodiscard]] virtual Message confirmation() const = 0;
+    Messages& m_messages;
 };
 
 }  // namespace coltre

@@ -1,7 +1,9 @@
 #include "report/snow_load_report.h"
 
 #include <array>
+#include <string>
 
+#include "report/unit_systems.h"
 #include "text/characters.h"
 #include "text/number_text.h"
 
@@ -29,70 +31,68 @@ std::string printed(double value) {
     return display_number_text(value) + " ";
 }
 
+void write_entries(ReportFile& report, const SnowLoadReportData& data, const ProgramCells& cells,
+                   const Roof& roof) {
+    switch (roof.family) {
+        case RoofFamily::one_pitch:
+            report.line("alfa (inclinazione della falda [°]) =" + printed(roof.alfa1));
+            break;
+        case RoofFamily::two_pitches:
+            report.line("alfa1 (inclinazione della falda1 [°]) =" + printed(roof.alfa1));
+            report.line("alfa2 (inclinazione della falda2 [°]) =" + printed(roof.alfa2));
+            break;
+        case RoofFamily::several_pitches:
+            report.line("alfa (inclinazione della falda 1[°]) =" + printed(roof.alfa1));
+            report.line("alfa (inclinazione della falda 2[°]) =" + printed(roof.alfa2));
+            break;
+        case RoofFamily::cylindrical:
+            // Deliberate: the dimensions stay as typed and L1 and L2 in metres, whatever the units of the
+            // report.
+            report.line("L (larghezza della copertura [m]) =" + std::string(trim_blanks(data.Lcopcil)));
+            report.line("H (altezza della copertura [m]) =" + std::string(trim_blanks(data.hcopcil)));
+            report.line("L1 (larghezza zona caricata [m]) =" +
+                        display_number_text(round_half_even(cells.L1, 2)));
+            report.line("L2 ( = 0.25 * L1 - [m]) =" +
+                        display_number_text(round_half_even(0.25 * cells.L1, 2)));
+            break;
+    }
+}
+
 }  // namespace
 
-SnowLoadReport::SnowLoadReport(const SnowLoadReportData& data, const ProgramCells& cells,
-                               MessageBoxes& message_boxes)
-    : m_path(std::string(data.WorkDirectory) + "\\coltre.txt"),
-      m_Lcopcil(trim_blanks(data.Lcopcil)),
-      m_hcopcil(trim_blanks(data.hcopcil)),
-      m_cells(cells),
-      m_conversion(conversion_directives(cells.unit_system)),
-      m_file(m_path, message_boxes) {
-    m_file.heading({.unit_caption = "Unità di misura : ",
+void write_heading(ReportFile& report, const SnowLoadReportData& data, const ProgramCells& cells) {
+    const std::string_view area_load = conversion_directives(cells.unit_system).area_load;
+    report.heading({.unit_caption = "Unità di misura : ",
                     .job_name = data.JobName,
                     .unit_system = cells.unit_system,
                     .zone = cells.zone,
                     .altitude = data.altitude,
                     .return_period = cells.return_period,
-                    .qsk = m_file.formatted(cells.qsk, "(FD_08)(DV_04)", m_conversion.area_load)});
+                    .qsk = report.formatted(cells.qsk, "(FD_08)(DV_04)", area_load)});
 }
 
-void SnowLoadReport::on_roof(const Roof& roof) {
+void write_roof(ReportFile& report, const SnowLoadReportData& data, const ProgramCells& cells,
+                const Roof& roof, const Calculation& calculation) {
+    if (calculation.load_cases.empty()) return;
     const Section& section = sections[static_cast<std::size_t>(roof.family)];
-    m_label_width = section.label_width;
-    m_file.line(section.title);
-    m_file.blank_line();
-    switch (roof.family) {
-        case RoofFamily::one_pitch:
-            m_file.line("alfa (inclinazione della falda [°]) =" + printed(roof.alfa1));
-            break;
-        case RoofFamily::two_pitches:
-            m_file.line("alfa1 (inclinazione della falda1 [°]) =" + printed(roof.alfa1));
-            m_file.line("alfa2 (inclinazione della falda2 [°]) =" + printed(roof.alfa2));
-            break;
-        case RoofFamily::several_pitches:
-            m_file.line("alfa (inclinazione della falda 1[°]) =" + printed(roof.alfa1));
-            m_file.line("alfa (inclinazione della falda 2[°]) =" + printed(roof.alfa2));
-            break;
-        case RoofFamily::cylindrical:
-            // Deliberate: the dimensions stay as typed and L1 and L2 in metres, whatever the units of the
-            // report.
-            m_file.line("L (larghezza della copertura [m]) =" + m_Lcopcil);
-            m_file.line("H (altezza della copertura [m]) =" + m_hcopcil);
-            m_file.line("L1 (larghezza zona caricata [m]) =" +
-                        display_number_text(round_half_even(m_cells.L1, 2)));
-            m_file.line("L2 ( = 0.25 * L1 - [m]) =" +
-                        display_number_text(round_half_even(0.25 * m_cells.L1, 2)));
-            break;
-    }
-    m_file.blank_line();
-    m_file.line(section.table_header);
-}
+    report.line(section.title);
+    report.blank_line();
+    write_entries(report, data, cells, roof);
+    report.blank_line();
+    report.line(section.table_header);
 
-void SnowLoadReport::on_load_case(const LoadCase& load_case) {
     constexpr std::string_view column = "(FD_08)(DV_04)(SC_|)";
-    std::string row(m_label_width - load_case.label.size(), ' ');
-    row += load_case.label;
-    row += '|';
-    row += m_file.formatted(load_case.mu, column);
-    row += m_file.formatted(load_case.qs, column, m_conversion.area_load);
-    if (load_case.qe) row += m_file.formatted(*load_case.qe, "(FD_07)(DV_03)(SC_|)", m_conversion.line_load);
-    m_file.line(row);
-}
-
-Message SnowLoadReport::confirmation() const {
-    return {Icon::none, std::string(program_title), "Creazione della relazione " + m_path + " effettuata"};
+    const ConversionDirectives conversion = conversion_directives(cells.unit_system);
+    for (const LoadCase& load_case : calculation.load_cases) {
+        std::string row(section.label_width - load_case.label.size(), ' ');
+        row += load_case.label;
+        row += '|';
+        row += report.formatted(load_case.mu, column);
+        row += report.formatted(load_case.qs, column, conversion.area_load);
+        if (load_case.qe)
+            row += report.formatted(*load_case.qe, "(FD_07)(DV_03)(SC_|)", conversion.line_load);
+        report.line(row);
+    }
 }
 
 }  // namespace coltre

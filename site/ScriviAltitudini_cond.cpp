@@ -7,11 +7,10 @@
 
 namespace coltre {
 
-bool WriteAltitudeFile(std::string_view ProgramDirectory, Doors doors) {
+bool WriteAltitudeFile(std::string_view ProgramDirectory, Messages& messages) {
     if (replace_altitude_file(ProgramDirectory, built_in_altitude_file()).empty()) return true;
-    doors.message_boxes.show(
+    messages.push_back(
         {Icon::error, std::string(program_title), "Errore di scrittura del file altitudini.txt ."});
-    doors.program_end.end();
     return false;
 }
 

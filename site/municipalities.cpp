@@ -51,41 +51,40 @@ std::optional<std::string> altitude(std::string_view bytes, std::string_view pro
 /// Runs the read, after a failure once more on the file written anew.
 /// @param read  takes the file's bytes; gives an optional, empty on failure
 template <typename Read>
-auto read_with_retry(std::string_view ProgramDirectory, Doors doors, Read read)
+auto read_with_retry(std::string_view ProgramDirectory, Messages& messages, Read read)
     -> decltype(read(std::string_view())) {
     for (bool retried = false;; retried = true) {
         if (const std::optional<std::string> bytes = read_file(altitude_file_name(ProgramDirectory))) {
             if (auto result = read(std::string_view(*bytes))) return result;
         }
         if (retried) break;
-        if (!WriteAltitudeFile(ProgramDirectory, doors)) return std::nullopt;
+        if (!WriteAltitudeFile(ProgramDirectory, messages)) return std::nullopt;
     }
     // Deliberate: the message names "altitudine.txt".
-    doors.message_boxes.show(
+    messages.push_back(
         {Icon::error, std::string(program_title), "Errore in lettura del file altitudine.txt ."});
-    doors.program_end.end();
     return std::nullopt;
 }
 
 }  // namespace
 
 std::optional<MunicipalityList> FillMunicipalities(std::string_view ProgramDirectory,
-                                                   std::string_view province, Doors doors) {
+                                                   std::string_view province, Messages& messages) {
     const std::string header = name_in_file(province);
     std::optional<std::vector<std::string>> names = read_with_retry(
-        ProgramDirectory, doors, [&](std::string_view bytes) { return municipalities(bytes, header); });
+        ProgramDirectory, messages, [&](std::string_view bytes) { return municipalities(bytes, header); });
     if (!names) return std::nullopt;
     std::optional<std::string> first_altitude =
-        ReadAltitude(ProgramDirectory, province, names->front(), doors);
+        ReadAltitude(ProgramDirectory, province, names->front(), messages);
     if (!first_altitude) return std::nullopt;
     return MunicipalityList{std::move(*names), std::move(*first_altitude)};
 }
 
 std::optional<std::string> ReadAltitude(std::string_view ProgramDirectory, std::string_view province,
-                                        std::string_view municipality, Doors doors) {
+                                        std::string_view municipality, Messages& messages) {
     const std::string header = name_in_file(province);
     const std::string name = name_in_file(municipality);
-    return read_with_retry(ProgramDirectory, doors,
+    return read_with_retry(ProgramDirectory, messages,
                            [&](std::string_view bytes) { return altitude(bytes, header, name); });
 }
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/doors.h"
+#include "platform/messages.h"
 
 // Reading altitudini.txt, whole for each choice that the user makes: a file edited meanwhile counts at once.
 // When a read fails the file is written anew from the built-in table and read once more; a second failure is
@@ -23,15 +23,15 @@ struct MunicipalityList {
 };
 
 /// The municipalities of a province for the list `comuneinput`, and what selecting its first entry reads.
-/// @return nothing if the program was ended
+/// @return nothing if the program must end
 std::optional<MunicipalityList> FillMunicipalities(std::string_view ProgramDirectory,
-                                                   std::string_view province, Doors doors);
+                                                   std::string_view province, Messages& messages);
 
 /// The altitude of a municipality, m, as the text for `asinput`: the last four characters of its line without
 /// blanks. The first line of that name behind the province's header counts. Deliberate: the last block has no
 /// empty line that would end the search for a name it does not hold; the file's last line is taken then.
-/// @return nothing if the program was ended
+/// @return nothing if the program must end
 std::optional<std::string> ReadAltitude(std::string_view ProgramDirectory, std::string_view province,
-                                        std::string_view municipality, Doors doors);
+                                        std::string_view municipality, Messages& messages);
 
 }  // namespace coltre

@@ -57,15 +57,14 @@ Tail split_tail(std::string_view text, std::size_t count) {
     return {text.substr(0, cut), text.substr(cut)};
 }
 
-/// Tells the fault and ends the program. Always false: what check_directories() returns when the end returns.
-bool end_program(Doors doors, std::string_view title, std::string text) {
-    doors.message_boxes.show({Icon::error, std::string(title), std::move(text)});
-    doors.program_end.end();
+/// Tells the fault. Always false: what check_directories() returns when the program must end.
+bool end_program(Messages& messages, std::string_view title, std::string text) {
+    messages.push_back({Icon::error, std::string(title), std::move(text)});
     return false;
 }
 
-bool end_for_missing_directories(Doors doors, const Directories& directories) {
-    return end_program(doors, suite_error_title,
+bool end_for_missing_directories(Messages& messages, const Directories& directories) {
+    return end_program(messages, suite_error_title,
                        "Uno dei seguenti direttori non è presente o non è accessibile:\r" +
                            missing_directory_list(directories));
 }
@@ -102,19 +101,19 @@ std::string missing_directory_list(const Directories& directories) {
 }
 
 bool check_directories(std::string_view command_line, std::string_view process_command_line,
-                       std::string_view own_directory, Directories& directories, Doors doors) {
+                       std::string_view own_directory, Directories& directories, Messages& messages) {
     std::string& root = directories.SuiteRoot;
     root = parse_suite_root(command_line.empty() ? process_command_line : command_line);
     if (root.empty()) {
         const Tail own = split_tail(trim_blanks(own_directory), 7);
         if (lower_case(own.characters) != "\\progra") {
-            return end_program(doors, program_title,
+            return end_program(messages, program_title,
                                "Il direttorio della applicazione deve terminare con \\progra");
         }
         root = own.before;
     }
     // Too short for a root ("c:"): no path was built from it, so the message lists them empty. Deliberate.
-    if (character_count(root) < 3) return end_for_missing_directories(doors, directories);
+    if (character_count(root) < 3) return end_for_missing_directories(messages, directories);
     if (root.ends_with('\\')) root.pop_back();
     directories.SettingsDirectory = joined(root, settings_name);
 
@@ -122,21 +121,21 @@ bool check_directories(std::string_view command_line, std::string_view process_c
     directories.JobsDirectory = read_setting(jobs_file);
     // The shortest jobs directory is "c:\lavori".
     if (character_count(directories.JobsDirectory) < 9)
-        return end_program(doors, suite_error_title, jobs_file + " errato o mancante.");
+        return end_program(messages, suite_error_title, jobs_file + " errato o mancante.");
     if (!directories.JobsDirectory.ends_with('\\')) directories.JobsDirectory += '\\';
     if (lower_case(split_tail(directories.JobsDirectory, 7).characters) != "lavori\\") {
-        return end_program(doors, suite_error_title,
+        return end_program(messages, suite_error_title,
                            "Il direttorio dei lavori deve terminare con < ...\\lavori >.");
     }
 
     const std::string job_file = directories.SettingsDirectory + "\\lavoro";
     directories.JobName = read_setting(job_file);
     if (character_count(directories.JobName) != 6)
-        return end_program(doors, suite_error_title, job_file + " errato o mancante.");
+        return end_program(messages, suite_error_title, job_file + " errato o mancante.");
     directories.WorkDirectory = directories.JobsDirectory + directories.JobName;
 
     build_directory_list(directories);
-    if (directories_missing(directories)) return end_for_missing_directories(doors, directories);
+    if (directories_missing(directories)) return end_for_missing_directories(messages, directories);
     return true;
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/doors.h"
+#include "platform/messages.h"
 
 // The suite's directories and the current job. All values are texts in the suite's notation without a
 // backslash at the end unless stated.
@@ -44,13 +44,13 @@ bool directories_missing(const Directories& directories);
 std::string missing_directory_list(const Directories& directories);
 
 /// Sets every directory value from the suite's root and its settings files and verifies that the standard
-/// directories exist. A fault is told in a message box and ends the program; the values set before it stay.
+/// directories exist. A fault is told and the program must end; the values set before it stay.
 /// @param command_line          as parse_suite_root() reads it; empty: the process's own is used
 /// @param process_command_line  the command line that the process was started with
 /// @param own_directory         the directory that holds the program; without a root on the command line it
 ///                              must be the suite's "\progra"
-/// @return false after a fault, where the program's end returned
+/// @return false if the program must end
 bool check_directories(std::string_view command_line, std::string_view process_command_line,
-                       std::string_view own_directory, Directories& directories, Doors doors);
+                       std::string_view own_directory, Directories& directories, Messages& messages);
 
 }  // namespace coltre

@@ -23,7 +23,7 @@ Directories standalone_directories(std::string_view own_directory) {
 }  // namespace
 
 StartUp start_up(std::string_view command_line, std::string_view own_directory, Program& program,
-                 Doors doors) {
+                 Messages& messages) {
     program.CommandLine = command_line;
 
     // "diroot" alone decides. Deliberate: "autonomo" with the value 1 was meant to force the stand-alone
@@ -37,7 +37,7 @@ StartUp start_up(std::string_view command_line, std::string_view own_directory, 
         program.directories = standalone_directories(own_directory);
         program.unit_setting.clear();
     } else {
-        if (!check_directories(command_line, command_line, own_directory, program.directories, doors))
+        if (!check_directories(command_line, command_line, own_directory, program.directories, messages))
             return start;
         start.caption = set_caption(program.directories.WorkDirectory, "");
         program.unit_setting = "3";

@@ -92,7 +92,7 @@ class Pictures {
 
 /// Takes the message box that is expected. Nobody sits before these windows: any other one is a mistake of
 /// the series.
-class PicturedDialogs : public UserDialogs, public ProgramEnd {
+class PicturedDialogs : public UserDialogs {
   public:
     explicit PicturedDialogs(Pictures& pictures) : m_pictures(pictures) {}
 
@@ -192,7 +192,7 @@ int main(int argc, char** argv) {
     PicturedDialogs dialogs(pictures);
     const QTemporaryDir directory;
     Program program;
-    Form1 window(program, dialogs, dialogs);
+    Form1 window(program, dialogs);
     if (!window.load("", suite_notation(directory.path().toStdString()))) return 1;
     take_main_window(window, dialogs, pictures);
     take_special_cases(window, pictures);

@@ -38,12 +38,8 @@ bool raise_open(QWidget* window) {
 
 }  // namespace
 
-Form1::Form1(Program& program, UserDialogs& dialogs, ProgramEnd& program_end, QWidget* parent)
-    : QWidget(parent),
-      m_program(program),
-      m_dialogs(dialogs),
-      m_doors{dialogs, program_end},
-      m_ui(std::make_unique<Ui::Form1>()) {
+Form1::Form1(Program& program, UserDialogs& dialogs, QWidget* parent)
+    : QWidget(parent), m_program(program), m_dialogs(dialogs), m_ui(std::make_unique<Ui::Form1>()) {
     m_ui->setupUi(this);
     m_Timer1.setObjectName("Timer1");
     m_Timer1.setInterval(800);
@@ -132,8 +128,13 @@ void Form1::set_up_hints() {
 }
 
 bool Form1::load(std::string_view command_line, std::string_view own_directory) {
-    const StartUp start = start_up(command_line, own_directory, m_program, m_doors);
-    if (!start.goes_on) return false;
+    Messages messages;
+    const StartUp start = start_up(command_line, own_directory, m_program, messages);
+    m_dialogs.show(messages);
+    if (!start.goes_on) {
+        m_dialogs.end();
+        return false;
+    }
     if (start.caption) setWindowTitle(QString::fromStdString(*start.caption));
     fill(*m_ui->udmcombo, unit_items, start.unit_item);
     fill(*m_ui->ComboEsp, exposure_items, start.exposure_item);
@@ -188,18 +189,24 @@ void Form1::province_chosen() {
     m_ui->Zonalabel->setText(qt(zone.caption));
     emit site_changed();
     m_ui->comuneinput->fill({});
-    const auto municipalities = FillMunicipalities(m_program.directories.ProgramDirectory, province, m_doors);
-    if (!municipalities) return;  // the program has ended
+    Messages messages;
+    const auto municipalities =
+        FillMunicipalities(m_program.directories.ProgramDirectory, province, messages);
+    m_dialogs.show(messages);
+    if (!municipalities) return m_dialogs.end();
     m_ui->comuneinput->setEnabled(true);
     m_ui->comuneinput->fill(municipalities->names);
     m_ui->comuneinput->setCurrentIndex(0);
 }
 
 void Form1::municipality_chosen() {
+    Messages messages;
     const std::optional<std::string> altitude =
         ReadAltitude(m_program.directories.ProgramDirectory, m_ui->Provinciainput->utf8(),
-                     m_ui->comuneinput->utf8(), m_doors);
-    if (altitude) m_ui->asinput->setText(QString::fromStdString(*altitude));
+                     m_ui->comuneinput->utf8(), messages);
+    m_dialogs.show(messages);
+    if (!altitude) return m_dialogs.end();
+    m_ui->asinput->setText(QString::fromStdString(*altitude));
 }
 
 void Form1::report_switched() {
@@ -248,8 +255,8 @@ MainWindowFields Form1::fields() const {
 
 void Form1::calculate_clicked() {
     const MainWindowFields entries = fields();
-    CalculationObserver nobody;
-    const ClickOutcome outcome = Calcola(entries, m_program, m_dialogs, nobody);
+    const ClickOutcome outcome = Calcola(entries, m_program);
+    m_dialogs.show(outcome.messages);
     if (outcome.L1output) m_ui->L1output->setText(QString::fromStdString(*outcome.L1output));
     if (outcome.L2output) m_ui->L2output->setText(QString::fromStdString(*outcome.L2output));
     if (outcome.results_complete) {

@@ -8,8 +8,6 @@
 #include <vector>
 
 #include "calculate/Calcola.h"
-#include "engine/calculation.h"
-#include "platform/doors.h"
 #include "startup/program.h"
 #include "ui/hints.h"
 #include "ui/number_field.h"
@@ -29,8 +27,8 @@ class Form1 : public QWidget {
     Q_OBJECT
 
   public:
-    /// @param program  outlives the window, and so do the doors
-    Form1(Program& program, UserDialogs& dialogs, ProgramEnd& program_end, QWidget* parent = nullptr);
+    /// @param program  outlives the window, and so do the dialogs
+    Form1(Program& program, UserDialogs& dialogs, QWidget* parent = nullptr);
     ~Form1() override;
 
     /// Everything that is set before the user sees the window, in order: mode and directories, caption, lists
@@ -90,7 +88,6 @@ class Form1 : public QWidget {
 
     Program& m_program;
     UserDialogs& m_dialogs;
-    Doors m_doors;
     std::unique_ptr<Ui::Form1> m_ui;
     std::vector<RoofTab> m_tabs;  // by family
     QTimer m_Timer1{this};

@@ -19,7 +19,8 @@ PeriododiRitorno::PeriododiRitorno(ProgramCells& cells, UserDialogs& dialogs, co
 PeriododiRitorno::~PeriododiRitorno() = default;
 
 void PeriododiRitorno::confirm_clicked() {
-    const ReturnPeriodOutcome outcome = confirm_return_period(m_ui->InputPerRIT->utf8(), m_cells, m_dialogs);
+    const ReturnPeriodOutcome outcome = confirm_return_period(m_ui->InputPerRIT->utf8(), m_cells);
+    if (outcome.message) m_dialogs.show(*outcome.message);
     if (!outcome.OutputPerRit) return;
     emit confirmed(QString::fromStdString(*outcome.OutputPerRit));
     close();

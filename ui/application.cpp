@@ -79,7 +79,7 @@ int run(int argc, char** argv) {
 
     Program program;
     QtDialogs dialogs;
-    Form1 window(program, dialogs, dialogs);
+    Form1 window(program, dialogs);
     if (!window.load(command_line, own_directory(argc > 0 ? argv[0] : ""))) return EXIT_FAILURE;
     window.show();
     return QApplication::exec();

@@ -139,16 +139,19 @@ void casipart::draw(SpecialCase page, bool with_results) {
 }
 
 void casipart::calculate_clicked() {
-    // The labels are refreshed as soon as the case is complete, before the message about the report.
-    Calcola2(fields(), m_program, m_dialogs, *this);
+    const SpecialCasesFields entries = fields();
+    const ClickOutcome outcome = Calcola2(entries, m_program);
+    // The labels are refreshed before the message about the report.
+    if (outcome.results_complete) show_results(entries.cartelle);
+    m_dialogs.show(outcome.messages);
 }
 
-void casipart::on_special_case(const SpecialCaseEntries& entries) {
+void casipart::show_results(SpecialCase page) {
     m_show_ground_load();
-    for (const DisplayRow& row : display_rows(entries.special_case))
+    for (const DisplayRow& row : display_rows(page))
         findChild<ResultLabel*>(row.label)->show_number(m_program.cells.*row.cell.cell,
                                                         row.cell.quantity.decimals);
-    draw(entries.special_case, true);
+    draw(page, true);
 }
 
 }  // namespace coltre

@@ -5,7 +5,6 @@
 #include <memory>
 
 #include "calculate/Calcola2.h"
-#include "engine/calculation.h"
 #include "startup/program.h"
 #include "ui/site_fields.h"
 #include "ui/user_dialogs.h"
@@ -18,7 +17,7 @@ class casipart;
 
 /// The window of the special cases: change of roof level, wall, snow guard, a page each. It is deleted when
 /// it is closed, so that each opening starts from the designed entries.
-class casipart : public QWidget, private CalculationObserver {
+class casipart : public QWidget {
     Q_OBJECT
 
   public:
@@ -45,7 +44,7 @@ class casipart : public QWidget, private CalculationObserver {
 
     [[nodiscard]] SpecialCasesFields fields() const;
     void draw(SpecialCase page, bool with_results);
-    void on_special_case(const SpecialCaseEntries& entries) override;
+    void show_results(SpecialCase page);
 
     Program& m_program;
     UserDialogs& m_dialogs;

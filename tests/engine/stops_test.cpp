@@ -15,16 +15,6 @@ const std::vector<ResultCell> all_cells{
     qs_3a, qs_3b,     qs_3c,     L1,        L2,       qs_4a,    qs_4b,    qs_4c,   qe_4a, qe_4b,
     qe_4c, level_mu2, level_qs1, level_qs2, level_ls, wall_qs1, wall_qs2, wall_ls, Fs};
 
-/// Hears of the cells in the order of their setting.
-struct Recorder : CalculationObserver {
-    void on_cell(const ResultCell& cell, double /*value*/) override {
-        cells.push_back(cell.cell);
-        names += std::string(cell.name) + " ";
-    }
-    std::vector<double ProgramCells::*> cells;
-    std::string names;
-};
-
 // A pitch from 60 degrees on has no load, and its overhang load is a division by that; a cylinder of H =
 // -0.02 L has mu3 = 0. The greatest double is 1.8e308.
 TEST(StoppedCalculation, SetsTheCellsBeforeTheFaultAlone) {
@@ -56,16 +46,20 @@ TEST(StoppedCalculation, SetsTheCellsBeforeTheFaultAlone) {
         for (const ResultCell& cell : all_cells)
             cells.*cell.cell = untouched;
         cells.qsk = c.qsk;
-        Recorder recorder;
         const auto* const roof = std::get_if<Roof>(&c.what);
-        const CalculationEnd end =
-            roof != nullptr ? calculate_roof(cells, *roof, &recorder)
-                            : calculate_special_case(cells, std::get<SpecialCaseEntries>(c.what), &recorder);
-        EXPECT_EQ(end.fault, c.fault) << c.quantity;
-        EXPECT_EQ(end.quantity, c.quantity);
-        EXPECT_EQ(recorder.names, c.set);
+        const Calculation calculation =
+            roof != nullptr ? calculate_roof(cells, *roof)
+                            : calculate_special_case(cells, std::get<SpecialCaseEntries>(c.what));
+        EXPECT_EQ(calculation.end.fault, c.fault) << c.quantity;
+        EXPECT_EQ(calculation.end.quantity, c.quantity);
+        std::string names;
+        for (const Result& it : calculation.results)
+            names += std::string(it.cell->name) + " ";
+        EXPECT_EQ(names, c.set);
         for (const ResultCell& cell : all_cells)
-            EXPECT_EQ(cells.*cell.cell != untouched, std::ranges::count(recorder.cells, cell.cell) == 1)
+            EXPECT_EQ(cells.*cell.cell != untouched,
+                      std::ranges::count(calculation.results, cell.cell,
+                                         [](const Result& it) { return it.cell->cell; }) == 1)
                 << cell.name;
     }
 }

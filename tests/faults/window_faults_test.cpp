@@ -93,7 +93,7 @@ TEST_F(WindowFaults, SettingThatIsNoFileEndsTheProgram) {
             if (what == 0) fs::create_directory(setting);
             if (what == 1) ::mkfifo(setting.c_str(), 0600);  // nobody writes into it
             if (what == 2) fs::create_symlink(name, setting);
-            Form1 other(program, boxes, boxes);
+            Form1 other(program, boxes);
             EXPECT_FALSE(other.load(suite.command_line(), ""));
             const std::string file = lower_case(suite.root()) + "\\impostazioni\\" + lower_case(name);
             EXPECT_EQ(std::exchange(boxes.text, ""), "ERRORE: " + file + " errato o mancante.");

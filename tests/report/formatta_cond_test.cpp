@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include "tests/support/fake_doors.h"
-
 namespace coltre {
 namespace {
 
@@ -60,9 +58,9 @@ TEST(Formatta, DirectivesInTheOrderOfTheirSteps) {
              Case{1.5, "(sc_|", 1, "1.5"},
              Case{1.5, "x(Fd_06)y(cD_02)z", 1, "  1.5 "},
          }) {
-        FakeDoors fake;
-        EXPECT_EQ(formatta(c.value, c.directives, c.factor, fake), c.text) << c.value << " " << c.directives;
-        EXPECT_THAT(fake.shown, testing::IsEmpty()) << c.directives;
+        Messages told;
+        EXPECT_EQ(formatta(c.value, c.directives, c.factor, told), c.text) << c.value << " " << c.directives;
+        EXPECT_THAT(told, testing::IsEmpty()) << c.directives;
     }
 }
 
@@ -88,12 +86,12 @@ TEST(Formatta, WrongDirectivesAreTold) {
              {1.5, "(cu_xx_yy)(fs_xx)", {unit, "comando (fd_nn) o (fs_nn) errato."}},
              {1e308, "(cu_m_cm)(fd_01)(sc_|)", {overflow}},
          }) {
-        FakeDoors fake;
-        EXPECT_EQ(formatta(c.value, c.directives, 1, fake), c.text) << c.directives;
-        std::vector<Message> messages;
+        Messages told;
+        EXPECT_EQ(formatta(c.value, c.directives, 1, told), c.text) << c.directives;
+        Messages messages;
         for (const std::string& text : c.told)
             messages.push_back({Icon::error, "Coltre", text});
-        EXPECT_EQ(fake.shown, messages) << c.directives;
+        EXPECT_EQ(told, messages) << c.directives;
     }
 }
 

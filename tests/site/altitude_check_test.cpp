@@ -17,7 +17,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 /// "line province: reason" of each fault.
-std::vector<std::string> told(std::string_view file) {
+std::vector<std::string> faults_of(std::string_view file) {
     std::vector<std::string> texts;
     for (const AltitudeFault& it : check_altitudes(file))
         texts.push_back(std::to_string(it.line) + " " + std::string(it.province) + ": " +
@@ -37,7 +37,7 @@ std::string with_torino(const std::string& block) {
 }
 
 TEST(AltitudeCheck, BuiltInTableHasItsTwoFaults) {
-    EXPECT_THAT(told(built_in_altitude_file()),
+    EXPECT_THAT(faults_of(built_in_altitude_file()),
                 ElementsAre("3530 Vicenza: manca lo spazio tra il nome e l'altitudine",
                             "8618 Oristano: manca la riga vuota che chiude la provincia alla fine del file"));
     std::string expected = built_in_altitude_file() + "\r\n";
@@ -80,7 +80,7 @@ TEST(AltitudeCheck, FaultsAreToldAndMended) {
         const std::string file = with_torino("Torino\r\n" + block);
         std::vector<std::string> faults;
         if (line > 0) faults.push_back(std::to_string(line) + " Torino: " + fault);
-        EXPECT_EQ(told(file), faults);
+        EXPECT_EQ(faults_of(file), faults);
         EXPECT_TRUE(repair_altitudes(file) == with_torino("Torino\r\n" + repaired));
     }
 }
@@ -89,11 +89,11 @@ TEST(AltitudeCheck, MissingAndEmptyProvincesGetTheirBlock) {
     std::string file = sound_file();
     const std::string block = file.substr(0, file.find("Biella\r\n"));
     file.insert(0, "T");  // a wrong letter hides the whole block
-    EXPECT_THAT(told(file), ElementsAre("0 Torino: manca la riga con il nome della provincia"));
+    EXPECT_THAT(faults_of(file), ElementsAre("0 Torino: manca la riga con il nome della provincia"));
     EXPECT_EQ(repair_altitudes(file), file + block);
 
     const std::string empty = with_torino("Torino\r\n\r\n");
-    EXPECT_THAT(told(empty), ElementsAre("1 Torino: la provincia non contiene comuni"));
+    EXPECT_THAT(faults_of(empty), ElementsAre("1 Torino: la provincia non contiene comuni"));
     EXPECT_EQ(repair_altitudes(empty), sound_file());
     EXPECT_EQ(check_altitudes("").size(), 103U);
 }
@@ -101,7 +101,7 @@ TEST(AltitudeCheck, MissingAndEmptyProvincesGetTheirBlock) {
 TEST(AltitudeCheck, FileSavedInUtf8IsConverted) {
     for (const std::string mark : {"", "\xEF\xBB\xBF"}) {
         const std::string file = mark + from_code_page(sound_file());
-        EXPECT_THAT(told(file), ElementsAre("0 : il file è scritto in UTF-8 e non in Windows-1252"));
+        EXPECT_THAT(faults_of(file), ElementsAre("0 : il file è scritto in UTF-8 e non in Windows-1252"));
         EXPECT_EQ(repair_altitudes(file), sound_file());
     }
 }
@@ -129,12 +129,12 @@ TEST_F(RepairOfFile, LeavesNothingToStumbleOnWhateverTheFile) {
         if (run % 3 == 1) std::erase(file, '\n');
         if (run % 3 == 2) file.resize(file.size() / 2);
         const std::string repaired = repair_altitudes(file);
-        EXPECT_THAT(told(repaired), IsEmpty());
+        EXPECT_THAT(faults_of(repaired), IsEmpty());
         EXPECT_TRUE(repair_altitudes(repaired) == repaired);
         put("altitudini.txt", repaired);
         for (const Region& region : regions()) {
             for (const std::string_view province : region.provinces)
-                EXPECT_TRUE(FillMunicipalities(text(), province, doors)) << province;
+                EXPECT_TRUE(FillMunicipalities(text(), province, told)) << province;
         }
         EXPECT_TRUE(content("altitudini.txt") == repaired) << "a reader had it written anew";
     }
@@ -149,7 +149,7 @@ TEST_F(RepairOfFile, MakesAMissingOneAndLeavesASoundOne) {
     put("altitudini.txt", built_in_altitude_file());
     EXPECT_EQ(repair_altitude_file(text()).faults.size(), 2U);
     EXPECT_EQ(content("altitudini.bak"), built_in_altitude_file());
-    EXPECT_EQ(FillMunicipalities(text(), "Vicenza", doors)->names.size(), 121U);
+    EXPECT_EQ(FillMunicipalities(text(), "Vicenza", told)->names.size(), 121U);
 }
 
 }  // namespace

@@ -12,10 +12,10 @@ using testing::ElementsAre;
 class AltitudeFile : public AltitudeDirectory {
   protected:
     std::optional<MunicipalityList> fill(std::string_view province) {
-        return FillMunicipalities(text(), province, doors);
+        return FillMunicipalities(text(), province, told);
     }
     std::optional<std::string> read(std::string_view province, std::string_view municipality) {
-        return ReadAltitude(text(), province, municipality, doors);
+        return ReadAltitude(text(), province, municipality, told);
     }
     const std::string read_error = "Errore in lettura del file altitudine.txt .";
 };
@@ -31,7 +31,7 @@ TEST_F(AltitudeFile, IsWrittenWhenItIsMissingAndSearchedInTheLastBlockToItsEnd) 
     EXPECT_EQ(read("Trento", "Samone"), "673") << "not its namesake in Torino";
     EXPECT_THAT(fill("Aosta")->names, testing::Contains("Châtillon"));
     EXPECT_EQ(read("Oristano", "Torino"), "15") << "the file's last line";
-    EXPECT_TRUE(fake.shown.empty());
+    EXPECT_TRUE(told.empty());
     EXPECT_FALSE(read("Sassari", "Zerfaliu")) << "the empty line behind Sassari has no blank";
     expect_ended_with(read_error);
 }
@@ -90,10 +90,10 @@ TEST_F(AltitudeFile, DamagedFileRepairsItselfAndTheOldOneSurvives) {
 TEST_F(AltitudeFile, WrittenAnewLosesNoBackup) {
     for (const std::string_view own : {"first", "second", "third", "third"}) {
         put("altitudini.txt", own);
-        EXPECT_TRUE(WriteAltitudeFile(text(), doors));
+        EXPECT_TRUE(WriteAltitudeFile(text(), told));
         EXPECT_EQ(content("altitudini.bak"), own);
     }
-    EXPECT_TRUE(WriteAltitudeFile(text(), doors));
+    EXPECT_TRUE(WriteAltitudeFile(text(), told));
     EXPECT_EQ(content("altitudini.bak"), "third") << "the built-in table itself needs no backup";
     EXPECT_EQ(content("altitudini.bak1"), "first");
     EXPECT_EQ(content("altitudini.bak2"), "second");

@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <fstream>
 
-#include "tests/support/fake_doors.h"
 #include "tests/support/suite_tree.h"
 #include "text/characters.h"
 
@@ -20,14 +19,13 @@ class CheckDirectories : public testing::Test {
     /// Title and text of the message that ended the program.
     std::string fault(const std::string& command_line, const std::string& process_command_line = "",
                       const std::string& own_directory = "") {
-        FakeDoors fake;
+        Messages told;
         const bool goes_on =
-            check_directories(command_line, process_command_line, own_directory, directories, fake.doors());
-        EXPECT_EQ(fake.ended, goes_on ? 0 : 1);
-        EXPECT_EQ(fake.shown.size(), goes_on ? 0U : 1U);
-        if (fake.shown.empty()) return no_fault;
-        EXPECT_EQ(fake.shown[0].icon, Icon::error);
-        return fake.shown[0].title + ": " + fake.shown[0].text;
+            check_directories(command_line, process_command_line, own_directory, directories, told);
+        EXPECT_EQ(told.size(), goes_on ? 0U : 1U);
+        if (told.empty()) return no_fault;
+        EXPECT_EQ(told[0].icon, Icon::error);
+        return told[0].title + ": " + told[0].text;
     }
     std::string fault() { return fault(suite.command_line()); }
 

@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include "tests/support/fake_doors.h"
 #include "tests/support/suite_tree.h"
 #include "text/characters.h"
 
@@ -12,11 +11,11 @@ namespace {
 class StartOfProgram : public testing::Test {
   protected:
     StartUp start(const std::string& command_line, const std::string& own_directory) {
-        return start_up(command_line, own_directory, program, fake.doors());
+        return start_up(command_line, own_directory, program, told);
     }
 
     SuiteTree suite;
-    FakeDoors fake;
+    Messages told;
     Program program;
 };
 
@@ -33,7 +32,7 @@ TEST_F(StartOfProgram, StandAloneLivesInTheProgramsOwnDirectory) {
                                    set.DriverDirectory, set.CustomDirectory, set.HelpDirectory})
         EXPECT_EQ(own, "d:\\programmi\\neve");
     EXPECT_EQ(set.SettingsDirectory + set.TempDirectory + set.JobsDirectory + set.JobName, "");
-    EXPECT_TRUE(fake.shown.empty());
+    EXPECT_TRUE(told.empty());
 }
 
 TEST_F(StartOfProgram, OnlyTheRootDecidesTheMode) {

@@ -6,15 +6,15 @@
 #include <functional>
 #include <string>
 
-#include "platform/program_end.h"
 #include "ui/user_dialogs.h"
 
 namespace coltre {
 
 /// A user whose message boxes are known in advance. One that was not expected fails the test, and so does an
 /// expected one that never came.
-class FakeDialogs : public UserDialogs, public ProgramEnd {
+class FakeDialogs : public UserDialogs {
   public:
+    using UserDialogs::show;
     ~FakeDialogs() override {
         for (const Expected& it : m_expected)
             ADD_FAILURE() << "message box did not come: " << it.message.text;

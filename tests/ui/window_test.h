@@ -81,7 +81,7 @@ class MainWindowTest : public WindowTest {
     }
     void choose_tab(int index) { get<QTabWidget>("SSTab1").setCurrentIndex(index); }
 
-    Form1 window{program, dialogs, dialogs};
+    Form1 window{program, dialogs};
 };
 
 }  // namespace coltre

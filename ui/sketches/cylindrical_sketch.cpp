@@ -81,10 +81,8 @@ Drawing cylindrical_sketch(const Roof& roof, const ProgramCells* loads) {
     const double largest = std::max({qs_uniform, qs_left, qs_right});
     const auto top = [&](double load) { return base - ordinate(load, largest, room); };
 
-    // The chord between the points of the arc that slope by 60 degrees, where the arc has such points.
-    const double L1_by_L = std::numbers::sqrt3 / (2 * std::sin(half_angle));
-    const bool beyond_roof = L1_by_L > 1;
-    const double zone = span * std::min(L1_by_L, 1.0);
+    const bool beyond_roof = results.L1 > L;
+    const double zone = span * std::min(results.L1 / L, 1.0);
     const double quarter = zone / 4;
     constexpr double zone_line = base + 170;
     constexpr double zone_row = zone_line + 230;

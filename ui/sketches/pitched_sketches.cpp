@@ -15,18 +15,6 @@ constexpr double usual_pitch = 20;  // of a neutral sketch
 constexpr double top_row = 240;     // halfway up the labels of the load diagrams
 constexpr double bottom_row = 4150;
 
-double mu1_of(double pitch) {
-    ProgramCells cells;
-    mu1(cells, pitch);
-    return cells.mu1;
-}
-
-double mu2_of(double pitch) {
-    ProgramCells cells;
-    mu2(cells, pitch);
-    return cells.mu2;
-}
-
 /// One side of a roof: horizontal run and fall, twips.
 struct Side {
     double pitch;
@@ -104,7 +92,7 @@ Drawing one_pitch_sketch(const Roof& roof, const ProgramCells* loads) {
     constexpr double base = 1200;
     constexpr double max_rise = 1950;
     const Side side = make_side(drawing.neutral ? usual_pitch : roof.alfa1, 4400, max_rise);
-    const double qs = loads != nullptr ? loads->qs_1 : mu1_of(side.pitch);
+    const double qs = loads != nullptr ? loads->qs_1 : mu1(side.pitch, 0);
     const Point eaves{centre - side.run / 2, 2500 + 950 * side.fall / max_rise};
     const Point ridge{centre + side.run / 2, eaves.y - side.fall};
 
@@ -139,8 +127,8 @@ Drawing two_pitches_sketch(const Roof& roof, const ProgramCells* loads) {
     const Side side2 = make_side(drawing.neutral ? usual_pitch : roof.alfa2, 950, max_fall);
     const double ridge_y = 1500 + 0.5 * (max_fall - std::max(side1.fall, side2.fall));
 
-    const double full1 = loads != nullptr ? loads->qs_2a : mu1_of(side1.pitch);
-    const double full2 = loads != nullptr ? loads->qs_2c : mu1_of(side2.pitch);
+    const double full1 = loads != nullptr ? loads->qs_2a : mu1(side1.pitch, 0);
+    const double full2 = loads != nullptr ? loads->qs_2c : mu1(side2.pitch, 0);
     const double half1 = loads != nullptr ? loads->qs_2b : full1 / 2;
     const double half2 = loads != nullptr ? loads->qs_2d : full2 / 2;
     const double largest = std::max({full1, full2, half1, half2});
@@ -196,9 +184,9 @@ Drawing several_pitches_sketch(const Roof& roof, const ProgramCells* loads) {
     const Side side1 = make_side(drawing.neutral ? usual_pitch : roof.alfa1, 2100, max_fall);
     const Side side2 = make_side(drawing.neutral ? usual_pitch : roof.alfa2, 2100, max_fall);
     const double mean = (side1.pitch + side2.pitch) / 2;
-    const double qs1 = loads != nullptr ? loads->qs_3a : mu1_of(side1.pitch);
-    const double qs2 = loads != nullptr ? loads->qs_3b : mu1_of(side2.pitch);
-    const double qs_valley = loads != nullptr ? loads->qs_3c : mu2_of(mean);
+    const double qs1 = loads != nullptr ? loads->qs_3a : mu1(side1.pitch, 0);
+    const double qs2 = loads != nullptr ? loads->qs_3b : mu1(side2.pitch, 0);
+    const double qs_valley = loads != nullptr ? loads->qs_3c : mu2(mean, 0);
     const double largest = std::max({qs1, qs2, qs_valley});
 
     // Side 1 falls to the valley from the left, side 2 from the right; beyond their ridges half as much

@@ -10,14 +10,14 @@ namespace coltre {
 ProgramCells results_of_unit_ground_load(const Roof& roof) {
     ProgramCells cells;
     cells.qsk = 1;
-    calculate_roof(cells, roof, nullptr);
+    calculate_roof(cells, roof);
     return cells;
 }
 
 ProgramCells results_of_unit_ground_load(const SpecialCaseEntries& entries) {
     ProgramCells cells;
     cells.qsk = 1;
-    calculate_special_case(cells, entries, nullptr);
+    calculate_special_case(cells, entries);
     return cells;
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace coltre {
 
@@ -21,13 +22,7 @@ struct Message {
     bool operator==(const Message&) const = default;
 };
 
-/// The door to the user's message boxes: modal windows, or whatever stands in for them.
-class MessageBoxes {
-  public:
-    virtual ~MessageBoxes() = default;
-
-    /// Shows the message with an OK button and returns when the user has read it.
-    virtual void show(const Message& message) = 0;
-};
+/// What the user is to be told, in order. Whoever runs the core shows it: a window, the command, a test.
+using Messages = std::vector<Message>;
 
 }  // namespace coltre
