@@ -14,7 +14,7 @@
 #include "bench/figure.h"
 #include "tests/support/temporary_directory.h"
 #include "ui/Form1.h"
-#include "ui/sketches/sketch_widget.h"
+#include "ui/sketch_widget.h"
 
 namespace {
 

@@ -1,7 +1,5 @@
 #include "calculate/entry_reader.h"
 
-#include <string>
-
 #include "text/characters.h"
 #include "text/number_reading.h"
 
@@ -15,15 +13,37 @@ std::string beyond_range(std::string_view name) {
 
 }  // namespace
 
-double EntryReader::lenient(std::string_view name, std::string_view text) {
+std::string_view fault_text(Fault fault) {
+    switch (fault) {
+        case Fault::none:
+            return {};
+        case Fault::division_by_zero:
+            return "divisione per zero";
+        case Fault::numeric_error:
+            return "errore numerico";
+        case Fault::invalid_conversion:
+            return "conversione non valida";
+        case Fault::incongruent_dimensions:
+            return "dimensioni non congruenti";
+    }
+    return {};
+}
+
+Message message_of(const Stop& stop) {
+    return {Icon::error, std::string(program_title),
+            "Calcolo interrotto: " + std::string(fault_text(stop.fault)) + ".\r" + stop.explanation};
+}
+
+double EntryReader::lenient(std::string_view name, std::string_view symbol, std::string_view unit,
+                            std::string_view text) {
     if (m_stop) return 0;
     const LenientNumber number = read_leniently(text);
     if (number.beyond_range) m_stop = {Fault::numeric_error, beyond_range(name)};
+    keep(symbol, number.value, unit, text);
     return number.value;
 }
 
 double EntryReader::strict(std::string_view name, std::string_view text, char decimal_separator) {
-    if (m_stop) return 0;
     const StrictNumber number = read_strictly(text, decimal_separator);
     switch (number.verdict) {
         case StrictNumber::Verdict::number:
@@ -41,10 +61,26 @@ double EntryReader::strict(std::string_view name, std::string_view text, char de
     return number.value;
 }
 
-EntryReader::Coefficients EntryReader::coefficients(std::string_view ComboEsp,
-                                                    std::string_view TextCTermico) {
-    const double CE = lenient("coefficiente di esposizione", ComboEsp);
-    return {CE, lenient("coefficiente termico", TextCTermico)};
+Entries EntryReader::entries(Kind kind, std::span<const std::string> texts, char decimal_separator) {
+    Entries entries{.kind = kind};
+    auto text = texts.begin();
+    for (const Entry& entry : describe(kind).entries) {
+        if (m_stop) break;
+        double& number = entries.*entry.number;
+        if (entry.reading == Reading::strict) {
+            number = strict(entry.symbol, *text, decimal_separator);
+            keep(entry.symbol, number, entry.unit, *text);
+        } else {
+            number = lenient(entry.symbol, entry.symbol, entry.unit, *text);
+        }
+        ++text;
+    }
+    return entries;
+}
+
+void EntryReader::keep(std::string_view symbol, double value, std::string_view unit, std::string_view text) {
+    if (m_trace == nullptr || m_stop) return;
+    m_trace->data.push_back({std::string(symbol), value, unit, std::string(text)});
 }
 
 }  // namespace coltre

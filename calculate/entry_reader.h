@@ -1,31 +1,50 @@
 #pragma once
 
 #include <optional>
+#include <span>
+#include <string>
 #include <string_view>
 
-#include "calculate/stop.h"
+#include "calculate/calculations.h"
+#include "platform/messages.h"
 
 namespace coltre {
+
+/// Why a calculation stopped, for the user.
+struct Stop {
+    Fault fault = Fault::none;
+    std::string explanation;  ///< one Italian sentence or more, lines separated by "\r"
+};
+
+/// The fault as a short Italian text: "divisione per zero", "errore numerico", "conversione non valida",
+/// "dimensioni non congruenti"; empty for Fault::none.
+std::string_view fault_text(Fault fault);
+
+/// Says that the calculation stopped and why.
+Message message_of(const Stop& stop);
 
 /// Reads numeric fields until the first that cannot be used; from then on it reads nothing more.
 class EntryReader {
   public:
-    /// @param name  what the explanation of a fault calls the field
-    double lenient(std::string_view name, std::string_view text);
-    /// @param decimal_separator  of the user's locale; "." always is one
-    double strict(std::string_view name, std::string_view text, char decimal_separator);
+    /// @param data  takes each number that was read; null if nobody asks for them
+    explicit EntryReader(Trace* trace = nullptr) : m_trace(trace) {}
 
-    /// The two coefficients of the main window, of the fields of these names.
-    struct Coefficients {
-        double CE;
-        double Ct;
-    };
-    Coefficients coefficients(std::string_view ComboEsp, std::string_view TextCTermico);
+    /// @param name    what the explanation of a fault calls the field
+    /// @param symbol  what formulas call the number
+    double lenient(std::string_view name, std::string_view symbol, std::string_view unit,
+                   std::string_view text);
+    /// The numbers of a calculation from its texts, in the order of its row.
+    /// @param decimal_separator  of the user's locale, for strict reading; "." always is one
+    Entries entries(Kind kind, std::span<const std::string> texts, char decimal_separator);
 
     /// Set by the first field that was no number or beyond the range of numbers.
     [[nodiscard]] const std::optional<Stop>& stop() const { return m_stop; }
 
   private:
+    double strict(std::string_view name, std::string_view text, char decimal_separator);
+    void keep(std::string_view symbol, double value, std::string_view unit, std::string_view text);
+
+    Trace* m_trace;
     std::optional<Stop> m_stop;
 };
 

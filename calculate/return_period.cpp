@@ -25,18 +25,19 @@ ReturnPeriodOutcome confirm_return_period(std::string_view InputPerRIT, ProgramC
         return ReturnPeriodOutcome{Message{Icon::error, std::string(program_title), std::move(text)}, {}, {}};
     };
     EntryReader reader;
-    const double Tr = reader.lenient("periodo di ritorno", InputPerRIT);
+    const double Tr = reader.lenient("periodo di ritorno", "Tr", "anni", InputPerRIT);
     if (reader.stop()) return stopped(*reader.stop());
     cells.return_period = Tr;
     if (Tr <= 0) return refused("Il Periodo di Ritorno deve essere un numero maggiore di 0.");
     // Up to 1 year the factor's logarithm is not defined.
     if (Tr <= 1) return refused("Il Periodo di Ritorno deve essere un numero maggiore di 1.");
-    const Checked factor = return_period_factor(Tr);
+    const Checked factor = return_period_factor(Checked(Tr));
     if (factor.fault() != Fault::none) {
         return stopped(
             {factor.fault(), "Il Periodo di Ritorno è troppo lungo: il coefficiente non si può calcolare."});
     }
     cells.return_period_factor = factor.value();
+    cells.confirmed_return_period = Tr;
     return {std::nullopt, std::string(trim_blanks(display_number_text(Tr))), Fault::none};
 }
 

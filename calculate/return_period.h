@@ -20,7 +20,7 @@ struct ReturnPeriodOutcome {
     Fault fault = Fault::none;                ///< the number, or its factor, is beyond the range of numbers
 };
 
-/// The road of a click on `OkPerRit`: reads the return period leniently into its cell at once, before any
+/// A click on `OkPerRit` reads the return period leniently into its cell at once, before any
 /// check, then sets the return period factor. A return period of 0 or less, or of up to 1 year, is told
 /// and leaves the factor as it was, though the cell keeps it: deliberate, a report written now
 /// prints it.

@@ -48,7 +48,8 @@ class LineReader {
 Result perform_line(const LineReader& reader, const Surroundings& surroundings, SiteMemory& memory) {
     Result result;
     if (reader.too_long()) {
-        result.error = "la riga è più lunga di " + std::to_string(LineReader::longest) + " byte";
+        result.fail(End::wrong_request,
+                    "la riga è più lunga di " + std::to_string(LineReader::longest) + " byte");
         return result;
     }
     JsonRequest line = read_json_request(reader.line());
@@ -56,7 +57,7 @@ Result perform_line(const LineReader& reader, const Surroundings& surroundings, 
         result = perform(line.request, surroundings, memory);
     } else {
         result.kind = line.request.kind;
-        result.error = std::move(line.mistake);
+        result.fail(End::wrong_request, std::move(line.mistake));
     }
     result.id = std::move(line.id);
     return result;
@@ -70,7 +71,7 @@ BatchEnd run_batch(std::istream& in, std::ostream& out, const Surroundings& surr
     LineReader reader(in);
     while (out && reader.next()) {
         const Result result = perform_line(reader, surroundings, memory);
-        some_failed = some_failed || !result.error.empty();
+        some_failed = some_failed || result.end != End::well;
         out << to_json(result) << '\n';
         if (in.rdbuf()->in_avail() <= 0) out.flush();
     }

@@ -43,6 +43,11 @@ void print_message(std::ostream& err, const Message& message) {
     err << text;  // at once: another program may write to the same place
 }
 
+int exit_status(End end) {
+    if (end == End::well) return all_well;
+    return end == End::wrong_request ? bad_usage : failed;
+}
+
 int run_calculation(const Request& request, bool json, const Surroundings& surroundings,
                     const Streams& streams) {
     SiteMemory memory;
@@ -50,18 +55,15 @@ int run_calculation(const Request& request, bool json, const Surroundings& surro
     if (json) {
         streams.out << to_json(result) << '\n';
     } else {
-        for (const std::string& entry : result.misread)
+        for (const std::string& entry : result.partly_understood)
             streams.err << "Attenzione: " << entry << '\n';
         for (const Message& message : result.messages)
             print_message(streams.err, message);
-        if (!result.wrong_request) streams.out << to_table(result);
+        if (result.end != End::wrong_request) streams.out << to_table(result);
+        if (result.end == End::wrong_request) return complain(streams.err, result.error);
+        if (result.end == End::failed) streams.err << "Errore: " << result.error << '\n';
     }
-    if (!result.error.empty() && !json && !result.told) {
-        if (result.wrong_request) return complain(streams.err, result.error);
-        streams.err << "Errore: " << result.error << '\n';
-    }
-    if (result.wrong_request) return check_output(streams.out, streams.err, bad_usage);
-    return check_output(streams.out, streams.err, result.error.empty() ? all_well : failed);
+    return check_output(streams.out, streams.err, exit_status(result.end));
 }
 
 int run_batch_command(const std::string& file, const Surroundings& surroundings, const Streams& streams) {
@@ -93,21 +95,22 @@ struct Choice {
 };
 
 /// Every option takes the one text behind it, whatever that looks like, and is given once.
-void add_options(CLI::App& calculation, Kind kind, Choice& choice) {
-    const auto add = [&](Key key) {
+void add_options(CLI::App& command, const Description& calculation, Choice& choice) {
+    const auto add = [&](const Key& key) {
         const auto take = [&choice, key](const std::vector<std::string>& values) {
             if (values.size() > 1)
-                choice.mistake = "l'opzione --" + std::string(info(key).name) + " è data più volte";
-            choice.request.value(key) = values.front();
+                choice.mistake = "l'opzione --" + std::string(key.name) + " è data più volte";
+            choice.request.set(key, values.front());
         };
-        calculation.add_option_function<std::vector<std::string>>("--" + std::string(info(key).name), take)
+        command.add_option_function<std::vector<std::string>>("--" + std::string(key.name), take)
             ->expected(1)
             ->allow_extra_args(false)
             ->take_all();
     };
-    std::ranges::for_each(info(kind).entries, add);
+    for (const Entry& entry : calculation.entries)
+        add(key_of(entry));
     std::ranges::for_each(common_keys(), add);
-    calculation.add_flag("--json", choice.json);
+    command.add_flag("--json", choice.json);
 }
 
 CLI::App& add_subcommand(CLI::App& parent, std::string_view name, Choice& choice,
@@ -125,7 +128,7 @@ std::vector<std::string> split_assignments(std::span<const std::string> argument
     for (const std::string& argument : arguments) {
         const std::size_t equals = argument.find('=');
         const bool assigns = argument.starts_with("--") && equals != std::string::npos &&
-                             key_of(std::string_view(argument).substr(2, equals - 2));
+                             find_key(std::string_view(argument).substr(2, equals - 2));
         single.push_back(assigns ? argument.substr(0, equals) : argument);
         if (assigns) single.push_back(argument.substr(equals + 1));
     }
@@ -153,12 +156,12 @@ int run(std::span<const std::string> arguments, const Surroundings& surroundings
     app.allow_extras();
     app.require_subcommand(0, 1);
 
-    for (const KindInfo& kind : kinds()) {
-        CLI::App& calculation =
-            add_subcommand(app, kind.name, choice, [&kind] { return calculation_help(kind.kind); });
-        add_options(calculation, kind.kind, choice);
-        calculation.callback([&choice, &surroundings, &streams, &kind] {
-            choice.request.kind = kind.kind;
+    for (const Description& calculation : calculations()) {
+        CLI::App& command = add_subcommand(app, calculation.name, choice,
+                                           [&calculation] { return calculation_help(calculation); });
+        add_options(command, calculation, choice);
+        command.callback([&choice, &surroundings, &streams, &calculation] {
+            choice.request.kind = calculation.kind;
             choice.action = [&] {
                 return run_calculation(choice.request, choice.json, surroundings, streams);
             };

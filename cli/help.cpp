@@ -15,9 +15,8 @@ void append_row(std::string& help, std::string_view left, std::string_view right
     help += row + " " + std::string(right) + "\n";
 }
 
-void append_option(std::string& help, Key key) {
-    append_row(help, "--" + std::string(info(key).name) + " " + std::string(info(key).placeholder),
-               info(key).meaning);
+void append_option(std::string& help, const Key& key) {
+    append_row(help, "--" + std::string(key.name) + " " + std::string(key.placeholder), key.meaning);
 }
 
 }  // namespace
@@ -29,26 +28,25 @@ std::string general_help() {
         "     coltre-calcolo lotto [FILE | -]\n"
         "     coltre-calcolo altitudini scrivi | verifica | ripara [DIR]\n\n"
         "Calcoli:\n";
-    for (const KindInfo& kind : kinds())
-        append_row(help, kind.name, kind.meaning);
+    for (const Description& calculation : calculations())
+        append_row(help, calculation.name, calculation.meaning);
     help += "\nAltri comandi:\n";
     append_row(help, "lotto", "una richiesta JSON per riga, un risultato JSON per riga");
     append_row(help, "altitudini", "scrive, verifica o ripara il file altitudini.txt");
     help += "\nOpzioni:\n";
     append_row(help, "-h, --help", "questo aiuto; dopo un comando, il suo");
     append_row(help, "--version", "la versione");
-    help += "\nEsempio:\n  coltre-calcolo una-falda " + std::string(info(Kind::una_falda).example) + "\n";
+    help += "\nEsempio:\n  coltre-calcolo una-falda " + std::string(describe(Kind::one_pitch).example) + "\n";
     return help;
 }
 
-std::string calculation_help(Kind kind) {
-    const KindInfo& calculation = info(kind);
+std::string calculation_help(const Description& calculation) {
     std::string help = "coltre-calcolo " + std::string(calculation.name) + ": " +
                        std::string(calculation.meaning) + "\n\nDati del calcolo (tutti necessari):\n";
-    for (const Key key : calculation.entries)
-        append_option(help, key);
+    for (const Entry& entry : calculation.entries)
+        append_option(help, key_of(entry));
     help += "\nSito (provincia e comune, oppure zona e altitudine) e opzioni comuni:\n";
-    for (const Key key : common_keys())
+    for (const Key& key : common_keys())
         append_option(help, key);
     append_row(help, "--json", "un oggetto JSON invece della tabella");
     append_row(help, "-h, --help", "questo aiuto");

@@ -33,7 +33,7 @@ class RequestReader {
             m_result.request.kind = kind_of(text);
             if (!m_result.request.kind) mistake("calcolo sconosciuto: " + in_quotes(text));
         } else if (m_key) {
-            m_result.request.value(*m_key) = std::move(text);
+            m_result.request.set(*m_key, std::move(text));
         }
         return true;
     }
@@ -55,10 +55,10 @@ class RequestReader {
         if (m_depth != 1) return true;
         m_is_id = name == "id";
         m_is_kind = name == "calcolo";
-        m_key = m_is_id || m_is_kind ? std::nullopt : key_of(name);
+        m_key = m_is_id || m_is_kind ? std::nullopt : find_key(name);
         if (!m_is_id && !m_is_kind && !m_key) mistake("chiave sconosciuta: " + in_quotes(name));
         const bool repeated = (m_is_id && !m_result.id.empty()) || (m_is_kind && m_result.request.kind) ||
-                              (m_key && m_result.request.value(*m_key));
+                              (m_key && m_result.request.value(*m_key) != nullptr);
         if (repeated) mistake("chiave ripetuta: " + in_quotes(name));
         if (m_is_id) m_result.id.clear();
         return true;
@@ -111,8 +111,8 @@ class RequestReader {
     void wrong_type(std::string_view what) {
         if (m_is_kind) mistake("«calcolo» deve essere un testo, non " + std::string(what));
         if (!m_key) return;
-        mistake(in_quotes(info(*m_key).name) + " deve essere " +
-                (info(*m_key).is_number ? "un numero o " : "") + "un testo, non " + std::string(what));
+        mistake(in_quotes(m_key->name) + " deve essere " + (m_key->is_number ? "un numero o " : "") +
+                "un testo, non " + std::string(what));
     }
 
     bool literal(std::string_view text) {
@@ -122,8 +122,8 @@ class RequestReader {
 
     bool number(const std::string& text) {
         if (echo_value([&] { m_result.id += text; }) || outside()) return true;
-        if (m_key && info(*m_key).is_number) {
-            m_result.request.value(*m_key) = text;
+        if (m_key && m_key->is_number) {
+            m_result.request.set(*m_key, text);
         } else {
             wrong_type("un numero");
         }

@@ -10,63 +10,24 @@
 #include "cli/site_choice.h"
 #include "platform/files.h"
 #include "report/unit_systems.h"
-#include "text/number_reading.h"
-#include "text/number_text.h"
 
 namespace coltre::cli {
 
 namespace {
 
-/// What a calculation takes from entries that it cannot wholly understand: "1,5" is 1. The windows mark such
-/// a field.
-std::vector<std::string> misread_entries(const Request& request) {
-    std::vector<std::string> misread;
-    for (std::size_t i = 0; i < key_count; ++i) {
-        const auto key = static_cast<Key>(i);
-        const auto& text = request.value(key);
-        if (!text || !reads_leniently(*request.kind, key)) continue;
-        const LenientNumber number = read_leniently(*text);
-        if (!number.wholly_understood && !number.beyond_range)
-            misread.push_back(std::string(info(key).name) + " " + in_quotes(*text) + ": letto come " +
-                              shortest_number_text(number.value));
-    }
-    return misread;
+Fields fields_of(const Request& request, std::string altitude, char decimal_separator) {
+    return {.asinput = std::move(altitude),
+            .ComboEsp = request.value_or(keys::ce, "1.0"),
+            .TextCTermico = request.value_or(keys::ct, "1.0"),
+            .kind = *request.kind,
+            .entries = entry_texts(request),
+            .udmcombo = request.value_or(keys::unita, unit_items.front()),
+            .Check1Box = request.value(keys::relazione) != nullptr,
+            .decimal_separator = decimal_separator};
 }
 
-MainWindowFields main_window_fields(const Request& request, std::string altitude) {
-    MainWindowFields fields;
-    fields.asinput = std::move(altitude);
-    fields.ComboEsp = request.value_or(Key::ce, "1.0");
-    fields.TextCTermico = request.value_or(Key::ct, "1.0");
-    fields.SSTab1 = static_cast<RoofFamily>(*request.kind);
-    fields.inputalfa = request.value_or(Key::alfa, "");
-    fields.inputalfa1 = fields.inputalfa3 = request.value_or(Key::alfa1, "");
-    fields.inputalfa2 = fields.inputalfa4 = request.value_or(Key::alfa2, "");
-    fields.Lcopcil = request.value_or(Key::larghezza, "");
-    fields.hcopcil = request.value_or(Key::altezza, "");
-    fields.udmcombo = request.value_or(Key::unita, unit_items.front());
-    fields.Check1Box = request.value(Key::relazione).has_value();
-    return fields;
-}
-
-SpecialCasesFields special_cases_fields(const Request& request, std::string altitude,
-                                        char decimal_separator) {
-    SpecialCasesFields fields;
-    fields.asinput = std::move(altitude);
-    fields.ComboEsp = request.value_or(Key::ce, "1.0");
-    fields.TextCTermico = request.value_or(Key::ct, "1.0");
-    fields.cartelle =
-        static_cast<SpecialCase>(static_cast<int>(*request.kind) - static_cast<int>(Kind::discontinuita));
-    fields.b1input = request.value_or(Key::b1, "");
-    fields.b2input = request.value_or(Key::b2, "");
-    fields.h2input = fields.h3input = request.value_or(Key::h, "");
-    fields.deltainput = fields.angoloinput = request.value_or(Key::alfa, "");
-    fields.qsinput = request.value_or(Key::qs, "");
-    fields.biinput = request.value_or(Key::b, "");
-    fields.udmcombo = request.value_or(Key::unita, unit_items.front());
-    fields.Check1Box = request.value(Key::relazione).has_value();
-    fields.decimal_separator = decimal_separator;
-    return fields;
+void append(Messages& messages, Messages more) {
+    std::ranges::move(more, std::back_inserter(messages));
 }
 
 }  // namespace
@@ -74,52 +35,56 @@ SpecialCasesFields special_cases_fields(const Request& request, std::string alti
 Result perform(const Request& request, const Surroundings& surroundings, SiteMemory& memory) {
     Result result;
     result.kind = request.kind;
-    result.error = find_mistake(request);
-    result.wrong_request = !result.error.empty();
-    if (result.wrong_request) return result;
-    result.misread = misread_entries(request);
+    if (std::string error = validation_error(request); !error.empty()) {
+        result.fail(End::wrong_request, std::move(error));
+        return result;
+    }
+    result.partly_understood = partly_understood(request);
 
     Program program;
     program.directories.ProgramDirectory = surroundings.own_directory;
-    if (const auto& directory = request.value(Key::altitudini)) {
+    if (const std::string* const directory = request.value(keys::altitudini)) {
         program.directories.ProgramDirectory = suite_notation(*directory);
     }
-    if (const auto& directory = request.value(Key::relazione)) {
+    if (const std::string* const directory = request.value(keys::relazione)) {
         program.directories.WorkDirectory = suite_notation(*directory);
     }
-    program.directories.JobName = request.value_or(Key::lavoro, "");
+    program.directories.JobName = request.value_or(keys::lavoro, "");
 
     std::string altitude;
-    if (request.value(Key::provincia)) {
+    if (request.value(keys::provincia) != nullptr) {
         const auto site = site_by_name(request, program, memory, result);
         if (!site) return result;
         altitude = site->altitude;
     }
-    if (const auto& given = request.value(Key::altitudine)) altitude = *given;
-    if (const auto& given = request.value(Key::zona)) program.cells.zone = *zone_of(*given);
+    if (const std::string* const given = request.value(keys::altitudine)) altitude = *given;
+    if (const std::string* const given = request.value(keys::zona)) program.cells.zone = *zone_of(*given);
     result.zone = program.cells.zone;
 
-    if (const auto& Tr = request.value(Key::periodo_ritorno)) {
+    if (const std::string* const Tr = request.value(keys::periodo_ritorno)) {
         ReturnPeriodOutcome outcome = confirm_return_period(*Tr, program.cells);
         if (outcome.message) result.messages.push_back(*std::move(outcome.message));
         if (outcome.fault != Fault::none) {
-            result.error = fault_text(outcome.fault);
-            result.told = true;
+            result.fail(End::failed_with_message, std::string(fault_text(outcome.fault)));
             return result;
         }
     }
 
-    const bool special = *request.kind >= Kind::discontinuita;
-    ClickOutcome outcome =
-        special ? Calcola2(special_cases_fields(request, altitude, surroundings.decimal_separator), program)
-                : Calcola(main_window_fields(request, altitude), program);
-    std::ranges::move(outcome.messages, std::back_inserter(result.messages));
-    result.calculation = outcome.calculation;
+    const Fields fields = fields_of(request, std::move(altitude), surroundings.decimal_separator);
+    const bool main_window = describe(fields.kind).window == Window::main;
+    if (main_window) {
+        if (auto notice = altitude_notice(fields)) result.messages.push_back(std::move(notice->message));
+    }
+    Outcome outcome = main_window ? Calcola(fields, program) : Calcola2(fields, program);
+    append(result.messages, std::move(outcome.messages));
+    result.calculation = std::move(outcome.calculation);
     result.altitude = outcome.altitude;
     result.qsk = outcome.qsk;
-    result.error =
-        outcome.fault != Fault::none ? std::string(fault_text(outcome.fault)) : outcome.file_failure;
-    result.told = !result.error.empty();
+    if (outcome.fault != Fault::none) {
+        result.fail(End::failed_with_message, std::string(fault_text(outcome.fault)));
+    } else if (!outcome.file_failure.empty()) {
+        result.fail(End::failed_with_message, outcome.file_failure);
+    }
     if (!outcome.report.empty()) result.report = find_path(outcome.report).string();
     return result;
 }

@@ -1,131 +1,111 @@
 #include "cli/request.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "report/unit_systems.h"
 #include "text/number_reading.h"
+#include "text/number_text.h"
 
 namespace coltre::cli {
 
 namespace {
 
-// In the order of Key.
-constexpr std::array<KeyInfo, key_count> keys{{
-    {"provincia", "P", "provincia; ne viene la zona", false},
-    {"comune", "C", "comune; ne viene l'altitudine, da altitudini.txt", false},
-    {"zona", "0..3", "zona: 0 I Alpina, 1 I Mediterranea, 2 II, 3 III; vince su quella della provincia",
-     true},
-    {"altitudine", "M", "altitudine [m]; vince su quella del comune", true},
-    {"periodo-ritorno", "TR", "periodo di ritorno [anni]; senza, il coefficiente resta 1.0", true},
-    {"ce", "CE", "coefficiente di esposizione (1.0)", true},
-    {"ct", "CT", "coefficiente termico (1.0)", true},
-    {"unita", "U", "unità della relazione: \"kN , m\", \"Kgf , m\" o \"kgf , cm\" (kN , m)", false},
-    {"lavoro", "NOME", "nome del lavoro nella relazione", false},
-    {"relazione", "DIR", "scrive la relazione in questa cartella", false},
-    {"altitudini", "DIR", "cartella di altitudini.txt (quella del programma)", false},
-    {"alfa", "A", "inclinazione della falda [gradi]", true},
-    {"alfa1", "A", "inclinazione della prima falda [gradi]", true},
-    {"alfa2", "A", "inclinazione della seconda falda [gradi]", true},
-    {"larghezza", "L", "larghezza della copertura [m]", true},
-    {"altezza", "H", "altezza della copertura [m]", true},
-    {"b1", "B", "larghezza della copertura a quota superiore [m]", true},
-    {"b2", "B", "larghezza della copertura a quota inferiore [m]", true},
-    {"h", "H", "dislivello, o altezza della parete [m]", true},
-    {"qs", "Q", "carico neve sulla copertura [kN/m²]", true},
-    {"b", "B", "distanza in piano dall'ostacolo al colmo [m]", true},
-}};
+using namespace keys;
 
-constexpr std::array common{Key::provincia,       Key::comune,    Key::zona,      Key::altitudine,
-                            Key::periodo_ritorno, Key::ce,        Key::ct,        Key::unita,
-                            Key::lavoro,          Key::relazione, Key::altitudini};
+constexpr std::array common{provincia, comune, zona,   altitudine, periodo_ritorno, ce,
+                            ct,        unita,  lavoro, relazione,  altitudini};
 
-constexpr std::array one_pitch{Key::alfa};
-constexpr std::array two_pitches{Key::alfa1, Key::alfa2};
-constexpr std::array vault{Key::larghezza, Key::altezza};
-constexpr std::array level_change{Key::b1, Key::b2, Key::h, Key::alfa};
-constexpr std::array wall{Key::h};
-constexpr std::array snow_guard{Key::qs, Key::b, Key::alfa};
+std::string missing(const Key& key) {
+    return "manca " + in_quotes(key.name);
+}
 
-// In the order of Kind.
-constexpr std::array<KindInfo, 7> all_kinds{{
-    {Kind::una_falda, "una-falda", "copertura ad una falda", one_pitch,
-     "--provincia Torino --comune Torino --alfa 15 --relazione ."},
-    {Kind::due_falde, "due-falde", "copertura a due falde", two_pitches,
-     "--provincia Cuneo --comune Cuneo --alfa1 25 --alfa2 40"},
-    {Kind::piu_falde, "piu-falde", "copertura a più falde, condizione aggiuntiva", two_pitches,
-     "--zona 2 --altitudine 350 --alfa1 20 --alfa2 40"},
-    {Kind::cilindrica, "cilindrica", "copertura cilindrica", vault,
-     "--zona 1 --altitudine 120 --larghezza 20 --altezza 4 --ce 0.9"},
-    {Kind::discontinuita, "discontinuita", "coperture con discontinuità di quota", level_change,
-     "--zona 0 --altitudine 600 --b1 10 --b2 8 --h 2.5 --alfa 10"},
-    {Kind::parete, "parete", "accumulo contro una parete verticale", wall,
-     "--zona 0 --altitudine 600 --h 2.30 --unita \"Kgf , m\""},
-    {Kind::ostacolo, "ostacolo", "forza su paraneve e ostacoli", snow_guard,
-     "--zona 3 --altitudine 40 --qs 1.28 --b 5 --alfa 10"},
-}};
-
-std::string find_missing(const Request& request) {
-    for (const Key key : info(*request.kind).entries) {
-        if (!request.value(key)) return "manca " + in_quotes(info(key).name);
+/// What the request lacks, in Italian; empty if it is whole.
+std::string missing_value(const Request& request) {
+    for (const Entry& entry : describe(*request.kind).entries) {
+        if (request.value(entry.key) == nullptr) return missing(key_of(entry));
     }
-    const bool province = request.value(Key::provincia).has_value();
-    const bool municipality = request.value(Key::comune).has_value();
-    if (province != municipality) {
-        return "provincia e comune vanno dati insieme: manca " + in_quotes(province ? "comune" : "provincia");
+    const bool has_province = request.value(provincia) != nullptr;
+    if (has_province != (request.value(comune) != nullptr)) {
+        return "provincia e comune vanno dati insieme: " + missing(has_province ? comune : provincia);
     }
-    if (province) return {};
-    const bool zone = request.value(Key::zona).has_value();
-    const bool altitude = request.value(Key::altitudine).has_value();
-    if (!zone && !altitude) return "manca il sito: provincia e comune, oppure zona e altitudine";
-    if (!zone) return "manca " + in_quotes("zona");
-    if (!altitude) return "manca " + in_quotes("altitudine");
+    if (has_province) return {};
+    const bool has_zone = request.value(zona) != nullptr;
+    const bool has_altitude = request.value(altitudine) != nullptr;
+    if (!has_zone && !has_altitude) return "manca il sito: provincia e comune, oppure zona e altitudine";
+    if (!has_zone) return missing(zona);
+    if (!has_altitude) return missing(altitudine);
     return {};
 }
 
+/// @return nothing for a text that is a number or, read strictly, none at all
+std::optional<std::string> partly_understood(std::string_view key, const std::string& text) {
+    const LenientNumber number = read_leniently(text);
+    if (number.wholly_understood || number.beyond_range) return std::nullopt;
+    return std::string(key) + " " + in_quotes(text) + ": letto come " + shortest_number_text(number.value);
+}
+
 }  // namespace
-
-std::string in_quotes(std::string_view text) {
-    return "«" + std::string(text) + "»";
-}
-
-const KeyInfo& info(Key key) {
-    return keys[static_cast<std::size_t>(key)];
-}
-
-std::optional<Key> key_of(std::string_view name) {
-    const auto found = std::ranges::find(keys, name, &KeyInfo::name);
-    if (found == keys.end()) return std::nullopt;
-    return static_cast<Key>(found - keys.begin());
-}
-
-std::span<const KindInfo> kinds() {
-    return all_kinds;
-}
-
-const KindInfo& info(Kind kind) {
-    return all_kinds[static_cast<std::size_t>(kind)];
-}
-
-std::optional<Kind> kind_of(std::string_view name) {
-    const auto found = std::ranges::find(all_kinds, name, &KindInfo::name);
-    if (found == all_kinds.end()) return std::nullopt;
-    return found->kind;
-}
 
 std::span<const Key> common_keys() {
     return common;
 }
 
-bool takes(Kind kind, Key key) {
-    const auto entries = info(kind).entries;
-    return std::ranges::find(common, key) != common.end() || std::ranges::find(entries, key) != entries.end();
+Key key_of(const Entry& entry) {
+    // The help has the symbol for the value, "--larghezza L"; of a longer one the first letter.
+    constexpr std::string_view letters = "ALHBQ";
+    const char first = static_cast<char>(std::toupper(static_cast<unsigned char>(entry.symbol.front())));
+    return {entry.key, letters.substr(letters.find(first), 1), entry.meaning, true};
 }
 
-bool reads_leniently(Kind kind, Key key) {
-    if (!info(key).is_number || key == Key::zona) return false;
-    if (std::ranges::find(common, key) != common.end()) return true;
-    return kind != Kind::discontinuita && kind != Kind::parete;
+std::optional<Key> find_key(std::string_view name) {
+    const auto key = std::ranges::find(common, name, &Key::name);
+    if (key != common.end()) return *key;
+    for (const Description& calculation : calculations()) {
+        const auto entry = std::ranges::find(calculation.entries, name, &Entry::key);
+        if (entry != calculation.entries.end()) return key_of(*entry);
+    }
+    return std::nullopt;
+}
+
+bool takes(Kind kind, std::string_view key) {
+    const auto entries = describe(kind).entries;
+    return std::ranges::find(common, key, &Key::name) != common.end() ||
+           std::ranges::find(entries, key, &Entry::key) != entries.end();
+}
+
+std::string in_quotes(std::string_view text) {
+    return "«" + std::string(text) + "»";
+}
+
+const std::string* Request::value(std::string_view key) const {
+    const auto found = std::ranges::find(m_values, key, &std::pair<std::string_view, std::string>::first);
+    return found == m_values.end() ? nullptr : &found->second;
+}
+
+std::string Request::value_or(const Key& key, std::string_view otherwise) const {
+    const std::string* const given = value(key);
+    return given != nullptr ? *given : std::string(otherwise);
+}
+
+void Request::set(const Key& key, std::string text) {
+    const auto found =
+        std::ranges::find(m_values, key.name, &std::pair<std::string_view, std::string>::first);
+    if (found != m_values.end()) {
+        found->second = std::move(text);
+    } else {
+        m_values.emplace_back(key.name, std::move(text));
+    }
+}
+
+std::vector<std::string> entry_texts(const Request& request) {
+    std::vector<std::string> texts;
+    for (const Entry& entry : describe(*request.kind).entries) {
+        const std::string* const text = request.value(entry.key);
+        texts.push_back(text != nullptr ? *text : std::string());
+    }
+    return texts;
 }
 
 std::optional<SnowZone> zone_of(std::string_view text) {
@@ -135,31 +115,44 @@ std::optional<SnowZone> zone_of(std::string_view text) {
     return static_cast<SnowZone>(number.value);
 }
 
-std::string find_mistake(const Request& request) {
+std::string validation_error(const Request& request) {
     if (!request.kind) return "manca " + in_quotes("calcolo");
-    for (std::size_t i = 0; i < key_count; ++i) {
-        const auto key = static_cast<Key>(i);
-        if (request.value(key) && !takes(*request.kind, key)) {
-            return in_quotes(info(key).name) + " non è del calcolo " + in_quotes(info(*request.kind).name);
-        }
+    for (const auto& [key, text] : request.values()) {
+        if (!takes(*request.kind, key))
+            return in_quotes(key) + " non è del calcolo " + in_quotes(describe(*request.kind).name);
     }
-    if (std::string missing = find_missing(request); !missing.empty()) return missing;
+    if (std::string missing = missing_value(request); !missing.empty()) return missing;
 
-    if (const auto& zone = request.value(Key::zona)) {
-        if (!zone_of(*zone)) return "la zona deve essere 0, 1, 2 o 3: " + in_quotes(*zone);
+    if (const std::string* const zone = request.value(zona); zone != nullptr && !zone_of(*zone)) {
+        return "la zona deve essere 0, 1, 2 o 3: " + in_quotes(*zone);
     }
-    if (const auto& unit = request.value(Key::unita); unit && !unit_system_of(*unit)) {
+    if (const std::string* const unit = request.value(unita); unit != nullptr && !unit_system_of(*unit)) {
         return "l'unità deve essere \"kN , m\", \"Kgf , m\" o \"kgf , cm\": " + in_quotes(*unit);
     }
-    for (const Key key : {Key::relazione, Key::altitudini}) {
-        const auto& directory = request.value(key);
-        if (!directory) continue;
-        if (directory->empty()) return "la cartella di " + in_quotes(info(key).name) + " è vuota";
+    for (const Key& key : {relazione, altitudini}) {
+        const std::string* const directory = request.value(key);
+        if (directory == nullptr) continue;
+        if (directory->empty()) return "la cartella di " + in_quotes(key.name) + " è vuota";
         if (directory->find('\0') != std::string::npos) {
-            return "la cartella di " + in_quotes(info(key).name) + " contiene un carattere nullo";
+            return "la cartella di " + in_quotes(key.name) + " contiene un carattere nullo";
         }
     }
     return {};
+}
+
+std::vector<std::string> partly_understood(const Request& request) {
+    std::vector<std::string> texts;
+    const auto read = [&](std::string_view key) {
+        const std::string* const text = request.value(key);
+        if (text == nullptr) return;
+        if (auto reading = partly_understood(key, *text)) texts.push_back(*std::move(reading));
+    };
+    // The zone is read strictly, and so are the entries of a level change and of a wall.
+    for (const Key& key : {altitudine, periodo_ritorno, ce, ct})
+        read(key.name);
+    for (const Entry& entry : describe(*request.kind).entries)
+        if (entry.reading == Reading::lenient) read(entry.key);
+    return texts;
 }
 
 }  // namespace coltre::cli

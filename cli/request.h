@@ -1,101 +1,94 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
+#include "calculate/calculations.h"
 #include "engine/program_cells.h"
 
 // What is asked of the command: one calculation, from its options or from a line of a batch.
 namespace coltre::cli {
 
-/// The options of a calculation.
-enum class Key {
-    provincia,
-    comune,
-    zona,
-    altitudine,
-    periodo_ritorno,
-    ce,
-    ct,
-    unita,
-    lavoro,
-    relazione,
-    altitudini,
-    alfa,
-    alfa1,
-    alfa2,
-    larghezza,
-    altezza,
-    b1,
-    b2,
-    h,
-    qs,
-    b,
-};
-inline constexpr std::size_t key_count = static_cast<std::size_t>(Key::b) + 1;
-
-/// How users write an option.
-struct KeyInfo {
+/// A value that a request may hold, and how users write it.
+struct Key {
     std::string_view name;         ///< long option without its dashes, and key of a batch request
     std::string_view placeholder;  ///< what stands for its value in the help
     std::string_view meaning;      ///< Italian
     bool is_number;                ///< a batch may give it as a number or as a text; others as a text only
 };
 
-const KeyInfo& info(Key key);
+/// The keys that every calculation takes.
+namespace keys {
+inline constexpr Key provincia{"provincia", "P", "provincia; ne viene la zona", false};
+inline constexpr Key comune{"comune", "C", "comune; ne viene l'altitudine, da altitudini.txt", false};
+inline constexpr Key zona{
+    "zona", "0..3", "zona: 0 I Alpina, 1 I Mediterranea, 2 II, 3 III; vince su quella della provincia", true};
+inline constexpr Key altitudine{"altitudine", "M", "altitudine [m]; vince su quella del comune", true};
+inline constexpr Key periodo_ritorno{"periodo-ritorno", "TR",
+                                     "periodo di ritorno [anni]; senza, il coefficiente resta 1.0", true};
+inline constexpr Key ce{"ce", "CE", "coefficiente di esposizione (1.0)", true};
+inline constexpr Key ct{"ct", "CT", "coefficiente termico (1.0)", true};
+inline constexpr Key unita{"unita", "U",
+                           R"(unità della relazione: "kN , m", "Kgf , m" o "kgf , cm" (kN , m))", false};
+inline constexpr Key lavoro{"lavoro", "NOME", "nome del lavoro nella relazione", false};
+inline constexpr Key relazione{"relazione", "DIR", "scrive la relazione in questa cartella", false};
+inline constexpr Key altitudini{"altitudini", "DIR", "cartella di altitudini.txt (quella del programma)",
+                                false};
+}  // namespace keys
 
-/// The key of this name; nothing if there is none.
-std::optional<Key> key_of(std::string_view name);
+/// In the order of the help.
+std::span<const Key> common_keys();
+
+/// The key of an entry of a calculation.
+Key key_of(const Entry& entry);
+
+/// The key of this name, of whatever calculation; nothing if there is none.
+std::optional<Key> find_key(std::string_view name);
+
+bool takes(Kind kind, std::string_view key);
 
 /// The text between the quotation marks of the command's messages.
 std::string in_quotes(std::string_view text);
 
-/// The calculations: the roof families, then the special cases.
-enum class Kind { una_falda, due_falde, piu_falde, cilindrica, discontinuita, parete, ostacolo };
-
-struct KindInfo {
-    Kind kind;
-    std::string_view name;         ///< subcommand, and "calcolo" of a batch request
-    std::string_view meaning;      ///< Italian
-    std::span<const Key> entries;  ///< its own options, all of them required
-    std::string_view example;      ///< options of an example
-};
-
-std::span<const KindInfo> kinds();
-const KindInfo& info(Kind kind);
-std::optional<Kind> kind_of(std::string_view name);
-
-/// Options that every calculation takes.
-std::span<const Key> common_keys();
-bool takes(Kind kind, Key key);
-
-/// Whether the calculation reads this number leniently, so that a text may be understood in part alone. The
-/// entries of a level change and of a wall are read strictly, and so is the zone.
-bool reads_leniently(Kind kind, Key key);
-
 /// A request: texts exactly as given, a number as it stands in the request.
-struct Request {
+class Request {
+  public:
     std::optional<Kind> kind;
-    std::array<std::optional<std::string>, key_count> values;
 
-    [[nodiscard]] const std::optional<std::string>& value(Key key) const {
-        return values[static_cast<std::size_t>(key)];
+    /// The text given for the key; null if there is none.
+    [[nodiscard]] const std::string* value(std::string_view key) const;
+    [[nodiscard]] const std::string* value(const Key& key) const { return value(key.name); }
+    [[nodiscard]] std::string value_or(const Key& key, std::string_view otherwise) const;
+
+    /// @param key  one that find_key() or common_keys() gave; a value that it has already is replaced
+    void set(const Key& key, std::string text);
+
+    /// All that was given, in its order.
+    [[nodiscard]] std::span<const std::pair<std::string_view, std::string>> values() const {
+        return m_values;
     }
-    std::optional<std::string>& value(Key key) { return values[static_cast<std::size_t>(key)]; }
-    [[nodiscard]] std::string value_or(Key key, std::string_view otherwise) const {
-        return value(key).value_or(std::string(otherwise));
-    }
+
+  private:
+    std::vector<std::pair<std::string_view, std::string>> m_values;  // by the names of keys
 };
+
+/// The texts of the calculation's entries in the order of its row; empty where none was given.
+std::vector<std::string> entry_texts(const Request& request);
 
 /// The zone of a text such as "2"; nothing for anything but a whole number from 0 to 3.
 std::optional<SnowZone> zone_of(std::string_view text);
 
 /// What is wrong with a request, in Italian: a key of another calculation, a missing one, no whole site, a
 /// zone outside 0 to 3, an unknown unit system. Empty if nothing is. Looks at no file.
-std::string find_mistake(const Request& request);
+std::string validation_error(const Request& request);
+
+/// What a calculation takes from entries that it cannot wholly understand: "1,5" is 1. In Italian, one text
+/// an entry.
+/// @param request  without a validation error
+std::vector<std::string> partly_understood(const Request& request);
 
 }  // namespace coltre::cli

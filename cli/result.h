@@ -3,7 +3,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "cli/request.h"
@@ -12,6 +11,14 @@
 #include "platform/messages.h"
 
 namespace coltre::cli {
+
+/// How a request ended.
+enum class End {
+    well,
+    wrong_request,        ///< the request itself was wrong, and touched no file
+    failed,               ///< something else went wrong
+    failed_with_message,  ///< likewise, and the last message says what
+};
 
 /// What a request gave, as far as it came.
 struct Result {
@@ -25,10 +32,14 @@ struct Result {
     Calculation calculation;
     std::string report;  ///< path of the report; empty if none was written
     Messages messages;
-    std::vector<std::string> misread;  ///< in Italian: each entry that was not wholly understood
-    std::string error;                 ///< empty if all is well
-    bool told = false;                 ///< a message box has said what went wrong
-    bool wrong_request = false;        ///< the request itself was wrong, and touched no file
+    std::vector<std::string> partly_understood;  ///< in Italian, one text an entry
+    End end = End::well;
+    std::string error;  ///< Italian; empty if all is well
+
+    void fail(End how, std::string why) {
+        end = how;
+        error = std::move(why);
+    }
 };
 
 /// The result as one JSON object on one line, without a line end.

@@ -84,7 +84,7 @@ std::string to_json(const Result& result) {
     json.reserve(512);
     ObjectWriter object(json);
     if (!result.id.empty()) object.member("id") += result.id;
-    if (result.kind) object.text("calcolo", info(*result.kind).name);
+    if (result.kind) object.text("calcolo", describe(*result.kind).name);
     if (!result.province.empty()) {
         object.text("provincia", result.province);
         object.text("comune", result.municipality);
@@ -95,7 +95,7 @@ std::string to_json(const Result& result) {
     append_coefficients(object.member("mu"), result);
     append_results(object.member("risultati"), result);
     if (!result.report.empty()) object.text("relazione", result.report);
-    if (!result.misread.empty()) append_texts(object.member("letture"), result.misread);
+    if (!result.partly_understood.empty()) append_texts(object.member("letture"), result.partly_understood);
     append_messages(object.member("messaggi"), result.messages);
     if (result.error.empty()) {
         object.member("errore") += "null";

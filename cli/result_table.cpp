@@ -36,7 +36,7 @@ void append_text_row(std::string& table, std::string_view name, std::string_view
 
 std::string to_table(const Result& result) {
     std::string table;
-    if (result.kind) append_text_row(table, "Calcolo", info(*result.kind).meaning);
+    if (result.kind) append_text_row(table, "Calcolo", describe(*result.kind).meaning);
     if (!result.municipality.empty())
         append_text_row(table, "Comune", result.municipality + " (" + result.province + ")");
     if (result.zone) {

@@ -54,27 +54,25 @@ std::optional<Site> choose_site(std::string_view typed_province, std::string_vie
     static const std::vector<std::string> provinces = all_provinces();
     const NameSearch province = find_name("provincia", typed_province, provinces);
     if (!province.mistake.empty()) {
-        result.error = province.mistake;
+        result.fail(End::failed, province.mistake);
         return std::nullopt;
     }
     program.cells.zone = ZoneOfProvince(province.found).zone;
     const auto municipalities =
         FillMunicipalities(program.directories.ProgramDirectory, province.found, result.messages);
     if (!municipalities) {
-        result.error = result.messages.back().text;
-        result.told = true;
+        result.fail(End::failed_with_message, result.messages.back().text);
         return std::nullopt;
     }
     const NameSearch municipality = find_name("comune", typed_municipality, municipalities->names);
     if (!municipality.mistake.empty()) {
-        result.error = municipality.mistake;
+        result.fail(End::failed, municipality.mistake);
         return std::nullopt;
     }
     const auto altitude = ReadAltitude(program.directories.ProgramDirectory, province.found,
                                        municipality.found, result.messages);
     if (!altitude) {
-        result.error = result.messages.back().text;
-        result.told = true;
+        result.fail(End::failed_with_message, result.messages.back().text);
         return std::nullopt;
     }
     return Site{province.found, municipality.found, *altitude, program.cells.zone};
@@ -85,8 +83,8 @@ std::optional<Site> choose_site(std::string_view typed_province, std::string_vie
 std::optional<Site> site_by_name(const Request& request, Program& program, SiteMemory& memory,
                                  Result& result) {
     const std::string& directory = program.directories.ProgramDirectory;
-    const std::string& province = *request.value(Key::provincia);
-    const std::string& municipality = *request.value(Key::comune);
+    const std::string& province = *request.value(keys::provincia);
+    const std::string& municipality = *request.value(keys::comune);
     auto site = memory.recall(directory, province, municipality);
     if (!site) {
         site = choose_site(province, municipality, program, result);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 // Roof shape coefficients as functions of the pitch. The cylindrical roof's mu3 is no function of the pitch:
 // it is computed with its load cases (roof_loads). Source: circular of 4 July 1996.
 namespace coltre {
@@ -7,19 +9,27 @@ namespace coltre {
 /// 0.8 up to 30 degrees, falling in a straight line to 0 at 60, 0 above.
 /// @param alfa    pitch, degrees
 /// @param before  what a negative pitch leaves as it was: deliberate, no error
-constexpr double mu1(double alfa, double before) {
-    if (alfa < 0) return before;
-    if (alfa <= 30) return 0.8;
-    return alfa <= 60 ? (60 - alfa) * 0.8 / 30 : 0;
+/// @param holds   takes the branches
+template <typename Number, typename Holds = std::identity>
+Number mu1(const Number& alfa, const Number& before, Holds holds = {}) {
+    if (holds(0 <= alfa && alfa <= 30)) return 0.8;
+    if (holds(30 < alfa && alfa <= 60)) return (60 - alfa) * 0.8 / 30;
+    if (holds(alfa > 60)) return 0.0;
+    static_cast<void>(holds(alfa < 0));
+    return before;
 }
 
 /// Rising from 0.8 at 0 to 1.6 at 30 degrees, 1.6 up to 60, 0 above.
 /// @param alfa    pitch, degrees
 /// @param before  what a negative pitch leaves as it was: deliberate, no error
-constexpr double mu2(double alfa, double before) {
-    if (alfa < 0) return before;
-    if (alfa <= 30) return 0.8 / 30 * alfa + 0.8;
-    return alfa <= 60 ? 1.6 : 0;
+/// @param holds   takes the branches
+template <typename Number, typename Holds = std::identity>
+Number mu2(const Number& alfa, const Number& before, Holds holds = {}) {
+    if (holds(0 <= alfa && alfa <= 30)) return Number(0.8) / 30 * alfa + 0.8;
+    if (holds(30 < alfa && alfa <= 60)) return 1.6;
+    if (holds(alfa > 60)) return 0.0;
+    static_cast<void>(holds(alfa < 0));
+    return before;
 }
 
 }  // namespace coltre

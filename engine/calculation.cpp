@@ -1,23 +1,48 @@
 #include "engine/calculation.h"
 
-#include <algorithm>
+#include <utility>
+
+#include "engine/roof_loads.h"
+#include "engine/special_loads.h"
 
 namespace coltre {
 
-bool Run::set(const ResultCell& cell, Checked result) {
-    if (result.fault() != Fault::none) {
-        stop(result.fault(), cell.name);
-        return false;
+namespace {
+
+template <typename Number>
+Calculation calculate_with(ProgramCells& cells, const Entries& entries, Trace* trace) {
+    Run<Number> run(cells, trace);
+    switch (entries.kind) {
+        case Kind::one_pitch:
+            one_pitch(run, entries);
+            break;
+        case Kind::two_pitches:
+            two_pitches(run, entries);
+            break;
+        case Kind::several_pitches:
+            several_pitches(run, entries);
+            break;
+        case Kind::cylindrical:
+            cylindrical(run, entries);
+            break;
+        case Kind::level_change:
+            level_change(run, entries);
+            break;
+        case Kind::wall:
+            wall(run, entries);
+            break;
+        case Kind::snow_guard:
+            snow_guard(run, entries);
+            break;
     }
-    m_cells.*cell.cell = result.value();
-    // The cut of a drift sets its cells once more.
-    const auto earlier = std::ranges::find(m_calculation.results, &cell, &Result::cell);
-    if (earlier != m_calculation.results.end()) {
-        earlier->value = result.value();
-    } else {
-        m_calculation.results.push_back({&cell, result.value()});
-    }
-    return true;
+    return std::move(run.calculation());
+}
+
+}  // namespace
+
+Calculation calculate(ProgramCells& cells, const Entries& entries, Trace* trace) {
+    return trace != nullptr ? calculate_with<Traced>(cells, entries, trace)
+                            : calculate_with<Checked>(cells, entries, nullptr);
 }
 
 }  // namespace coltre

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <cmath>
 
 // Arithmetic in which every step is checked. A formula written with Checked reads like the plain one; the
@@ -24,6 +23,8 @@ class Checked {
     constexpr Checked(double value) : m_value(value) {}
     constexpr Checked(Fault fault) : m_fault(fault) {}
 
+    static Checked pi() { return 4 * std::atan(1.0); }
+
     /// The result; meaningful without a fault alone.
     [[nodiscard]] constexpr double value() const { return m_value; }
     [[nodiscard]] constexpr Fault fault() const { return m_fault; }
@@ -44,15 +45,28 @@ class Checked {
         if (a.m_fault == Fault::none && a.m_value <= 0) return Fault::numeric_error;
         return step(a, a, std::log(a.m_value));
     }
+    friend Checked sin(Checked a) { return step(a, a, std::sin(a.m_value)); }
+    friend Checked cos(Checked a) { return step(a, a, std::cos(a.m_value)); }
     friend Checked tan(Checked a) { return step(a, a, std::tan(a.m_value)); }
     friend Checked arctan(Checked a) { return step(a, a, std::atan(a.m_value)); }
-    friend Checked sin(Checked a) { return step(a, a, std::sin(a.m_value)); }
     /// The smaller of the two, the first of equals.
-    friend Checked min(Checked a, Checked b) { return step(a, b, std::min(a.m_value, b.m_value)); }
-    /// The value brought between the limits, the lower one first.
-    friend Checked clamp(Checked a, double least, double most) {
-        return step(a, a, std::clamp(a.m_value, least, most));
+    friend Checked min(Checked a, Checked b) {
+        return step(a, b, b.m_value < a.m_value ? b.m_value : a.m_value);
     }
+    /// The greater of the two, the first of equals.
+    friend Checked max(Checked a, Checked b) {
+        return step(a, b, a.m_value < b.m_value ? b.m_value : a.m_value);
+    }
+
+    /// Nothing but the fault, where the rules do not go on with a number that could be computed.
+    friend Checked refused(Checked /*a*/, Fault fault) { return fault; }
+
+    // Comparisons are for numbers without a fault.
+    friend constexpr bool operator<(Checked a, Checked b) { return a.m_value < b.m_value; }
+    friend constexpr bool operator<=(Checked a, Checked b) { return a.m_value <= b.m_value; }
+    friend constexpr bool operator>(Checked a, Checked b) { return a.m_value > b.m_value; }
+    friend constexpr bool operator>=(Checked a, Checked b) { return a.m_value >= b.m_value; }
+    friend constexpr bool operator==(Checked a, Checked b) { return a.m_value == b.m_value; }
 
   private:
     static Checked step(Checked a, Checked b, double result) {
@@ -65,5 +79,11 @@ class Checked {
     double m_value = 0;
     Fault m_fault = Fault::none;
 };
+
+/// The value brought between the limits, the lower one first.
+template <typename Number>
+Number clamp(const Number& value, const Number& least, const Number& most) {
+    return min(max(value, least), most);
+}
 
 }  // namespace coltre

@@ -3,9 +3,13 @@
 #include <array>
 #include <cstddef>
 
+#include "engine/run.h"
+
 namespace coltre {
 
 namespace {
+
+using namespace quantities;
 
 /// qsk = constant up to 200 m, else slope_load (1 + (altitude / reference)^2).
 struct ZoneLoad {
@@ -23,29 +27,67 @@ constexpr std::array<ZoneLoad, 4> zone_loads{{
 
 constexpr double constant_up_to = 200;  // m
 
-Fault keep(double& cell, Checked result) {
-    if (result.fault() == Fault::none) cell = result.value();
-    return result.fault();
+template <typename Number>
+Number base_load(Run<Number>& run, double altitude) {
+    const SnowZone code = run.cells().zone;
+    if (code < 0 || code >= static_cast<SnowZone>(zone_loads.size()))
+        return run.stored(&ProgramCells::qsk, "qsk_precedente");
+    const ZoneLoad& zone = zone_loads[static_cast<std::size_t>(code)];
+    const Number zona = run.entry("zona", code);
+    const Number as = run.entry("as", altitude);
+    if (run.holds(zona == code && as <= constant_up_to)) return zone.constant;
+    run.holds(zona == code && as > constant_up_to);
+    return zone.slope_load * (1 + squared(as / zone.reference));
+}
+
+/// The return period factor in force. It is what the cell holds; its formula is that of the return period
+/// which was confirmed.
+template <typename Number>
+Number load_factor(Run<Number>& run) {
+    const ProgramCells& cells = run.cells();
+    if constexpr (std::is_same_v<Number, Traced>) {
+        if (cells.confirmed_return_period) {
+            run.source("Circ. 4 luglio 1996");
+            return run.let("cT", coefficient,
+                           return_period_factor(run.entry("Tr", *cells.confirmed_return_period)));
+        }
+        run.source("periodo di ritorno non confermato, fattore 1");
+        return run.let("cT", coefficient, Number(cells.return_period_factor));
+    } else {
+        return cells.return_period_factor;
+    }
+}
+
+/// Runs the formulas, traced where somebody asks for the steps.
+template <typename Formulas>
+Fault run_formulas(ProgramCells& cells, Trace* trace, Formulas formulas) {
+    if (trace != nullptr) {
+        Run<Traced> run(cells, trace);
+        formulas(run);
+        return run.calculation().end.fault;
+    }
+    Run<Checked> run(cells, nullptr);
+    formulas(run);
+    return run.calculation().end.fault;
 }
 
 }  // namespace
 
-Fault set_base_ground_load(ProgramCells& cells, Checked altitude) {
-    if (altitude.fault() != Fault::none) return altitude.fault();
-    if (cells.zone < 0 || cells.zone >= static_cast<SnowZone>(zone_loads.size())) return Fault::none;
-    const ZoneLoad& zone = zone_loads[static_cast<std::size_t>(cells.zone)];
-    if (altitude.value() <= constant_up_to) return keep(cells.qsk, zone.constant);
-    return keep(cells.qsk, zone.slope_load * (1 + squared(altitude / zone.reference)));
+Fault set_base_load(ProgramCells& cells, double altitude, Trace* trace) {
+    return run_formulas(cells, trace, [altitude](auto& run) {
+        run.source("D.M. 16 gennaio 1996");
+        run.store(&ProgramCells::qsk, "q0", base_load(run, altitude), area_load);
+    });
 }
 
-Fault apply_load_factors(ProgramCells& cells, Checked CE, Checked Ct) {
-    return keep(cells.qsk, Checked(cells.qsk) * cells.return_period_factor * CE * Ct);
-}
-
-Checked return_period_factor(double Tr) {
-    const Checked exceedance = Checked(1) / Tr;
-    const Checked reduced = ln(0 - ln(1 - exceedance));
-    return 0.273 * (1 - 0.5 * reduced);
+Fault apply_load_factors(ProgramCells& cells, double CE, double Ct, Trace* trace) {
+    return run_formulas(cells, trace, [CE, Ct](auto& run) {
+        const auto factor = load_factor(run);
+        run.source("Circ. 4 luglio 1996");
+        run.store(&ProgramCells::qsk, "qsk",
+                  run.stored(&ProgramCells::qsk, "q0") * factor * run.entry("CE", CE) * run.entry("Ct", Ct),
+                  area_load);
+    });
 }
 
 }  // namespace coltre

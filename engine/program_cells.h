@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 namespace coltre {
 
@@ -17,9 +18,11 @@ using UnitSystem = std::int16_t;
 struct ProgramCells {
     SnowZone zone = 0;
     double return_period = 50;  ///< Tr, years, as last typed
-    double return_period_factor =
-        1;           ///< deliberate: 1 until a return period is confirmed, though 50 years give 0.806
-    double qsk = 0;  ///< ground load after all factors; the special cases write theirs here too
+    /// Deliberate: 1 until a return period is confirmed, though 50 years give 0.806.
+    double return_period_factor = 1;
+    std::optional<double> confirmed_return_period;  ///< years, that the factor belongs to
+    double qsk = 0;            ///< ground load after all factors; the special cases write theirs here too
+    double working_value = 0;  ///< typed in `Form2`; nothing needs it so far
     UnitSystem unit_system = 0;
 
     // Shape coefficients. The wall drift shares mu2 with the roofs: deliberate.

@@ -1,9 +1,5 @@
 #include "engine/roof_loads.h"
 
-#include <algorithm>
-#include <cmath>
-#include <utility>
-
 #include "engine/Calcolo_Mu.h"
 
 namespace coltre {
@@ -12,154 +8,146 @@ namespace {
 
 using namespace results;
 
-/// A load case that has an overhang load: its label and cells.
-struct LoadCaseCells {
-    std::string_view label;
-    const ResultCell& qs;
-    const ResultCell& qe;
-};
+constexpr std::string_view circular = "Circ. 4 luglio 1996";
 
-// Two pitches: each side full, then halved.
-constexpr LoadCaseCells side1_full{"mu1(alfa1)", qs_2a, qe_2a}, side1_halved{"0.5mu1(alfa1)", qs_2b, qe_2b};
-constexpr LoadCaseCells side2_full{"mu1(alfa2)", qs_2c, qe_2c}, side2_halved{"0.5mu1(alfa2)", qs_2d, qe_2d};
+/// The branches of a formula are those of the run.
+template <typename Number>
+auto branches(Run<Number>& run) {
+    return [&run](const auto& condition) { return run.holds(condition); };
+}
+
+/// The mu1 cell set for a pitch.
+template <typename Number>
+Number set_mu1(Run<Number>& run, Symbol symbol, const Number& alfa) {
+    const Number before = run.stored(&ProgramCells::mu1, "mu1_precedente");
+    return run.store(&ProgramCells::mu1, symbol, mu1(alfa, before, branches(run)));
+}
 
 /// The roof load of a coefficient, and the coefficient under the label of its load case.
-bool set_roof_load(Run& run, std::string_view label, const ResultCell& qs, Checked mu) {
-    if (!run.set(qs, mu * run.cells().qsk)) return false;
-    run.calculation().coefficients.push_back({label, mu.value()});
-    return true;
+template <typename Number>
+Number set_roof_load(Run<Number>& run, std::string_view label, const ResultCell& result, const Number& mu) {
+    const Number qs = run.set(result, mu * run.stored(&ProgramCells::qsk, "qsk"));
+    run.coefficient(label, mu);
+    return qs;
 }
 
-bool set_overhang_load(Run& run, const LoadCaseCells& load_case) {
-    return run.set(load_case.qe, qe(run.cells().*load_case.qs.cell));
+template <typename Number>
+Number set_overhang_load(Run<Number>& run, const ResultCell& result, const Number& qs,
+                         const ResultCell& qs_result) {
+    return run.set(result, qe(run, qs, qs_result.name));
 }
 
-/// The load case is complete.
-void add(Run& run, const LoadCaseCells& load_case, double mu) {
-    const ProgramCells& cells = run.cells();
-    run.calculation().load_cases.push_back(
-        {load_case.label, mu, cells.*load_case.qs.cell, cells.*load_case.qe.cell});
-}
+/// The rows and symbols of one side of two pitches.
+struct Side {
+    std::string_view label, halved_label;
+    std::string_view mu, halved_mu;
+    const ResultCell &qs, &halved_qs;
+    const ResultCell &qe, &halved_qe;
+};
+constexpr Side side1{"mu1(alfa1)", "0.5mu1(alfa1)", "mu1_alfa1", "mu1_alfa1_dimezzato",
+                     qs_2a,        qs_2b,           qe_2a,       qe_2b};
+constexpr Side side2{"mu1(alfa2)", "0.5mu1(alfa2)", "mu1_alfa2", "mu1_alfa2_dimezzato",
+                     qs_2c,        qs_2d,           qe_2c,       qe_2d};
 
-void one_pitch(Run& run, const Roof& roof) {
-    constexpr LoadCaseCells full{"mu1", qs_1, qe_1};
-    ProgramCells& cells = run.cells();
-    cells.mu1 = mu1(roof.alfa1, cells.mu1);
-    if (!set_roof_load(run, full.label, full.qs, cells.mu1)) return;
-    if (!set_overhang_load(run, full)) return;
-    add(run, full, cells.mu1);
-}
-
-/// The loads of one side of two pitches, full and halved.
-bool side_of_two_pitches(Run& run, double alfa, const LoadCaseCells& full, const LoadCaseCells& halved) {
-    ProgramCells& cells = run.cells();
-    cells.mu1 = mu1(alfa, cells.mu1);
-    return set_roof_load(run, full.label, full.qs, cells.mu1) &&
-           set_roof_load(run, halved.label, halved.qs, Checked(0.5) * cells.mu1) &&
-           set_overhang_load(run, full) && set_overhang_load(run, halved);
-}
-
-void two_pitches(Run& run, const Roof& roof) {
-    const ProgramCells& cells = run.cells();
-    if (!side_of_two_pitches(run, roof.alfa1, side1_full, side1_halved)) return;
-    add(run, side1_full, cells.mu1);
-    add(run, side1_halved, 0.5 * cells.mu1);
-
-    if (!side_of_two_pitches(run, roof.alfa2, side2_full, side2_halved)) return;
-    add(run, side2_full, cells.mu1);
-    add(run, side2_halved, 0.5 * cells.mu1);
-}
-
-void several_pitches(Run& run, const Roof& roof) {
-    constexpr std::string_view side1 = "mu1(alfa1)";
-    constexpr std::string_view side2 = "mu1(alfa2)";
-    constexpr std::string_view valley = "mu2((alfa1+alfa2)/2)";
-    ProgramCells& cells = run.cells();
-
-    cells.mu1 = mu1(roof.alfa1, cells.mu1);
-    if (!set_roof_load(run, side1, qs_3a, cells.mu1)) return;
-    run.calculation().load_cases.push_back({side1, cells.mu1, cells.qs_3a, std::nullopt});
-
-    cells.mu1 = mu1(roof.alfa2, cells.mu1);
-    if (!set_roof_load(run, side2, qs_3b, cells.mu1)) return;
-    run.calculation().load_cases.push_back({side2, cells.mu1, cells.qs_3b, std::nullopt});
-
-    const Checked mean = (Checked(roof.alfa1) + roof.alfa2) / 2;
-    if (mean.fault() != Fault::none) {
-        run.stop(mean.fault(), "mu2");
-        return;
-    }
-    cells.mu2 = mu2(mean.value(), cells.mu2);
-    if (!set_roof_load(run, valley, qs_3c, cells.mu2)) return;
-    run.calculation().load_cases.push_back({valley, cells.mu2, cells.qs_3c, std::nullopt});
-}
-
-void cylindrical(Run& run, const Roof& roof) {
-    constexpr LoadCaseCells uniform{"mu1", qs_4a, qe_4a};
-    constexpr LoadCaseCells halved{"0.5mu3", qs_4b, qe_4b};
-    constexpr LoadCaseCells full{"mu3", qs_4c, qe_4c};
-    constexpr double highest_mu3 = 2.0;
-    ProgramCells& cells = run.cells();
-    const Checked L = roof.L;
-    const Checked H = roof.H;
-
-    // Radius of the arc through the two springings and the crown; the same as (L^2 / 4 + H^2) / (2 H).
-    const Checked R = L / 2 * tan(2 * arctan((L - 2 * H) / (L + 2 * H))) + H;
-    // The chord between the points of the arc that slope by 60 degrees. For a shallow arc it comes out wider
-    // than the roof, and is kept so.
-    const double cos30 = std::cos(30.0 / 180 * 4 * std::atan(1.0));
-    if (!run.set(L1, 2 * R * cos30)) return;
-    if (!run.set(L2, Checked(cells.L1) / 4)) return;
-
-    cells.mu1 = 0.8;
-    const Checked mu3 = 10 * H / L + 0.2;
-    if (mu3.fault() != Fault::none) {
-        run.stop(mu3.fault(), "mu3");
-        return;
-    }
-    cells.mu3 = std::min(mu3.value(), highest_mu3);
-    cells.mu2 = 0.5 * cells.mu3;
-
-    if (!set_roof_load(run, uniform.label, qs_4a, cells.mu1)) return;
-    if (!set_roof_load(run, halved.label, qs_4b, cells.mu2)) return;
-    if (!set_roof_load(run, full.label, qs_4c, cells.mu3)) return;
-    for (const LoadCaseCells& load_case : {uniform, halved, full}) {
-        if (!set_overhang_load(run, load_case)) return;
-    }
-    add(run, uniform, cells.mu1);
-    add(run, halved, cells.mu2);
-    add(run, full, cells.mu3);
+template <typename Number>
+void set_side(Run<Number>& run, const Side& side, const Number& alfa) {
+    const Number mu = set_mu1(run, side.mu, alfa);
+    const Number qs = set_roof_load(run, side.label, side.qs, mu);
+    const Number halved_mu = run.let(side.halved_mu, coefficient, 0.5 * mu);
+    const Number halved_qs = set_roof_load(run, side.halved_label, side.halved_qs, halved_mu);
+    const Number qe = set_overhang_load(run, side.qe, qs, side.qs);
+    const Number halved_qe = set_overhang_load(run, side.halved_qe, halved_qs, side.halved_qs);
+    run.load_case(side.label, mu, qs, qe);
+    run.load_case(side.halved_label, halved_mu, halved_qs, halved_qe);
 }
 
 }  // namespace
 
-Checked qe(Checked qs) {
-    const Checked d = qs / 3;
-    const Checked k = min(3 / d, 3 * d);
+template <typename Number>
+Number qe(Run<Number>& run, const Number& qs, std::string_view qs_name) {
+    const Number d = run.let({"d", qs_name}, length, qs / 3);
+    const Number k = run.let({"k", qs_name}, coefficient, min(3 / d, 3 * d));
     return squared(qs) * k / 3;
 }
 
-Calculation calculate_roof(ProgramCells& cells, const Roof& roof) {
-    Run run(cells);
-    switch (roof.family) {
-        case RoofFamily::one_pitch:
-            one_pitch(run, roof);
-            break;
-        case RoofFamily::two_pitches:
-            two_pitches(run, roof);
-            break;
-        case RoofFamily::several_pitches:
-            several_pitches(run, roof);
-            break;
-        case RoofFamily::cylindrical:
-            if (roof.L / 2 < roof.H) {
-                run.stop(Fault::incongruent_dimensions, {});
-            } else {
-                cylindrical(run, roof);
-            }
-            break;
-    }
-    return std::move(run.calculation());
+template <typename Number>
+void one_pitch(Run<Number>& run, const Entries& entries) {
+    run.source(circular);
+    const Number mu = set_mu1(run, "mu1", run.entry("alfa", entries.alfa));
+    const Number qs = set_roof_load(run, "mu1", qs_1, mu);
+    const Number qe = set_overhang_load(run, qe_1, qs, qs_1);
+    run.load_case("mu1", mu, qs, qe);
 }
+
+template <typename Number>
+void two_pitches(Run<Number>& run, const Entries& entries) {
+    run.source(circular);
+    set_side(run, side1, run.entry("alfa1", entries.alfa1));
+    set_side(run, side2, run.entry("alfa2", entries.alfa2));
+}
+
+template <typename Number>
+void several_pitches(Run<Number>& run, const Entries& entries) {
+    run.source(circular);
+    const Number alfa1 = run.entry("alfa1", entries.alfa1);
+    const Number alfa2 = run.entry("alfa2", entries.alfa2);
+
+    const Number mu_side1 = set_mu1(run, "mu1_alfa1", alfa1);
+    run.load_case("mu1(alfa1)", mu_side1, set_roof_load(run, "mu1(alfa1)", qs_3a, mu_side1));
+    const Number mu_side2 = set_mu1(run, "mu1_alfa2", alfa2);
+    run.load_case("mu1(alfa2)", mu_side2, set_roof_load(run, "mu1(alfa2)", qs_3b, mu_side2));
+
+    constexpr std::string_view valley = "mu2((alfa1+alfa2)/2)";
+    const Number mean = run.let("alfa_m", slope, (alfa1 + alfa2) / 2);
+    if (run.stops(mean, "mu2")) return;
+    const Number before = run.stored(&ProgramCells::mu2, "mu2_precedente");
+    const Number mu_valley = run.store(&ProgramCells::mu2, "mu2", mu2(mean, before, branches(run)));
+    run.load_case(valley, mu_valley, set_roof_load(run, valley, qs_3c, mu_valley));
+}
+
+template <typename Number>
+void cylindrical(Run<Number>& run, const Entries& entries) {
+    run.source(circular);
+    const Number L = run.entry("L", entries.L);
+    const Number H = run.entry("H", entries.H);
+
+    // Radius of the arc through the two springings and the crown; the same as (L^2 / 4 + H^2) / (2 H).
+    const Number radius = L / 2 * tan(2 * arctan((L - 2 * H) / (L + 2 * H))) + H;
+    if (run.holds(L / 2 < H)) {
+        run.let("R", length, refused(radius, Fault::incongruent_dimensions));
+        run.stops(Fault::incongruent_dimensions, {});
+        return;
+    }
+    run.holds(L / 2 >= H);
+    const Number R = run.let("R", length, radius);
+    // The chord between the points of the arc that slope by 60 degrees. For a shallow arc it comes out wider
+    // than the roof, and is kept so.
+    const Number width = run.set(L1, 2 * R * cos(Number(30) / 180 * 4 * arctan(Number(1))));
+    run.set(L2, width / 4);
+
+    constexpr double highest_mu3 = 2;
+    const Number mu1 = run.store(&ProgramCells::mu1, "mu1", Number(0.8));
+    const Number mu3 = run.store(&ProgramCells::mu3, "mu3", min(10 * H / L + 0.2, Number(highest_mu3)));
+    const Number mu2 = run.store(&ProgramCells::mu2, "mu2", 0.5 * mu3);
+
+    const Number qs_uniform = set_roof_load(run, "mu1", qs_4a, mu1);
+    const Number qs_halved = set_roof_load(run, "0.5mu3", qs_4b, mu2);
+    const Number qs_full = set_roof_load(run, "mu3", qs_4c, mu3);
+    const Number qe_uniform = set_overhang_load(run, qe_4a, qs_uniform, qs_4a);
+    const Number qe_halved = set_overhang_load(run, qe_4b, qs_halved, qs_4b);
+    const Number qe_full = set_overhang_load(run, qe_4c, qs_full, qs_4c);
+    run.load_case("mu1", mu1, qs_uniform, qe_uniform);
+    run.load_case("0.5mu3", mu2, qs_halved, qe_halved);
+    run.load_case("mu3", mu3, qs_full, qe_full);
+}
+
+template void one_pitch(Run<Checked>&, const Entries&);
+template void one_pitch(Run<Traced>&, const Entries&);
+template void two_pitches(Run<Checked>&, const Entries&);
+template void two_pitches(Run<Traced>&, const Entries&);
+template void several_pitches(Run<Checked>&, const Entries&);
+template void several_pitches(Run<Traced>&, const Entries&);
+template void cylindrical(Run<Checked>&, const Entries&);
+template void cylindrical(Run<Traced>&, const Entries&);
 
 }  // namespace coltre

@@ -7,21 +7,24 @@
 
 namespace coltre {
 
-ReportLine& ReportLine::tab(std::size_t column) {
-    const std::size_t length = character_count(m_text);
-    if (length + 1 < column) m_text.append(column - 1 - length, ' ');
-    return *this;
+namespace {
+
+/// The text with blanks up to the column, so that the next text starts there; nothing is added to a text that
+/// is past it. Columns count characters from 1.
+std::string tab(std::string_view text, std::size_t column) {
+    std::string line(text);
+    const std::size_t length = character_count(line);
+    if (length + 1 < column) line.append(column - 1 - length, ' ');
+    return line;
 }
 
-ReportLine& ReportLine::next_zone() {
+/// The text with blanks up to the next print zone; zones start at columns 1, 15, 29, 43 and so on.
+std::string next_zone(std::string_view text) {
     constexpr std::size_t zone_width = 14;
-    return tab((character_count(m_text) / zone_width + 1) * zone_width + 1);
+    return tab(text, (character_count(text) / zone_width + 1) * zone_width + 1);
 }
 
-ReportLine& ReportLine::add(std::string_view text) {
-    m_text += text;
-    return *this;
-}
+}  // namespace
 
 ReportFile::ReportFile(std::string_view suite_path, Messages& messages)
     : m_name(suite_path), m_file(find_path(suite_path)), m_messages(messages) {}
@@ -31,15 +34,14 @@ void ReportFile::line(std::string_view utf8) {
 }
 
 void ReportFile::heading(const ReportHeading& heading) {
-    line(ReportLine("CARICO NEVE").tab(22).add("lavoro : ").add(heading.job_name));
-    line(ReportLine(heading.unit_caption).tab(20).add(unit_heading(heading.unit_system)));
+    line(tab("CARICO NEVE", 22).append("lavoro : ").append(heading.job_name));
+    line(tab(heading.unit_caption, 20).append(unit_heading(heading.unit_system)));
     blank_line();
-    line(ReportLine("Zona").add(display_number_text(heading.zone)));
-    line(ReportLine("Altitudine [m]:").add(display_number_text(heading.altitude)));
-    line(
-        ReportLine("Periodo di Ritorno [anni]:").next_zone().add(display_number_text(heading.return_period)));
+    line("Zona" + display_number_text(heading.zone));
+    line("Altitudine [m]:" + display_number_text(heading.altitude));
+    line(next_zone("Periodo di Ritorno [anni]:") + display_number_text(heading.return_period));
     blank_line();
-    line(ReportLine("qsk (carico neve al suolo) = ").add(heading.qsk));
+    line(std::string("qsk (carico neve al suolo) = ").append(heading.qsk));
     blank_line();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -9,21 +10,11 @@
 
 namespace coltre {
 
-/// A line of a report under construction. Columns are 1-based and count characters.
-class ReportLine {
-  public:
-    explicit ReportLine(std::string_view text) : m_text(text) {}
-
-    /// Adds blanks so that the next text starts at the column; nothing if the line is already past it.
-    ReportLine& tab(std::size_t column);
-    /// Adds blanks up to the next print zone; zones start at columns 1, 15, 29, 43 and so on.
-    ReportLine& next_zone();
-    ReportLine& add(std::string_view text);
-
-    [[nodiscard]] const std::string& text() const { return m_text; }
-
-  private:
-    std::string m_text;
+/// What the reports print besides results and entries.
+struct ReportData {
+    std::string_view JobName;
+    double altitude;                       ///< m, as typed, also above 1500
+    std::span<const std::string> entries;  ///< the texts of the calculation's entries, as typed
 };
 
 /// What both reports say of the site and the calculation in their heading.
@@ -44,7 +35,6 @@ class ReportFile {
     ReportFile(std::string_view suite_path, Messages& messages);
 
     void line(std::string_view utf8);
-    void line(const ReportLine& line) { this->line(line.text()); }
     void blank_line() { line(std::string_view{}); }
     void heading(const ReportHeading& heading);
 

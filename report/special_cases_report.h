@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 #include "engine/calculation.h"
 #include "report/report_file.h"
 
@@ -9,17 +7,10 @@
 // deliberate.
 namespace coltre {
 
-/// What the special cases report prints besides the results.
-struct SpecialCasesReportData {
-    std::string_view JobName;
-    std::string_view angoloinput;  ///< slope at the snow guard, printed as typed
-    double altitude;               ///< m, as typed
-};
+void write_special_cases_heading(ReportFile& report, const ReportData& data, const ProgramCells& cells);
 
-void write_heading(ReportFile& report, const SpecialCasesReportData& data, const ProgramCells& cells);
-
-/// The section of a special case, its results in the cells.
-void write_special_case(ReportFile& report, const SpecialCasesReportData& data, const ProgramCells& cells,
-                        const SpecialCaseEntries& entries);
+/// The section of a special case, its results in the cells; nothing for a case that stopped.
+void write_special_case(ReportFile& report, const ReportData& data, const ProgramCells& cells,
+                        const Entries& entries, const Calculation& calculation);
 
 }  // namespace coltre

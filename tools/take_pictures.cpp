@@ -20,7 +20,7 @@
 #include "ui/PeriododiRitorno.h"
 #include "ui/casipart.h"
 #include "ui/qt_dialogs.h"
-#include "ui/sketches/sketch_widget.h"
+#include "ui/sketch_widget.h"
 
 namespace {
 

@@ -1,8 +1,9 @@
 #include "ui/Form1.h"
 
 #include <QKeyEvent>
-#include <limits>
+#include <algorithm>
 
+#include "calculate/Calcola.h"
 #include "calculate/return_period.h"
 #include "report/unit_systems.h"
 #include "site/municipalities.h"
@@ -13,9 +14,6 @@
 #include "ui/PeriododiRitorno.h"
 #include "ui/casipart.h"
 #include "ui/maker.h"
-#include "ui/result_display.h"
-#include "ui/sketch_setup.h"
-#include "ui/sketches/sketches.h"
 #include "ui/window_setup.h"
 #include "ui_Form1.h"
 
@@ -47,7 +45,7 @@ Form1::Form1(Program& program, UserDialogs& dialogs, QWidget* parent)
     leave_lists_to_clicks_and_keys(*this);
     answer_mnemonics_at_once(*this);
     fit_to_screen(*this);
-    set_up_sketches();
+    m_tabs = make_tabs(Window::main, *this, m_dialogs);
     set_up_hints();
     connect_controls();
 }
@@ -69,38 +67,27 @@ void Form1::connect_controls() {
     connect(m_ui->asinput, &QLineEdit::textChanged, this, &Form1::site_changed);
     connect(m_ui->TextCTermico, &QLineEdit::textChanged, this, &Form1::site_changed);
     connect(m_ui->ComboEsp, &QComboBox::currentIndexChanged, this, &Form1::site_changed);
-    connect(this, &Form1::site_changed, this, [this] {
-        for (const RoofTab& tab : m_tabs)
-            if (tab.sketch->shows_numbers()) draw(tab, nullptr);
-    });
+    connect(this, &Form1::site_changed, this, &Form1::follow_inputs);
+    for (const auto& tab : m_tabs)
+        connect(tab.get(), &CalculationTab::typed, this, [this, &tab] { tab->follow(inputs(*tab)); });
+    follow_inputs();
 }
 
-void Form1::set_up_sketches() {
-    m_tabs = {
-        {RoofFamily::one_pitch, m_ui->inputalfa, nullptr, m_ui->sketch_1, "copertura-una-falda"},
-        {RoofFamily::two_pitches, m_ui->inputalfa1, m_ui->inputalfa2, m_ui->sketch_2, "copertura-due-falde"},
-        {RoofFamily::several_pitches, m_ui->inputalfa3, m_ui->inputalfa4, m_ui->sketch_3,
-         "copertura-piu-falde"},
-        {RoofFamily::cylindrical, m_ui->Lcopcil, m_ui->hcopcil, m_ui->sketch_4, "copertura-cilindrica"}};
-    for (const RoofTab& tab : m_tabs) {
-        set_up_sketch(*tab.sketch, tab.picture, m_dialogs);
-        for (NumberField* field : {tab.first, tab.second})
-            if (field != nullptr)
-                connect(field, &QLineEdit::textChanged, this, [this, &tab] { draw(tab, nullptr); });
-        draw(tab, nullptr);
-    }
+CalculationTab& Form1::open_tab() const {
+    const Kind kind = kind_of(Window::main, m_ui->SSTab1->currentIndex());
+    return **std::ranges::find_if(m_tabs, [kind](const auto& tab) { return tab->kind() == kind; });
 }
 
-void Form1::draw(const RoofTab& tab, const ProgramCells* loads) {
-    MainWindowFields entries = fields();
-    entries.SSTab1 = tab.family;
-    EntryReader reader;
-    Roof roof = read_roof(entries, reader);
-    // A number beyond all range makes no roof: the sketch says so by its neutral shape.
-    if (reader.stop()) roof.alfa1 = roof.L = std::numeric_limits<double>::quiet_NaN();
-    Drawing drawing = sketch_roof(roof, loads);
-    if (loads == nullptr && tab.sketch->shows_numbers()) mark_as_pending(drawing);
-    tab.sketch->set_drawing(std::move(drawing));
+Inputs Form1::inputs(const CalculationTab& tab) const {
+    Fields fields = site_fields();
+    fields.kind = tab.kind();
+    fields.entries = tab.texts();
+    return {std::move(fields), m_program.cells.zone, m_program.cells.return_period_factor};
+}
+
+void Form1::follow_inputs() {
+    for (const auto& tab : m_tabs)
+        tab->follow(inputs(*tab));
 }
 
 void Form1::set_up_hints() {
@@ -150,10 +137,12 @@ bool Form1::load(std::string_view command_line, std::string_view own_directory) 
     return true;
 }
 
-SiteFields Form1::site_fields() const {
-    return {.asinput = m_ui->asinput->utf8(),
-            .ComboEsp = m_ui->ComboEsp->currentText().toStdString(),
-            .TextCTermico = m_ui->TextCTermico->utf8()};
+Fields Form1::site_fields() const {
+    Fields fields;
+    fields.asinput = m_ui->asinput->utf8();
+    fields.ComboEsp = m_ui->ComboEsp->currentText().toStdString();
+    fields.TextCTermico = m_ui->TextCTermico->utf8();
+    return fields;
 }
 
 void Form1::show_ground_load() {
@@ -231,45 +220,30 @@ void Form1::special_cases_clicked() {
     if (raise_open(m_special_cases)) return;
     auto* window = new casipart(
         m_program, m_dialogs, [this] { return site_fields(); }, [this] { show_ground_load(); }, this);
-    connect(this, &Form1::site_changed, window, &casipart::mark_ground_load_as_old);
+    connect(this, &Form1::site_changed, window, &casipart::follow_inputs);
     m_special_cases = window;
     window->show();
 }
 
-MainWindowFields Form1::fields() const {
-    const SiteFields site = site_fields();
-    return {.asinput = site.asinput,
-            .ComboEsp = site.ComboEsp,
-            .TextCTermico = site.TextCTermico,
-            .SSTab1 = static_cast<RoofFamily>(m_ui->SSTab1->currentIndex()),
-            .inputalfa = m_ui->inputalfa->utf8(),
-            .inputalfa1 = m_ui->inputalfa1->utf8(),
-            .inputalfa2 = m_ui->inputalfa2->utf8(),
-            .inputalfa3 = m_ui->inputalfa3->utf8(),
-            .inputalfa4 = m_ui->inputalfa4->utf8(),
-            .Lcopcil = m_ui->Lcopcil->utf8(),
-            .hcopcil = m_ui->hcopcil->utf8(),
-            .udmcombo = m_ui->udmcombo->currentText().toStdString(),
-            .Check1Box = m_ui->Check1Box->isChecked()};
-}
-
 void Form1::calculate_clicked() {
-    const MainWindowFields entries = fields();
-    const ClickOutcome outcome = Calcola(entries, m_program);
-    m_dialogs.show(outcome.messages);
-    if (outcome.L1output) m_ui->L1output->setText(QString::fromStdString(*outcome.L1output));
-    if (outcome.L2output) m_ui->L2output->setText(QString::fromStdString(*outcome.L2output));
-    if (outcome.results_complete) {
-        show_ground_load();
-        const RoofTab& tab = m_tabs[static_cast<std::size_t>(entries.SSTab1)];
-        for (const DisplayRow& row : display_rows(tab.family)) {
-            auto* const label = tab.sketch->findChild<ResultLabel*>(row.label, Qt::FindDirectChildrenOnly);
-            label->show_number(m_program.cells.*row.cell.cell, row.cell.quantity.decimals);
-        }
-        draw(tab, &m_program.cells);
+    CalculationTab& tab = open_tab();
+    const Inputs calculated = inputs(tab);
+    Fields fields = calculated.fields;
+    fields.udmcombo = m_ui->udmcombo->currentText().toStdString();
+    fields.Check1Box = m_ui->Check1Box->isChecked();
+    if (const auto notice = altitude_notice(fields)) {
+        m_dialogs.show(notice->message);
+        m_ui->asinput->setText(QString::fromStdString(notice->asinput));
     }
-    // Last: the numbers are those of the altitude as it was typed.
-    if (outcome.asinput) m_ui->asinput->setText(QString::fromStdString(*outcome.asinput));
+    const Outcome outcome = Calcola(fields, m_program);
+    const WidthLabels widths = width_labels(outcome.calculation);
+    if (widths.L1output) m_ui->L1output->setText(QString::fromStdString(*widths.L1output));
+    if (widths.L2output) m_ui->L2output->setText(QString::fromStdString(*widths.L2output));
+    m_dialogs.show(outcome.messages);
+    if (!outcome.complete) return;
+    show_ground_load();
+    tab.show_results(m_program.cells, calculated);
+    follow_inputs();  // the altitude field may hold another altitude than the one that counted
 }
 
 void Form1::information_clicked() {

@@ -7,12 +7,9 @@
 #include <string_view>
 #include <vector>
 
-#include "calculate/Calcola.h"
 #include "startup/program.h"
+#include "ui/calculation_tab.h"
 #include "ui/hints.h"
-#include "ui/number_field.h"
-#include "ui/site_fields.h"
-#include "ui/sketches/sketch_widget.h"
 #include "ui/user_dialogs.h"
 
 namespace coltre {
@@ -38,8 +35,8 @@ class Form1 : public QWidget {
     /// @return false if the program was ended
     bool load(std::string_view command_line, std::string_view own_directory);
 
-    /// What the special cases read of this window.
-    [[nodiscard]] SiteFields site_fields() const;
+    /// The site and the coefficients, which both windows calculate with.
+    [[nodiscard]] Fields site_fields() const;
 
     /// `caricosuolo` shows the qsk cell.
     void show_ground_load();
@@ -54,26 +51,16 @@ class Form1 : public QWidget {
 
   private:
     void connect_controls();
-    void set_up_sketches();
     void set_up_hints();
 
-    /// The fields and the selected tab as they are now.
-    [[nodiscard]] MainWindowFields fields() const;
+    [[nodiscard]] CalculationTab& open_tab() const;
+    [[nodiscard]] Inputs inputs(const CalculationTab& tab) const;
+    /// All sketches for what is typed and chosen now.
+    void follow_inputs();
 
-    /// A tab with its entries and its sketch.
-    struct RoofTab {
-        RoofFamily family;
-        NumberField* first;
-        NumberField* second;  ///< null for one pitch
-        SketchWidget* sketch;
-        const char* picture;  ///< suggested name of a saved sketch
-    };
     /// The factor in force shows over the return period: at the start it is 1, which the 50 years do not
     /// tell.
     void show_return_period_factor();
-    /// The sketch follows the entries; its loads are those of the cells, or where these belong to other
-    /// entries, follow the shape coefficients.
-    void draw(const RoofTab& tab, const ProgramCells* loads);
 
     // One handler a control and event.
     void region_chosen(int index);
@@ -89,7 +76,7 @@ class Form1 : public QWidget {
     Program& m_program;
     UserDialogs& m_dialogs;
     std::unique_ptr<Ui::Form1> m_ui;
-    std::vector<RoofTab> m_tabs;  // by family
+    std::vector<std::unique_ptr<CalculationTab>> m_tabs;
     QTimer m_Timer1{this};
     std::unique_ptr<Hints> m_hints;
     QPointer<QWidget> m_return_period;  // one at a time

@@ -5,8 +5,8 @@
 
 namespace coltre {
 
-Form2::Form2(WindowValues& values, QWidget* parent)
-    : QDialog(parent), m_values(values), m_ui(std::make_unique<Ui::Form2>()) {
+Form2::Form2(ProgramCells& cells, QWidget* parent)
+    : QDialog(parent), m_cells(cells), m_ui(std::make_unique<Ui::Form2>()) {
     m_ui->setupUi(this);
     setAttribute(Qt::WA_DeleteOnClose);
     connect(m_ui->OK, &QPushButton::clicked, this, &Form2::ok_clicked);
@@ -15,7 +15,7 @@ Form2::Form2(WindowValues& values, QWidget* parent)
 Form2::~Form2() = default;
 
 void Form2::ok_clicked() {
-    m_values.working_value = read_leniently(m_ui->Text1->utf8()).value;
+    m_cells.working_value = read_leniently(m_ui->Text1->utf8()).value;
     close();
 }
 

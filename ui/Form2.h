@@ -3,7 +3,7 @@
 #include <QDialog>
 #include <memory>
 
-#include "ui/window_values.h"
+#include "engine/program_cells.h"
 
 namespace coltre {
 
@@ -11,18 +11,18 @@ namespace Ui {
 class Form2;
 }
 
-/// Asks for one number, the working value of the windows.
+/// Asks for one number, the working value cell.
 class Form2 : public QDialog {
     Q_OBJECT
 
   public:
-    explicit Form2(WindowValues& values, QWidget* parent = nullptr);
+    explicit Form2(ProgramCells& cells, QWidget* parent = nullptr);
     ~Form2() override;
 
   private:
     void ok_clicked();
 
-    WindowValues& m_values;
+    ProgramCells& m_cells;
     std::unique_ptr<Ui::Form2> m_ui;
 };
 

@@ -1,15 +1,13 @@
 #include "ui/casipart.h"
 
 #include <QKeyEvent>
-#include <limits>
+#include <algorithm>
 #include <utility>
 
+#include "calculate/Calcola2.h"
 #include "platform/surroundings.h"
 #include "report/unit_systems.h"
 #include "text/number_reading.h"
-#include "ui/result_display.h"
-#include "ui/sketch_setup.h"
-#include "ui/sketches/sketches.h"
 #include "ui/window_setup.h"
 #include "ui_casipart.h"
 
@@ -24,7 +22,7 @@ int first_unit_item(const Program& program) {
 
 }  // namespace
 
-casipart::casipart(Program& program, UserDialogs& dialogs, std::function<SiteFields()> site_fields,
+casipart::casipart(Program& program, UserDialogs& dialogs, std::function<Fields()> site_fields,
                    std::function<void()> show_ground_load, QWidget* parent)
     : QWidget(parent, Qt::Window),
       m_program(program),
@@ -45,21 +43,15 @@ casipart::casipart(Program& program, UserDialogs& dialogs, std::function<SiteFie
 
     fill(*m_ui->udmcombo, unit_items, first_unit_item(program));
 
-    set_up_sketch(*m_ui->sketch_5, "discontinuita", m_dialogs);
-    set_up_sketch(*m_ui->sketch_6, "parete", m_dialogs);
-    set_up_sketch(*m_ui->sketch_7, "ostacolo", m_dialogs);
-
-    for (NumberField* const field : findChildren<NumberField*>()) {
-        connect(field, &QLineEdit::textChanged, this, [this] { draw(fields().cartelle, false); });
-    }
+    m_tabs = make_tabs(Window::special_cases, *this, m_dialogs);
+    for (const auto& tab : m_tabs)
+        connect(tab.get(), &CalculationTab::typed, this, [this, &tab] { tab->follow(inputs(*tab)); });
     connect(m_ui->cartelle, &QTabWidget::currentChanged, this, &casipart::page_chosen);
     connect(m_ui->Check1Box, &QCheckBox::toggled, this, &casipart::report_switched);
     connect(m_ui->Calcola2, &QPushButton::clicked, this, &casipart::calculate_clicked);
     connect(m_ui->Chiudi2, &QPushButton::clicked, this, &casipart::close);
     page_chosen();
-    for (const SpecialCase page : {SpecialCase::level_change, SpecialCase::wall, SpecialCase::snow_guard}) {
-        draw(page, false);
-    }
+    follow_inputs();
     report_switched();
     m_ui->h2input->setFocus();
     fit_to_screen(*this);
@@ -67,9 +59,29 @@ casipart::casipart(Program& program, UserDialogs& dialogs, std::function<SiteFie
 
 casipart::~casipart() = default;
 
-void casipart::mark_ground_load_as_old() {
-    draw(SpecialCase::level_change, false);
-    draw(SpecialCase::wall, false);
+CalculationTab& casipart::open_tab() const {
+    const Kind kind = kind_of(Window::special_cases, m_ui->cartelle->currentIndex());
+    return **std::ranges::find_if(m_tabs, [kind](const auto& tab) { return tab->kind() == kind; });
+}
+
+Inputs casipart::inputs(const CalculationTab& tab) const {
+    Inputs inputs;
+    inputs.fields.kind = tab.kind();
+    inputs.fields.entries = tab.texts();
+    inputs.fields.decimal_separator = user_decimal_separator();
+    if (!describe(tab.kind()).needs_ground_load) return inputs;
+    const Fields site = m_site_fields();
+    inputs.fields.asinput = site.asinput;
+    inputs.fields.ComboEsp = site.ComboEsp;
+    inputs.fields.TextCTermico = site.TextCTermico;
+    inputs.zone = m_program.cells.zone;
+    inputs.return_period_factor = m_program.cells.return_period_factor;
+    return inputs;
+}
+
+void casipart::follow_inputs() {
+    for (const auto& tab : m_tabs)
+        tab->follow(inputs(*tab));
 }
 
 void casipart::keyPressEvent(QKeyEvent* event) {
@@ -81,14 +93,14 @@ void casipart::keyPressEvent(QKeyEvent* event) {
 }
 
 void casipart::page_chosen() {
-    const auto page = static_cast<SpecialCase>(m_ui->cartelle->currentIndex());
-    m_ui->Label78->setVisible(page != SpecialCase::wall);
-    if (page == SpecialCase::level_change) {
+    const Kind kind = open_tab().kind();
+    m_ui->Label78->setVisible(kind != Kind::wall);
+    if (kind == Kind::level_change) {
         m_ui->Label78->setText(
             tr("<In corrisponenza di bruschi cambiamenti di quota delle coperture si considererà la "
                "distribuzione di carico più gravosa tra quelle indicate in assenza di discontinuità e quella "
                "qui riportata> (Circ. 4 luglio 96 - C.6.4)"));
-    } else if (page == SpecialCase::snow_guard) {
+    } else if (kind == Kind::snow_guard) {
         m_ui->Label78->setText(
             tr("<La forza esercitata da una massa di neve contro una protezione viene calcolata nell'ipotesi "
                "che il coefficiente di attrito tra neve e manto sia nullo. La forza va considerata nella "
@@ -101,57 +113,21 @@ void casipart::report_switched() {
     m_ui->udmcombo->setEnabled(m_ui->Check1Box->isChecked());
 }
 
-SpecialCasesFields casipart::fields() const {
-    const SiteFields site = m_site_fields();
-    return {
-        .asinput = site.asinput,
-        .ComboEsp = site.ComboEsp,
-        .TextCTermico = site.TextCTermico,
-        .cartelle = static_cast<SpecialCase>(m_ui->cartelle->currentIndex()),
-        .b1input = m_ui->b1input->utf8(),
-        .b2input = m_ui->b2input->utf8(),
-        .h2input = m_ui->h2input->utf8(),
-        .deltainput = m_ui->deltainput->utf8(),
-        .h3input = m_ui->h3input->utf8(),
-        .qsinput = m_ui->qsinput->utf8(),
-        .biinput = m_ui->biinput->utf8(),
-        .angoloinput = m_ui->angoloinput->utf8(),
-        .udmcombo = m_ui->udmcombo->currentText().toStdString(),
-        .Check1Box = m_ui->Check1Box->isChecked(),
-        .decimal_separator = user_decimal_separator(),
-    };
-}
-
-/// Draws the sketch of a page from its entries.
-/// @param with_results  the cells hold the results of these very entries
-void casipart::draw(SpecialCase page, bool with_results) {
-    SpecialCasesFields typed = fields();
-    typed.cartelle = page;
-    EntryReader reader;
-    SpecialCaseEntries entries = read_entries(typed, reader);
-    // Entries that are no numbers make no roof: the sketch says so by its neutral shape.
-    if (reader.stop()) entries.h = entries.b = std::numeric_limits<double>::quiet_NaN();
-    SketchWidget* const sketches[] = {m_ui->sketch_5, m_ui->sketch_6, m_ui->sketch_7};
-    SketchWidget& sketch = *sketches[static_cast<std::size_t>(page)];
-    Drawing drawing = sketch_special_case(entries, with_results ? &m_program.cells : nullptr);
-    if (!with_results && sketch.shows_numbers()) mark_as_pending(drawing);
-    sketch.set_drawing(std::move(drawing));
-}
-
 void casipart::calculate_clicked() {
-    const SpecialCasesFields entries = fields();
-    const ClickOutcome outcome = Calcola2(entries, m_program);
+    CalculationTab& tab = open_tab();
+    Fields fields = m_site_fields();
+    fields.kind = tab.kind();
+    fields.entries = tab.texts();
+    fields.decimal_separator = user_decimal_separator();
+    fields.udmcombo = m_ui->udmcombo->currentText().toStdString();
+    fields.Check1Box = m_ui->Check1Box->isChecked();
+    const Outcome outcome = Calcola2(fields, m_program);
     // The labels are refreshed before the message about the report.
-    if (outcome.results_complete) show_results(entries.cartelle);
+    if (outcome.complete) {
+        m_show_ground_load();
+        tab.show_results(m_program.cells, inputs(tab));
+    }
     m_dialogs.show(outcome.messages);
-}
-
-void casipart::show_results(SpecialCase page) {
-    m_show_ground_load();
-    for (const DisplayRow& row : display_rows(page))
-        findChild<ResultLabel*>(row.label)->show_number(m_program.cells.*row.cell.cell,
-                                                        row.cell.quantity.decimals);
-    draw(page, true);
 }
 
 }  // namespace coltre

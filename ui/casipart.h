@@ -3,10 +3,10 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <vector>
 
-#include "calculate/Calcola2.h"
 #include "startup/program.h"
-#include "ui/site_fields.h"
+#include "ui/calculation_tab.h"
 #include "ui/user_dialogs.h"
 
 namespace coltre {
@@ -25,13 +25,12 @@ class casipart : public QWidget {
     /// @param site_fields       the main window's fields as they are at the moment of the call
     /// @param show_ground_load  has the main window show the qsk cell, in which this window leaves its own
     ///                          ground load; called whenever results are shown
-    explicit casipart(Program& program, UserDialogs& dialogs, std::function<SiteFields()> site_fields,
+    explicit casipart(Program& program, UserDialogs& dialogs, std::function<Fields()> site_fields,
                       std::function<void()> show_ground_load, QWidget* parent = nullptr);
     ~casipart() override;
 
-    /// The ground load is no longer that of the numbers shown: the sketches of the cases that depend on it
-    /// say so.
-    void mark_ground_load_as_old();
+    /// All sketches for what is typed here and chosen in the main window now.
+    void follow_inputs();
 
   protected:
     /// Enter calculates, wherever the focus is but on a button.
@@ -42,15 +41,15 @@ class casipart : public QWidget {
     void report_switched();
     void calculate_clicked();
 
-    [[nodiscard]] SpecialCasesFields fields() const;
-    void draw(SpecialCase page, bool with_results);
-    void show_results(SpecialCase page);
+    [[nodiscard]] CalculationTab& open_tab() const;
+    [[nodiscard]] Inputs inputs(const CalculationTab& tab) const;
 
     Program& m_program;
     UserDialogs& m_dialogs;
-    std::function<SiteFields()> m_site_fields;
+    std::function<Fields()> m_site_fields;
     std::function<void()> m_show_ground_load;
     std::unique_ptr<Ui::casipart> m_ui;
+    std::vector<std::unique_ptr<CalculationTab>> m_tabs;
 };
 
 }  // namespace coltre

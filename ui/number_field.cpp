@@ -14,6 +14,11 @@ NumberField::NumberField(QWidget* parent) : QLineEdit(parent) {
     connect(this, &QLineEdit::textChanged, this, &NumberField::check);
 }
 
+void NumberField::set_reading(Reading reading) {
+    m_reading = reading;
+    check();
+}
+
 void NumberField::check() {
     m_marked = !reading().isEmpty();
     setAccessibleDescription(reading());
@@ -22,7 +27,7 @@ void NumberField::check() {
 
 /// How the text is read, where that needs saying; empty for a text that is a number.
 QString NumberField::reading() const {
-    if (m_strict) {
+    if (m_reading == Reading::strict) {
         const StrictNumber number = read_strictly(utf8(), user_decimal_separator());
         if (number.verdict == StrictNumber::Verdict::number) return {};
         return number.verdict == StrictNumber::Verdict::not_a_number ? tr("non è un numero")

@@ -2,17 +2,20 @@
 
 #include <QLineEdit>
 
+#include "calculate/calculations.h"
+
 namespace coltre {
 
 /// A text field for a number. It takes any text; where the text is not wholly understood as a number the
 /// field is marked and its tool tip says how it is read, "letto come 1", or that it is no number.
 class NumberField : public QLineEdit {
     Q_OBJECT
-    /// Whether the whole text must be a number (level change and wall); otherwise its leading number counts.
-    Q_PROPERTY(bool strict MEMBER m_strict)
 
   public:
     explicit NumberField(QWidget* parent = nullptr);
+
+    /// How the core reads the text; leniently unless set.
+    void set_reading(Reading reading);
 
     /// The text as the core takes it.
     [[nodiscard]] std::string utf8() const { return text().toStdString(); }
@@ -27,7 +30,7 @@ class NumberField : public QLineEdit {
     void check();
     [[nodiscard]] QString reading() const;
 
-    bool m_strict = false;
+    Reading m_reading = Reading::lenient;
     bool m_marked = false;
 };
 

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include "calculate/Calcola2.h"
+
 namespace coltre {
 namespace {
 
@@ -10,11 +12,11 @@ class MainCalculation : public testing::Test {
     MainCalculation() {
         fields.asinput = "200";
         fields.ComboEsp = fields.TextCTermico = "1.0";
-        fields.inputalfa = "15";
+        fields.entries = {"15"};
     }
-    ClickOutcome click() { return Calcola(fields, program); }
+    Outcome click() { return Calcola(fields, program); }
 
-    MainWindowFields fields;
+    Fields fields;
     Program program;
 };
 
@@ -31,7 +33,7 @@ TEST_F(MainCalculation, OverflowOfACoefficientLeavesTheBaseLoad) {
     fields.ComboEsp = "1.7e308";
     fields.TextCTermico = "10";
     fields.udmcombo = "Kgf , m";
-    const ClickOutcome outcome = click();
+    const Outcome outcome = click();
     EXPECT_EQ(outcome.fault, Fault::numeric_error);
     EXPECT_EQ(outcome.qsk, std::nullopt);
     EXPECT_EQ(program.cells.qsk, 1.5);
@@ -41,6 +43,46 @@ TEST_F(MainCalculation, OverflowOfACoefficientLeavesTheBaseLoad) {
     program.cells.zone = 4;  // none: the load of the click before stays, and takes the coefficients
     fields.ComboEsp = "2";
     EXPECT_EQ(click().qsk, 1.5 * 2 * 10);
+}
+
+// Everything that was read is answered, whatever stops afterwards; the reason tells what an engineer can
+// mend.
+TEST_F(MainCalculation, StopsSayWhy) {
+    struct Case {
+        Fields fields;
+        const char* text;
+    };
+    for (const Case& c : {
+             Case{{"500", "1e200", "1e200", Kind::one_pitch, {"15"}},
+                  "errore numerico.\rIl carico neve al suolo qsk è troppo grande."},
+             Case{{"500", "1", "1e400", Kind::wall, {"2"}},
+                  "errore numerico.\rIl numero scritto per «coefficiente termico» è troppo grande."},
+             Case{{"500", "1e400", "1", Kind::wall, {"2"}},
+                  "errore numerico.\rIl numero scritto per «coefficiente di esposizione» è troppo grande."},
+             Case{{"500", "0", "1", Kind::wall, {"2"}},
+                  "divisione per zero.\rNon si può calcolare mu2.\rIl carico neve al suolo qsk è 0."},
+             Case{{"500", "0", "1", Kind::level_change, {"3", "5", "2", "10"}},
+                  "divisione per zero.\rNon si può calcolare mu2.\rIl carico neve al suolo qsk è 0."},
+             Case{{"500", "1", "1", Kind::level_change, {"3", "5", "0", "10"}},
+                  "divisione per zero.\rNon si può calcolare mu2.\rIl dislivello h è 0."},
+             Case{{"500", "1", "1", Kind::snow_guard, {"1e200", "1e200", "10"}},
+                  "errore numerico.\rNon si può calcolare Fs."},
+             Case{{"500", "1", "1", Kind::two_pitches, {"20", "-5"}}, nullptr},
+             Case{{"500", "1", "1", Kind::two_pitches, {"20", "70"}},
+                  "divisione per zero.\rNon si può calcolare qe_2c.\rIl carico sulla falda è 0: il "
+                  "coefficiente di forma mu1 è 0 per alfa2 = 70°."},
+         }) {
+        Program fresh;
+        const bool special = describe(c.fields.kind).window == Window::special_cases;
+        const Outcome outcome = special ? Calcola2(c.fields, fresh) : Calcola(c.fields, fresh);
+        EXPECT_EQ(outcome.altitude, 500);
+        if (c.text == nullptr) {
+            EXPECT_TRUE(outcome.complete) << "the coefficient of side 1 stays for a negative pitch";
+            continue;
+        }
+        ASSERT_EQ(outcome.messages.size(), 1U) << c.text;
+        EXPECT_EQ(outcome.messages.front().text, std::string("Calcolo interrotto: ") + c.text);
+    }
 }
 
 }  // namespace

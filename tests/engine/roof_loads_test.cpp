@@ -9,7 +9,7 @@ namespace {
 
 TEST(ShapeCoefficients, Mu1NeverRisesWithTheSlope) {
     for (double alfa = 0.0625; alfa <= 90; alfa += 0.0625)
-        EXPECT_LE(mu1(alfa, 9), mu1(alfa - 0.0625, 9)) << alfa;
+        EXPECT_LE(mu1(alfa, 9.0), mu1(alfa - 0.0625, 9.0)) << alfa;
 }
 
 TEST(TwoPitches, MirroredRoofHasMirroredLoads) {
@@ -17,8 +17,8 @@ TEST(TwoPitches, MirroredRoofHasMirroredLoads) {
         ProgramCells a;
         a.qsk = 1.7;
         ProgramCells b = a;
-        calculate_roof(a, {RoofFamily::two_pitches, left, right});
-        calculate_roof(b, {RoofFamily::two_pitches, right, left});
+        calculate(a, {.kind = Kind::two_pitches, .alfa1 = left, .alfa2 = right});
+        calculate(b, {.kind = Kind::two_pitches, .alfa1 = right, .alfa2 = left});
         EXPECT_EQ(std::tie(a.qs_2a, a.qs_2b, a.qe_2a, a.qe_2b), std::tie(b.qs_2c, b.qs_2d, b.qe_2c, b.qe_2d));
         EXPECT_EQ(std::tie(a.qs_2c, a.qs_2d, a.qe_2c, a.qe_2d), std::tie(b.qs_2a, b.qs_2b, b.qe_2a, b.qe_2b));
         EXPECT_GT(a.qs_2a, a.qs_2c);

@@ -10,7 +10,7 @@ TEST(LevelChange, SlopeAbove15ChangesTheMu1CellAlone) {
         ProgramCells cells;
         cells.qsk = 1;
         cells.mu1 = 7;
-        calculate_special_case(cells, {.b1 = 10, .b2 = 20, .h = 1, .alfa = alfa});
+        calculate(cells, {.kind = Kind::level_change, .alfa = alfa, .b1 = 10, .b2 = 20, .h = 1});
         EXPECT_NEAR(cells.mu1, mu1, 1e-12) << alfa;
         EXPECT_EQ(cells.level_mu2, 2) << alfa;
     }

@@ -55,7 +55,7 @@ class CasipartTest : public WindowTest {
         return read_file(directory.text() + "\\coltrecasipart.txt").value_or("no report");
     }
 
-    SiteFields site{.asinput = "200", .ComboEsp = "1.0", .TextCTermico = "1.0"};
+    Fields site{.asinput = "200", .ComboEsp = "1.0", .TextCTermico = "1.0"};
     std::vector<double> shown_ground_loads;
 };
 

@@ -97,12 +97,12 @@ TEST_F(Dialogs, SpecialCasesOpenOnceAndBlockNothing) {
 }
 
 TEST(Form2Dialog, StoresTheLeadingNumber) {
-    WindowValues values{.working_value = -1};
-    auto* dialog = new Form2(values);
+    ProgramCells cells;
+    auto* dialog = new Form2(cells);
     dialog->show();
     control<QLineEdit>(*dialog, "Text1").setText("  2.5kN");
     QTest::mouseClick(&control(*dialog, "OK"), Qt::LeftButton);
-    EXPECT_EQ(values.working_value, 2.5);
+    EXPECT_EQ(cells.working_value, 2.5);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(open_window<Form2>(), nullptr);
 }

@@ -1,0 +1,173 @@
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "engine/calculation.h"
+#include "engine/traced.h"
+
+// What the formulas are written with. They are templates over the number type: Checked calculates, Traced
+// does the same operations and keeps each named quantity as a step.
+namespace coltre {
+
+/// The symbol of a step; where several quantities have one each, whose it is: d of qs_2a is "d_qs_2a".
+struct Symbol {
+    Symbol(std::string_view symbol_name) : name(symbol_name) {}
+    Symbol(const char* symbol_name) : name(symbol_name) {}
+    Symbol(std::string_view symbol_name, std::string_view whose) : name(symbol_name), of(whose) {}
+
+    std::string_view name;
+    std::string_view of;
+};
+
+/// Keeps nothing: what a run with Checked traces.
+class NoTracer {
+  public:
+    explicit NoTracer(Trace* /*trace*/) {}
+
+    static bool holds(bool condition) { return condition; }
+    static Checked quantity(Symbol /*symbol*/, Checked value) { return value; }
+    static Checked stored(double ProgramCells::* /*cell*/, double value, Symbol /*fallback*/) {
+        return value;
+    }
+    static Checked step(Symbol /*symbol*/, Quantity /*quantity*/, Checked value) { return value; }
+    static void remember(double ProgramCells::* /*cell*/, const Checked& /*value*/) {}
+    static void source(std::string_view /*source*/) {}
+};
+
+/// Keeps the steps.
+class Tracer {
+  public:
+    explicit Tracer(Trace* trace) : m_trace(*trace) {}
+
+    /// Keeps a condition that holds for the next step: it has chosen its formula.
+    bool holds(const Condition& condition) {
+        if (condition.holds) m_condition = condition;
+        return condition.holds;
+    }
+    /// A number that formulas call by a symbol of the data.
+    static Traced quantity(Symbol symbol, Checked value) {
+        return Traced::named(std::string(symbol.name), value);
+    }
+    /// The number of a cell under the symbol of the step that set it. One that no step of this run has set is
+    /// what an earlier calculation left.
+    /// @param fallback  its symbol in that case
+    Traced stored(double ProgramCells::*cell, double value, Symbol fallback);
+    /// Adds the step, and calls the quantity by its symbol from here on.
+    Traced step(Symbol symbol, Quantity quantity, const Traced& value);
+    /// The step that was added last has set the cell.
+    void remember(double ProgramCells::*cell, const Traced& value) {
+        m_cells.emplace_back(cell, value.symbols());
+    }
+    void source(std::string_view source) { m_source = source; }
+
+  private:
+    Trace& m_trace;
+    Condition m_condition{};
+    std::string_view m_source;
+    std::vector<std::pair<double ProgramCells::*, std::string>> m_cells;  // set by this run, and as what
+};
+
+/// A calculation while it runs. Until the first fault it sets cells and records results; after it nothing
+/// changes any more, so that formulas stand one below the other as in the norm.
+template <typename Number>
+class Run {
+  public:
+    using Tracing = std::conditional_t<std::is_same_v<Number, Checked>, NoTracer, Tracer>;
+
+    Run(ProgramCells& cells, Trace* trace) : m_cells(cells), m_tracing(trace) {}
+
+    /// Where the formulas that follow come from.
+    void source(std::string_view source) { m_tracing.source(source); }
+
+    /// Takes a branch: true if the condition holds. The next step comes about by it.
+    template <typename Comparison>
+    bool holds(const Comparison& condition) {
+        return m_tracing.holds(condition);
+    }
+
+    /// A number that the calculation starts from.
+    /// @param value  finite
+    Number entry(std::string_view symbol, double value) { return m_tracing.quantity(symbol, value); }
+
+    /// The number of a cell.
+    /// @param fallback  symbol of one that this run has not set
+    Number stored(double ProgramCells::*cell, Symbol fallback) {
+        return m_tracing.stored(cell, m_cells.*cell, fallback);
+    }
+
+    /// Names a quantity on the way to a result.
+    Number let(Symbol symbol, Quantity quantity, const Number& value) {
+        return m_calculation.end.stopped() ? value : m_tracing.step(symbol, quantity, value);
+    }
+
+    /// Sets a cell that is no result, or stops.
+    Number store(double ProgramCells::*cell, Symbol symbol, const Number& value,
+                 Quantity quantity = quantities::coefficient) {
+        if (stops(value, symbol.name)) return value;
+        m_cells.*cell = value.value();
+        Number named = m_tracing.step(symbol, quantity, value);
+        m_tracing.remember(cell, named);
+        return named;
+    }
+
+    /// Sets a result, or stops.
+    /// @param symbol  of the step, where a later one sets the same result again
+    Number set(const ResultCell& result, const Number& value, std::string_view symbol) {
+        if (stops(value, result.name, &result)) {
+            return value;
+        }
+        m_cells.*result.cell = value.value();
+        auto& recorded = m_calculation.results;
+        const auto earlier = std::ranges::find(recorded, &result, &Result::cell);
+        if (earlier != recorded.end()) {
+            earlier->value = value.value();
+        } else {
+            recorded.push_back({&result, value.value()});
+        }
+        return m_tracing.step(symbol, result.quantity, value);
+    }
+    Number set(const ResultCell& result, const Number& value) { return set(result, value, result.name); }
+
+    /// Records the shape coefficient of a load case.
+    void coefficient(std::string_view label, const Number& mu) {
+        if (!m_calculation.end.stopped()) m_calculation.coefficients.push_back({label, mu.value()});
+    }
+
+    /// Records a load case that is complete.
+    void load_case(std::string_view label, const Number& mu, const Number& qs) {
+        add_load_case(label, mu, qs, std::nullopt);
+    }
+    void load_case(std::string_view label, const Number& mu, const Number& qs, const Number& qe) {
+        add_load_case(label, mu, qs, qe.value());
+    }
+
+    /// Stops where the number is a fault.
+    /// @param quantity  what the step was to compute   @param cell  its row, if it is a result
+    /// @return true if the calculation has stopped, here or before
+    bool stops(const Number& number, std::string_view quantity, const ResultCell* cell = nullptr) {
+        if (m_calculation.end.stopped()) return true;
+        if (number.fault() == Fault::none) return false;
+        if constexpr (std::is_same_v<Number, Traced>) m_tracing.step(quantity, {}, number);
+        m_calculation.end = {number.fault(), quantity, cell};
+        return true;
+    }
+
+    [[nodiscard]] ProgramCells& cells() { return m_cells; }
+    [[nodiscard]] Calculation& calculation() { return m_calculation; }
+
+  private:
+    void add_load_case(std::string_view label, const Number& mu, const Number& qs, std::optional<double> qe) {
+        if (!m_calculation.end.stopped())
+            m_calculation.load_cases.push_back({label, mu.value(), qs.value(), qe});
+    }
+
+    ProgramCells& m_cells;
+    Tracing m_tracing;
+    Calculation m_calculation;
+};
+
+}  // namespace coltre

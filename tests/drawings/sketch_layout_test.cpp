@@ -1,0 +1,114 @@
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include "calculate/calculations.h"
+#include "drawings/sketches.h"
+
+namespace coltre {
+namespace {
+
+/// Whatever the entries and the results: finite coordinates, all on the page, no label or text over another,
+/// no label over a slab, a wall or an ordinate. The end of a load may touch its label's room.
+void check(const Drawing& drawing) {
+    std::vector<std::pair<std::string, Rect>> boxes;
+    for (const Text& text : drawing.texts)
+        boxes.emplace_back(text.text, text.box);
+    for (const LabelSlot& slot : drawing.label_slots)
+        if (slot.visible) boxes.emplace_back(slot.name, slot.area);
+    for (auto it = boxes.begin(); it != boxes.end(); ++it) {
+        ASSERT_TRUE(drawing.page.contains(it->second)) << it->first;
+        for (auto other = it + 1; other != boxes.end(); ++other)
+            ASSERT_FALSE(it->second.overlaps(other->second)) << it->first << " and " << other->first;
+    }
+    const auto on_page = [&](Point p) { return drawing.page.contains(p); };  // false for what is no number
+    for (const Arrow& arrow : drawing.arrows)
+        ASSERT_TRUE(on_page(arrow.from) && on_page(arrow.to));
+    for (const Shape& shape : drawing.shapes) {
+        ASSERT_TRUE(std::ranges::all_of(shape.points, on_page)) << "role " << static_cast<int>(shape.role);
+        if (shape.role != Role::roof && shape.role != Role::wall && shape.role != Role::load_line &&
+            shape.role != Role::drift_line)
+            continue;
+        for (std::size_t i = 1; i < shape.points.size(); ++i) {
+            for (double part = 0; part <= 1; part += 1.0 / 64) {
+                const Point a = shape.points[i - 1], b = shape.points[i];
+                const Point p{a.x + part * (b.x - a.x), a.y + part * (b.y - a.y)};
+                for (const LabelSlot& slot : drawing.label_slots)
+                    ASSERT_FALSE(slot.visible && slot.area.contains(p)) << slot.name;
+            }
+        }
+    }
+}
+
+/// Without results and with these.
+void check(const Entries& entries, double load) {
+    std::string typed;
+    for (const Entry& entry : describe(entries.kind).entries)
+        typed += std::to_string(entries.*entry.number) + " ";
+    SCOPED_TRACE(std::string(describe(entries.kind).name) + " " + typed + std::to_string(load));
+    ProgramCells cells;
+    cells.qs_1 = cells.qs_2a = cells.qs_2c = cells.qs_3a = cells.qs_3c = cells.qs_4c = load;
+    cells.level_qs1 = cells.wall_qs2 = load;
+    cells.qs_2b = cells.qs_3b = cells.qs_4b = cells.level_qs2 = cells.wall_qs1 = load / 2;
+    for (const ProgramCells* loads : {static_cast<const ProgramCells*>(nullptr), &std::as_const(cells)})
+        ASSERT_NO_FATAL_FAILURE(check(sketch(entries, loads)));
+}
+
+}  // namespace
+
+TEST(SketchLayout, EveryResultHasItsPlace) {
+    for (const Description& calculation : calculations()) {
+        const Drawing drawing = sketch({.kind = calculation.kind}, nullptr);
+        for (const ResultPlace& place : calculation.places)
+            EXPECT_NE(drawing.find_slot(std::string(place.label)), nullptr) << place.label;
+    }
+}
+
+TEST(SketchLayout, HoldsForAllPitchesAndVaults) {
+    const std::vector<double> pitches{0, 5, 15, 30, 33.333333, 45, 60, 75, 89, 89.9999, 90, -5};
+    for (const double alfa1 : pitches) {
+        check({.kind = Kind::one_pitch, .alfa = alfa1}, 1.2);
+        check({.kind = Kind::snow_guard, .alfa = alfa1, .qs = 1.28, .b = 5}, 1.2);
+        for (const double alfa2 : pitches)
+            for (const Kind kind : {Kind::two_pitches, Kind::several_pitches})
+                ASSERT_NO_FATAL_FAILURE(check({.kind = kind, .alfa1 = alfa1, .alfa2 = alfa2}, 1.2));
+    }
+    for (const double by_width : {0.5, 0.45, 0.25, 0.1, 0.01, 0.001, 0.51})
+        ASSERT_NO_FATAL_FAILURE(check({.kind = Kind::cylindrical, .L = 123.45, .H = 123.45 * by_width}, 1.2));
+}
+
+TEST(SketchLayout, HoldsForAllStepsAndWalls) {
+    const std::vector<double> lengths{0.01, 0.5, 5, 5.01, 30, 5000, 99999};
+    for (const double h : lengths) {
+        ASSERT_NO_FATAL_FAILURE(check({.kind = Kind::wall, .h = h}, 1.2));
+        for (const double b1 : lengths)
+            for (const double b2 : lengths)
+                for (const double alfa : {0.0, 10.0, 45.0, 89.0})
+                    ASSERT_NO_FATAL_FAILURE(
+                        check({.kind = Kind::level_change, .alfa = alfa, .b1 = b1, .b2 = b2, .h = h}, 1.2));
+    }
+}
+
+TEST(SketchLayout, HoldsForWhateverIsTyped) {
+    constexpr double inf = std::numeric_limits<double>::infinity();
+    const std::vector<double> hostile{0,     -0.0,   90,     -1, 1e300, -1e300, 1e-300,
+                                      1e308, 5e-324, 0.0099, 60, inf,   -inf,   std::nan("")};
+    std::mt19937 random(20);
+    const auto any = [&] {
+        const std::size_t i = random() % (2 * hostile.size());
+        return i < hostile.size() ? hostile[i]
+                                  : std::pow(10, static_cast<double>(random() % 9000) / 1000 - 3);
+    };
+    for (int i = 0; i < 1000; ++i) {
+        for (const Description& calculation : calculations()) {
+            Entries entries{.kind = calculation.kind};
+            for (const Entry& entry : calculation.entries)
+                entries.*entry.number = any();
+            ASSERT_NO_FATAL_FAILURE(check(entries, any()));
+        }
+    }
+}
+
+}  // namespace coltre

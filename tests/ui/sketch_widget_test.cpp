@@ -1,0 +1,107 @@
+#include "ui/sketch_widget.h"
+
+#include <gmock/gmock.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "drawings/sketches.h"
+
+namespace coltre {
+namespace {
+
+Drawing level_change(double b2) {
+    return sketch({.kind = Kind::level_change, .alfa = 10, .b1 = 3, .b2 = b2, .h = 2}, nullptr);
+}
+
+QByteArray content(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+class SketchWidgetTest : public testing::Test {
+  protected:
+    SketchWidgetTest() {
+        sketch.host(qs2, "carico_14");
+        sketch.host(ls, "lsoutput");
+        sketch.set_drawing(level_change(8));
+        sketch.resize(600, 350);
+        sketch.show();
+        QApplication::processEvents();
+    }
+
+    QTemporaryDir directory;
+    SketchWidget sketch;
+    QLabel* qs2 = new QLabel(" 3.7594");  // its children
+    QLabel* ls = new QLabel(" 5");
+};
+
+}  // namespace
+
+TEST_F(SketchWidgetTest, LabelsStayWithinTheirSlotsAtEverySize) {
+    for (const QSize size : {QSize(420, 260), QSize(900, 500), QSize(500, 900), QSize(1400, 300)}) {
+        sketch.resize(size);
+        QApplication::processEvents();
+        const SketchPainter painter(sketch.drawing(), QRectF(sketch.rect()), {});
+        for (const auto& [label, slot] : {std::pair{qs2, "carico_14"}, std::pair{ls, "lsoutput"}}) {
+            const QRectF area = painter.to_pixels(sketch.drawing().find_slot(slot)->area);
+            EXPECT_TRUE(area.adjusted(-1, -1, 1, 1).contains(QRectF(label->geometry()))) << slot;
+            EXPECT_GE(label->width(), label->sizeHint().width());
+        }
+    }
+    EXPECT_EQ(sketch.minimumSizeHint().boundedTo(QSize(420, 260)), sketch.minimumSizeHint());
+
+    qs2->setText(" 1234567.1234");  // takes its room at once
+    QApplication::processEvents();
+    EXPECT_GE(qs2->width(), qs2->sizeHint().width());
+    EXPECT_TRUE(sketch.rect().contains(qs2->geometry()));
+}
+
+TEST_F(SketchWidgetTest, LabelOfAHiddenSlotIsHiddenAndInNoPicture) {
+    ls->setText(" 5.4321");
+    sketch.set_drawing(level_change(5));
+    EXPECT_TRUE(ls->isHidden());
+    EXPECT_FALSE(qs2->isHidden());
+    delete qs2;  // a deleted one is forgotten
+    sketch.resize(700, 400);
+    ASSERT_TRUE(sketch.save(directory.filePath("cut.svg"), PictureFormat::svg));
+    EXPECT_FALSE(content(directory.filePath("cut.svg")).contains("5.4321"));
+    sketch.set_drawing(level_change(8));
+    EXPECT_FALSE(ls->isHidden());
+}
+
+TEST_F(SketchWidgetTest, TheMenuSavesThePictureWithTheNumbers) {
+    sketch.set_suggested_name("discontinuita");
+    QString suggestion;
+    sketch.ask_file = [&](const QString&, const QString& suggested, const QString&) {
+        suggestion = suggested;
+        return directory.filePath(suggested);
+    };
+    const auto saved_by = [&](const char* action) {
+        sketch.findChild<QAction*>(action)->trigger();
+        return content(directory.filePath(suggestion));
+    };
+    const QByteArray svg = saved_by("salva_svg");
+    EXPECT_EQ(suggestion, "discontinuita.svg");
+    EXPECT_TRUE(svg.contains(">3.7594<")) << "result";
+    EXPECT_TRUE(svg.contains(">b2 = 8 m<")) << "dimension";
+    EXPECT_FALSE(svg.contains("<image")) << "vector";
+    EXPECT_TRUE(saved_by("salva_pdf").startsWith("%PDF-"));
+    QImage png;
+    ASSERT_TRUE(png.loadFromData(saved_by("salva_png"), "PNG"));
+    EXPECT_EQ(png.size(), QSize(1000, 574));
+}
+
+// A picture in a report is dark on white, whatever the screen shows.
+TEST_F(SketchWidgetTest, PicturesDoNotFollowADarkPalette) {
+    const QImage light = sketch_image(sketch.drawing(), {}, sketch.font());
+    QPalette dark(QColor(40, 40, 40));
+    dark.setColor(QPalette::Base, Qt::black);
+    dark.setColor(QPalette::Text, Qt::white);
+    sketch.setPalette(dark);
+    EXPECT_EQ(sketch.grab().toImage().pixelColor(2, 2), QColor(Qt::black));
+    EXPECT_EQ(sketch_image(sketch.drawing(), {}, sketch.font()), light);
+}
+}  // namespace coltre

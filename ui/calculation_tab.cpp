@@ -1,0 +1,82 @@
+#include "ui/calculation_tab.h"
+
+#include <limits>
+
+#include "drawings/sketches.h"
+#include "platform/surroundings.h"
+
+namespace coltre {
+
+namespace {
+
+QString qt(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+template <typename Control>
+Control* find(QWidget& window, std::string_view name) {
+    auto* const control = window.findChild<Control*>(qt(name));
+    Q_ASSERT(control != nullptr);
+    return control;
+}
+
+}  // namespace
+
+CalculationTab::CalculationTab(Kind kind, QWidget& window, UserDialogs& dialogs)
+    : m_description(describe(kind)), m_sketch(*find<SketchWidget>(window, m_description.sketch)) {
+    for (const Entry& entry : m_description.entries) {
+        auto* const field = find<NumberField>(window, entry.control);
+        field->set_reading(entry.reading);
+        connect(field, &QLineEdit::textChanged, this, &CalculationTab::typed);
+        m_fields.push_back(field);
+    }
+    for (const ResultPlace& place : m_description.places)
+        m_labels.push_back(find<ResultLabel>(window, place.label));
+
+    m_sketch.set_suggested_name(qt(m_description.picture));
+    m_sketch.report_error = [&dialogs](const QString& text) {
+        dialogs.show({Icon::error, std::string(program_title), text.toStdString()});
+    };
+    for (ResultLabel* const label : m_sketch.findChildren<ResultLabel*>())
+        m_sketch.host(label, label->objectName());
+}
+
+std::vector<std::string> CalculationTab::texts() const {
+    std::vector<std::string> texts;
+    for (const NumberField* field : m_fields)
+        texts.push_back(field->utf8());
+    return texts;
+}
+
+void CalculationTab::follow(const Inputs& now) {
+    const bool calculated = m_last && m_last->inputs == now;
+    EntryReader reader;
+    Entries entries = reader.entries(kind(), now.fields.entries, now.fields.decimal_separator);
+    // Entries that are no numbers, or beyond all range, make no roof: the sketch says so by its neutral
+    // shape.
+    if (reader.stop())
+        for (const Entry& entry : m_description.entries)
+            entries.*entry.number = std::numeric_limits<double>::quiet_NaN();
+    Drawing drawing = sketch(entries, calculated ? &m_last->results : nullptr);
+    if (!calculated && m_sketch.shows_numbers()) mark_as_pending(drawing);
+    m_sketch.set_drawing(std::move(drawing));
+}
+
+void CalculationTab::show_results(const ProgramCells& results, const Inputs& inputs) {
+    for (std::size_t i = 0; i < m_labels.size(); ++i) {
+        const ResultCell& result = *m_description.places[i].result;
+        m_labels[i]->show_number(results.*result.cell, result.quantity.decimals);
+    }
+    m_last = {inputs, results};
+    follow(inputs);
+}
+
+std::vector<std::unique_ptr<CalculationTab>> make_tabs(Window which, QWidget& window, UserDialogs& dialogs) {
+    std::vector<std::unique_ptr<CalculationTab>> tabs;
+    for (const Description& calculation : calculations())
+        if (calculation.window == which)
+            tabs.push_back(std::make_unique<CalculationTab>(calculation.kind, window, dialogs));
+    return tabs;
+}
+
+}  // namespace coltre

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QObject>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "calculate/click.h"
+#include "ui/number_field.h"
+#include "ui/result_label.h"
+#include "ui/sketch_widget.h"
+#include "ui/user_dialogs.h"
+
+namespace coltre {
+
+/// All that the numbers of a calculation depend on.
+struct Inputs {
+    Fields fields;
+    SnowZone zone = 0;
+    double return_period_factor = 1;
+
+    bool operator==(const Inputs&) const = default;
+};
+
+/// A tab or page of a window: the entries of one calculation, its sketch and the labels of its results, found
+/// in the window by the names of the calculation's row.
+class CalculationTab : public QObject {
+    Q_OBJECT
+
+  public:
+    /// @param window   has the controls, and outlives the tab; the dialogs do too
+    CalculationTab(Kind kind, QWidget& window, UserDialogs& dialogs);
+
+    [[nodiscard]] Kind kind() const { return m_description.kind; }
+
+    /// The texts of the entries, as Fields holds them.
+    [[nodiscard]] std::vector<std::string> texts() const;
+
+    /// Draws the sketch for what is typed now. Where that is not what was calculated last, the ordinates
+    /// follow the shape coefficients, and numbers that are shown are marked as those of other entries.
+    void follow(const Inputs& now);
+
+    /// Shows the results of a calculation in labels and sketch.
+    void show_results(const ProgramCells& results, const Inputs& inputs);
+
+  signals:
+    /// Something else is typed in one of the fields.
+    void typed();
+
+  private:
+    const Description& m_description;
+    std::vector<NumberField*> m_fields;
+    std::vector<ResultLabel*> m_labels;  // in the order of the row's places
+    SketchWidget& m_sketch;
+
+    struct Calculated {
+        Inputs inputs;
+        ProgramCells results;
+    };
+    std::optional<Calculated> m_last;
+};
+
+/// The tabs of a window, one a calculation.
+std::vector<std::unique_ptr<CalculationTab>> make_tabs(Window which, QWidget& window, UserDialogs& dialogs);
+
+}  // namespace coltre

@@ -1,0 +1,174 @@
+#include "ui/sketch_widget.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontInfo>
+#include <QMessageBox>
+#include <QPaintEvent>
+#include <QtMath>
+#include <algorithm>
+#include <utility>
+
+namespace coltre {
+
+SketchWidget::SketchWidget(QWidget* parent) : QWidget(parent) {
+    ask_file = [this](const QString& title, const QString& suggested, const QString& filter) {
+        QFileDialog dialog(this, title, suggested, filter);
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setDefaultSuffix(QFileInfo(suggested).suffix());
+        return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    };
+    report_error = [this](const QString& text) {
+        QMessageBox::critical(this, QStringLiteral("Coltre"), text);
+    };
+
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    setFocusPolicy(Qt::StrongFocus);  // so that the menu key reaches the menu
+    auto* copy = new QAction(QStringLiteral("&Copia immagine"), this);
+    copy->setObjectName(QStringLiteral("copia_immagine"));
+    connect(copy, &QAction::triggered, this, &SketchWidget::copy_picture);
+    addAction(copy);
+    add_save_action(QStringLiteral("Salva come &SVG…"), QStringLiteral("salva_svg"), PictureFormat::svg,
+                    QStringLiteral("Immagini SVG (*.svg)"), QStringLiteral(".svg"));
+    add_save_action(QStringLiteral("Salva come &PNG…"), QStringLiteral("salva_png"), PictureFormat::png,
+                    QStringLiteral("Immagini PNG (*.png)"), QStringLiteral(".png"));
+    add_save_action(QStringLiteral("Salva come P&DF…"), QStringLiteral("salva_pdf"), PictureFormat::pdf,
+                    QStringLiteral("Documenti PDF (*.pdf)"), QStringLiteral(".pdf"));
+}
+
+void SketchWidget::add_save_action(const QString& text, const QString& name, PictureFormat format,
+                                   const QString& filter, const QString& suffix) {
+    auto* action = new QAction(text, this);
+    action->setObjectName(name);
+    connect(action, &QAction::triggered, this, [this, format, filter, suffix] {
+        const QString path = ask_file(QStringLiteral("Salva immagine"), m_suggested_name + suffix, filter);
+        if (!path.isEmpty()) save(path, format);
+    });
+    addAction(action);
+}
+
+void SketchWidget::set_drawing(Drawing drawing) {
+    m_drawing = std::move(drawing);
+    redraw();
+}
+
+void SketchWidget::host(QLabel* label, const QString& slot) {
+    label->setParent(this);
+    m_labels.push_back({label, slot.toStdString()});
+    place_labels();
+}
+
+void SketchWidget::redraw() {
+    m_picture = {};
+    place_labels();
+    update();
+}
+
+SketchPainter SketchWidget::painter_of_size() const {
+    const double letters = QFontInfo(font()).pixelSize();
+    return {m_drawing, QRectF(rect()), {palette(), font(), letters}};
+}
+
+void SketchWidget::place_labels() {
+    const SketchPainter sketch = painter_of_size();
+    std::erase_if(m_labels, [](const HostedLabel& it) { return it.label.isNull(); });
+    for (const HostedLabel& it : m_labels) {
+        const LabelSlot* slot = m_drawing.find_slot(it.slot);
+        const bool shown = slot != nullptr && slot->visible;
+        if (shown) {
+            QRect place = sketch.number_rect(*slot, it.label->sizeHint()).toRect();
+            // A number wider than its slot stays in sight.
+            place.moveLeft(std::clamp(place.left(), 0, std::max(0, width() - place.width())));
+            it.label->setGeometry(place);
+        }
+        it.label->setVisible(shown);
+    }
+}
+
+bool SketchWidget::event(QEvent* event) {
+    switch (event->type()) {
+        case QEvent::LayoutRequest:  // a label has another text
+            place_labels();
+            update();
+            break;
+        case QEvent::PaletteChange:
+        case QEvent::FontChange:
+        case QEvent::StyleChange:
+            redraw();
+            updateGeometry();
+            break;
+        default:
+            break;
+    }
+    return QWidget::event(event);
+}
+
+void SketchWidget::resizeEvent(QResizeEvent* /*event*/) {
+    redraw();
+}
+
+void SketchWidget::paintEvent(QPaintEvent* /*event*/) {
+    const SketchPainter sketch = painter_of_size();
+    if (m_picture.isNull() || m_picture.devicePixelRatio() != devicePixelRatioF()) {
+        m_picture = QPixmap(size() * devicePixelRatioF());
+        m_picture.setDevicePixelRatio(devicePixelRatioF());
+        m_picture.fill(palette().color(QPalette::Base));
+        QPainter painter(&m_picture);
+        sketch.paint(painter);
+    }
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, m_picture);
+    for (const HostedLabel& it : m_labels) {
+        const LabelSlot* slot = m_drawing.find_slot(it.slot);
+        if (it.label && slot != nullptr && slot->visible)
+            sketch.paint_slot(painter, *slot, it.label->geometry());
+    }
+    if (hasFocus()) {
+        // The style's own frame would tint the whole drawing.
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+QSize SketchWidget::size_for_letters(double part) const {
+    const double scale = QFontInfo(font()).pixelSize() * part / text_height;
+    return {qCeil(m_drawing.page.width * scale), qCeil(m_drawing.page.height * scale)};
+}
+
+QSize SketchWidget::sizeHint() const {
+    return size_for_letters(1.2);
+}
+
+// With smaller letters beside them the labels, which keep theirs, would no longer fit their slots.
+QSize SketchWidget::minimumSizeHint() const {
+    return size_for_letters(0.85);
+}
+
+bool SketchWidget::shows_numbers() const {
+    return !label_texts().empty();
+}
+
+SlotTexts SketchWidget::label_texts() const {
+    SlotTexts texts;
+    for (const HostedLabel& it : m_labels)
+        if (it.label && it.label->text() != no_number) texts[it.slot] = it.label->text();
+    return texts;
+}
+
+bool SketchWidget::save(const QString& path, PictureFormat format) {
+    const QString reason = replace_file(path, sketch_picture(m_drawing, label_texts(), font(), format));
+    if (reason.isEmpty()) return true;
+    report_error(
+        QStringLiteral("Impossibile salvare il file %1: %2").arg(QFileInfo(path).fileName(), reason));
+    return false;
+}
+
+void SketchWidget::copy_picture() const {
+    QApplication::clipboard()->setImage(sketch_image(m_drawing, label_texts(), font()));
+}
+
+}  // namespace coltre
