@@ -24,20 +24,17 @@ TEST(Formatta, DirectivesInTheOrderOfTheirSteps) {
              Case{4e6, "(dv_01)(zr_0)", 0.000002, "8.0000000"},  // shift 6
              Case{1.23456, "(CU_m_CM)(fd_08)(DV_04)", 1, "  123.46"},
              Case{1, "(cu_mm_m)(dv_04)(zr_0)", 1, ".0010000"},
-             Case{1, "(dv_04)(cu_mn_kgf)", 1, "101972."},  // no fewer than 0 decimals
-             Case{1.5, "(cu_kgf_KGF)(dv_02)", 1, "1.5"},   // no command, but one unit twice
-             Case{1234.5, "(cs_03)", 1, "1230."},
-             Case{0.012345, "(cs_02)", 1, ".012"},
-             Case{98765, "(cs_02)(cs_04)", 1, "99000."},  // the first counts
-             Case{1.23456, "(dv_4)(sc_|)", 1, "1.2346"},  // seven characters go, "(" among them
+             Case{1, "(dv_04)(cu_mn_kgf)", 1, "101972."},        // no fewer than 0 decimals
+             Case{1.5, "(cu_kgf_KGF)(dv_02)", 1, "1.5"},         // no command, but one unit twice
+             Case{1234.5, "(cs_031)", 1, "1230."},               // two characters
+             Case{98765, "(cs_02)(cs_04)", 1, "99000."},         // the first counts
+             Case{1.23456, "(dv_4)(sc_|)(sc_;)", 1, "1.2346;"},  // seven characters go, "(" among them
+             Case{1.5, "(sc_|(dv_4", 1, "1.5|(cd_04"},
              Case{1.23456, "(dv_04)(cd_01)", 1, "1.2346"},
-             Case{2.5, "(cd_00)", 1, "2."},  // to the even neighbour
-             Case{0.125, "(cd_02)", 1, ".12"},
+             Case{2.5, "(cd_00)", 1, "2."},   // to the even neighbour
              Case{1.26, "(CD_xx)", 1, "1."},  // no number is 0
-             Case{1.5, "(cd_03)(zr_0)", 1, "1.500"},
              Case{1.5, "(cd_03)(zr_°)(fd_06)", 1, " 1.5°°"},
              Case{1.5, "(cd_03)(zr_)", 1, "1.5))"},
-             Case{1.5, "(cd_02)(fd_06)", 1, "  1.5 "},
              Case{12.5, "(fd_04)", 1, "12.5"},
              Case{12.34567, "(fd_05)", 1, "12.35"},
              Case{12.25, "(fd_04)", 1, "12.3"},         // a picture rounds half away from zero
@@ -50,7 +47,8 @@ TEST(Formatta, DirectivesInTheOrderOfTheirSteps) {
              Case{2e20, "(fd_04)(sc_|)", 1, "****|"},
              Case{1.5, "(fs_10)(sc_|)", 1, "1.5       |"},
              Case{1.5, "(fd_06)(fs_10)", 1, "1.5   "},
-             Case{3, "(np_1)", 1, "3"},
+             Case{1.5, "(cd_02)(zr_e)(fd_06)", 1, " .15E1"},  // 1.5e would have fitted
+             Case{3, "(np_0)(np_1)", 1, "3"},
              Case{3, "(fd_05)(np_1)", 1, "    3"},
              Case{3, "(fd_05)(cd_00)(np_1)", 1, "   3 "},
              Case{1.5, "(sc_ kN/m² )", 1, "1.5 kN/m² "},
@@ -58,21 +56,21 @@ TEST(Formatta, DirectivesInTheOrderOfTheirSteps) {
              Case{1.5, "(sc_|", 1, "1.5"},
              Case{1.5, "x(Fd_06)y(cD_02)z", 1, "  1.5 "},
          }) {
-        Messages told;
-        EXPECT_EQ(formatta(c.value, c.directives, c.factor, told), c.text) << c.value << " " << c.directives;
-        EXPECT_THAT(told, testing::IsEmpty()) << c.directives;
+        Messages messages;
+        EXPECT_EQ(formatta(c.value, c.directives, c.factor, messages), c.text) << c.directives;
+        EXPECT_THAT(messages, testing::IsEmpty()) << c.directives;
     }
 }
 
-// Of several mistakes the first step's is told, wherever it stands, and there is no text.
-TEST(Formatta, WrongDirectivesAreTold) {
+// Of several errors the first step's counts, wherever it stands.
+TEST(Formatta, WrongDirectivesGiveNoTextAndOverflowsGiveNothing) {
     const std::string unit = "Stringa di conversione unità di misura non riconosciuta.";
-    const std::string overflow = "Errore numerico: un valore della relazione è troppo grande.";
     struct Case {
         double value;
         const char* directives;
-        std::vector<std::string> told;
-        const char* text = "";
+        std::vector<std::string> errors;
+        std::optional<std::string> text = "";
+        double factor = 1;
     };
     for (const Case& c : std::vector<Case>{
              {1.5, "(cu_xx_yy)(dv_04)(fd_06)", {unit}, "1.5   "},
@@ -84,14 +82,16 @@ TEST(Formatta, WrongDirectivesAreTold) {
              {1.5, "(fd_01)(sc_|)", {"comando (fd_nn) o (fs_nn) errato."}},
              {1.5, "(fs_|)", {"comando (fd_nn) o (fs_nn) errato."}},
              {1.5, "(cu_xx_yy)(fs_xx)", {unit, "comando (fd_nn) o (fs_nn) errato."}},
-             {1e308, "(cu_m_cm)(fd_01)(sc_|)", {overflow}},
+             {1e308, "", {}, std::nullopt, 10},
+             {1e308, "(cs_00)(cu_m_cm)", {}, std::nullopt},
+             {-1.7e308, "(cu_xx_yy)(cs_01)(fd_01)", {unit}, std::nullopt},
          }) {
-        Messages told;
-        EXPECT_EQ(formatta(c.value, c.directives, 1, told), c.text) << c.directives;
         Messages messages;
-        for (const std::string& text : c.told)
-            messages.push_back({Icon::error, "Coltre", text});
-        EXPECT_EQ(told, messages) << c.directives;
+        EXPECT_EQ(formatta(c.value, c.directives, c.factor, messages), c.text) << c.directives;
+        Messages expected;
+        for (const std::string& error : c.errors)
+            expected.push_back({Icon::error, "Coltre", error});
+        EXPECT_EQ(messages, expected) << c.directives;
     }
 }
 
