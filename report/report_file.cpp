@@ -30,7 +30,7 @@ ReportFile::ReportFile(std::string_view suite_path, Messages& messages)
     : m_name(suite_path), m_file(find_path(suite_path)), m_messages(messages) {}
 
 void ReportFile::line(std::string_view utf8) {
-    m_file.write(file_line(utf8));
+    if (m_fault == Fault::none) m_file.write(file_line(utf8));
 }
 
 void ReportFile::heading(const ReportHeading& heading) {
@@ -50,9 +50,10 @@ std::string ReportFile::failure() const {
     return "Impossibile scrivere il file " + m_name + ": " + m_file.reason() + ".";
 }
 
-std::string ReportFile::formatted(double value, std::string_view directives,
-                                  std::string_view conversion) const {
-    return formatta(value, std::string(directives).append(conversion), 1.0, m_messages);
+std::string ReportFile::formatted(double value, std::string_view directives, std::string_view conversion) {
+    const auto text = formatta(value, std::string(directives).append(conversion), 1.0, m_messages);
+    if (!text) m_fault = Fault::numeric_error;
+    return text.value_or(std::string());
 }
 
 }  // namespace coltre

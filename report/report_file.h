@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "engine/checked.h"
 #include "engine/program_cells.h"
 #include "platform/files.h"
 #include "platform/messages.h"
@@ -34,6 +35,7 @@ class ReportFile {
     /// @param suite_path  the report, in the suite's notation
     ReportFile(std::string_view suite_path, Messages& messages);
 
+    /// Writes nothing from a fault() on: the report ends before the line of that number.
     void line(std::string_view utf8);
     void blank_line() { line(std::string_view{}); }
     void heading(const ReportHeading& heading);
@@ -48,14 +50,18 @@ class ReportFile {
     /// well.
     [[nodiscard]] std::string failure() const;
 
-    /// The number through formatta(), with a scale factor of 1.
+    /// Fault::numeric_error once a number was too large for formatted().
+    [[nodiscard]] Fault fault() const { return m_fault; }
+
+    /// The number through formatta(), with a scale factor of 1; empty at a fault().
     [[nodiscard]] std::string formatted(double value, std::string_view directives,
-                                        std::string_view conversion = {}) const;
+                                        std::string_view conversion = {});
 
   private:
     std::string m_name;
     FileReplacement m_file;
     Messages& m_messages;
+    Fault m_fault = Fault::none;
 };
 
 }  // namespace coltre
