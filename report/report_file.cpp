@@ -41,8 +41,6 @@ void ReportFile::heading(const ReportHeading& heading) {
     line("Altitudine [m]:" + display_number_text(heading.altitude));
     line(next_zone("Periodo di Ritorno [anni]:") + display_number_text(heading.return_period));
     blank_line();
-    line(std::string("qsk (carico neve al suolo) = ").append(heading.qsk));
-    blank_line();
 }
 
 std::string ReportFile::failure() const {

@@ -18,7 +18,7 @@ struct ReportData {
     std::span<const std::string> entries;  ///< the texts of the calculation's entries, as typed
 };
 
-/// What both reports say of the site and the calculation in their heading.
+/// What both reports say of the site and the calculation in their heading, before the ground load.
 struct ReportHeading {
     std::string_view unit_caption;  ///< the words before the units: the two reports write them differently
     std::string_view job_name;
@@ -26,7 +26,6 @@ struct ReportHeading {
     SnowZone zone;         ///< printed as its code: deliberate
     double altitude;       ///< m, as typed
     double return_period;  ///< years
-    std::string_view qsk;  ///< formatted ground load
 };
 
 /// A text report while it is written: it takes its place on disk when it is closed.
