@@ -52,13 +52,13 @@ Result perform_line(const LineReader& reader, const Surroundings& surroundings, 
         return result;
     }
     JsonRequest line = read_json_request(reader.line());
-    if (line.mistake.empty()) {
+    if (line.error.empty()) {
         result = perform(line.request, surroundings, memory);
     } else {
         result.kind = line.request.kind;
-        result.error = std::move(line.mistake);
+        result.error = std::move(line.error);
     }
-    result.id = std::move(line.id);
+    result.id = line.id;
     return result;
 }
 
