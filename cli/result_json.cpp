@@ -29,7 +29,8 @@ class ObjectWriter {
 
     /// The name is one of the program's own: nothing in it needs an escape.
     std::string& member(std::string_view name) {
-        m_json += m_json.back() == '{' ? "\"" : ", \"";
+        if (m_json.back() != '{') m_json += ", ";
+        m_json += '"';
         m_json += name;
         m_json += "\": ";
         return m_json;
