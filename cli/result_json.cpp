@@ -1,6 +1,8 @@
+#include <array>
+#include <charconv>
+
 #include "cli/json_text.h"
 #include "cli/result.h"
-#include "text/number_text.h"
 
 namespace coltre::cli {
 
@@ -34,7 +36,13 @@ class ObjectWriter {
         return m_json;
     }
     void text(std::string_view name, std::string_view value) { append_json_string(member(name), value); }
-    void number(std::string_view name, double value) { member(name) += shortest_number_text(value); }
+    /// The shortest text of a finite number; negative zero is written as 0.
+    void number(std::string_view name, double value) {
+        std::array<char, 32> text;
+        const auto [end, error] =
+            std::to_chars(text.data(), text.data() + text.size(), value == 0 ? 0 : value);
+        member(name).append(text.data(), end);
+    }
     void close() { m_json += '}'; }
 
   private:
