@@ -28,11 +28,18 @@ class RequestHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Re
         : m_line(line), m_stream(stream), m_result(result) {}
 
     bool Null() { return literal("null"); }
-    bool Bool(bool value) { return literal(value ? "true" : "false"); }
+    bool Bool(bool value) {
+        const std::string_view text = value ? "true" : "false";
+        if (m_key && m_key->type == KeyType::flag && is_entry()) {
+            m_result.request.set(*m_key, std::string(text));
+            return true;
+        }
+        return literal(text);
+    }
 
     bool RawNumber(const char* /*text*/, std::size_t length, bool /*copy*/) {
         if (!is_entry()) return true;
-        if (m_key && m_key->is_number) {
+        if (m_key && m_key->type == KeyType::number_or_text) {
             m_result.request.set(*m_key, std::string(m_line.substr(m_stream.Tell() - length, length)));
         } else {
             wrong_type("un numero");
@@ -47,6 +54,8 @@ class RequestHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Re
         if (m_is_kind) {
             m_result.request.kind = kind_of(text);
             if (!m_result.request.kind) error("calcolo sconosciuto: " + in_quotes(text));
+        } else if (m_key && m_key->type == KeyType::flag) {
+            wrong_type("un testo");
         } else if (m_key) {
             m_result.request.set(*m_key, std::string(text));
         }
@@ -89,8 +98,11 @@ class RequestHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Re
     void wrong_type(std::string_view what) {
         if (m_is_kind) error("«calcolo» deve essere un testo, non " + std::string(what));
         if (!m_key) return;
-        error(in_quotes(m_key->name) + " deve essere " + (m_key->is_number ? "un numero o " : "") +
-              "un testo, non " + std::string(what));
+        std::string_view expected = "un testo";
+        if (m_key->type == KeyType::number_or_text) expected = "un numero o un testo";
+        if (m_key->type == KeyType::flag) expected = "true o false";
+        error(in_quotes(m_key->name) + " deve essere " + std::string(expected) + ", non " +
+              std::string(what));
     }
 
     /// Whether the value just read, no object and no list, is for the request itself: neither the "id", which

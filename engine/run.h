@@ -53,7 +53,7 @@ class Tracer {
         return Traced::named(std::string(symbol.name), value);
     }
     /// The number of a cell under the symbol of the step that set it. One that no step of this run has set is
-    /// what an earlier calculation left, and a datum as soon as a formula holds it.
+    /// what an earlier calculation left.
     /// @param fallback  its symbol in that case
     Traced stored(double ProgramCells::*cell, double value, Symbol fallback);
     /// Adds the step, and calls the quantity by its symbol from here on.
@@ -69,7 +69,6 @@ class Tracer {
     Condition m_condition{};
     std::string_view m_source;
     std::vector<std::pair<double ProgramCells::*, std::string>> m_cells;  // set by this run, and as what
-    std::vector<Datum> m_left_before;                                     // in no formula so far
 };
 
 /// A calculation while it runs. Until the first fault it sets cells and records results; after it nothing

@@ -11,7 +11,7 @@ Traced Tracer::stored(double ProgramCells::*cell, double value, Symbol fallback)
     const std::string symbol(fallback.name);
     const bool known = std::ranges::find(m_trace.steps, symbol, &Step::symbol) != m_trace.steps.end() ||
                        std::ranges::find(m_trace.data, symbol, &Datum::symbol) != m_trace.data.end();
-    if (!known) m_left_before.push_back({symbol, value, {}, {}});
+    if (!known) m_trace.data.push_back({symbol, value, {}, {}});
     return Traced::named(symbol, value);
 }
 
@@ -19,11 +19,6 @@ Traced Tracer::step(Symbol symbol, Quantity quantity, const Traced& value) {
     // Nothing follows the step that could not be computed.
     if (!m_trace.steps.empty() && !m_trace.steps.back().value) return value;
 
-    std::erase_if(m_left_before, [&](const Datum& datum) {
-        const bool used = value.symbols().find(datum.symbol) != std::string::npos;
-        if (used) m_trace.data.push_back(datum);
-        return used;
-    });
     std::string name(symbol.name);
     if (!symbol.of.empty()) name.append("_").append(symbol.of);
     Step step{.symbol = name,

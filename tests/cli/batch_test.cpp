@@ -2,7 +2,7 @@
 
 #include <streambuf>
 
-#include "cli/json_text.h"
+#include "text/json_text.h"
 #include "tests/cli/run_command.h"
 #include "tests/support/temporary_directory.h"
 

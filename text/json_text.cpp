@@ -1,10 +1,10 @@
-#include "cli/json_text.h"
+#include "text/json_text.h"
 
 #include <algorithm>
 
 #include "text/characters.h"
 
-namespace coltre::cli {
+namespace coltre {
 
 namespace {
 
@@ -61,4 +61,4 @@ void append_json_string(std::string& json, std::string_view text) {
     json += '"';
 }
 
-}  // namespace coltre::cli
+}  // namespace coltre
