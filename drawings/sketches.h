@@ -25,11 +25,12 @@ inline constexpr double drift_end_cut = 5160;    ///< the drift is cut at the en
 /// these.
 void mark_as_pending(Drawing& drawing);
 
-/// A calculation's load cases with the slots of their labels:
+/// A calculation's load cases with the slots of their labels. A load that acts in several places has its
+/// label at the first, and repeats its number at the others:
 ///  - one pitch: carico_1; spor_1 at the eaves
 ///  - two pitches: carico_2 and carico_3 both sides full, carico_4 and carico_5 side 1 halved, carico_6 and
 ///    carico_7 side 2 halved; spor_2 (side 1 full), spor_3 (side 1 halved), spor_4 (side 2 full), spor_5
-///    (side 2 halved) each at the eaves of the arrangement where it first occurs
+///    (side 2 halved) at the eaves
 ///  - several pitches: carico_8 side 1, carico_9 valley, carico_10 side 2
 ///  - cylindrical: carico_11, spor_8, L1output uniform load; carico_12, spor_9, carico_13, spor_10, L2output
 ///    asymmetric load. L1 may come out wider than the roof: its zone is drawn as wide as the roof.

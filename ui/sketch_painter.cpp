@@ -79,10 +79,13 @@ SketchPainter::SketchPainter(const Drawing& drawing, const QRectF& target, Sketc
     : m_drawing(drawing), m_style(std::move(style)) {
     const Rect& page = drawing.page;
     m_scale = std::max(0.0, std::min(target.width() / page.width, target.height() / page.height));
+    m_small =
+        m_style.largest_letters > 0 ? std::min(m_scale, m_style.largest_letters / text_height) : m_scale;
     m_origin = target.center() - m_scale * QPointF(page.x + page.width / 2, page.y + page.height / 2);
 }
 
 void SketchPainter::paint(QPainter& painter) const {
+    if (m_scale <= 0) return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     for (const Shape& shape : m_drawing.shapes)
@@ -95,10 +98,8 @@ void SketchPainter::paint(QPainter& painter) const {
 }
 
 QFont SketchPainter::text_font() const {
-    double letters = text_height * m_scale;
-    if (m_style.largest_letters > 0) letters = std::min(letters, m_style.largest_letters);
     QFont font = m_style.font;
-    font.setPixelSize(std::max(1, static_cast<int>(letters)));
+    font.setPixelSize(std::max(1, static_cast<int>(text_height * m_small)));
     return font;
 }
 
@@ -115,11 +116,7 @@ double SketchPainter::gap() const {
 }
 
 QPen SketchPainter::pen(Role role) const {
-    double growth = m_scale / natural_scale;
-    if (m_style.largest_letters > 0) {
-        growth = std::min(growth, m_style.largest_letters / (text_height * natural_scale));
-    }
-    QPen pen(colour(role, m_style.palette), pen_width(role) * growth);
+    QPen pen(colour(role, m_style.palette), pen_width(role) * m_small / natural_scale);
     pen.setCapStyle(Qt::FlatCap);
     pen.setJoinStyle(Qt::RoundJoin);
     if (role == Role::axis) pen.setDashPattern({9, 4, 2, 4});
@@ -149,7 +146,7 @@ void SketchPainter::paint_shape(QPainter& painter, const Shape& shape) const {
 }
 
 void SketchPainter::paint_arrow(QPainter& painter, const Arrow& arrow) const {
-    const double head = arrow.role == Role::point_load ? 130 : 85;  // twips
+    const double head = (arrow.role == Role::point_load ? 130 : 85) * m_small / m_scale;
     const double length = std::hypot(arrow.to.x - arrow.from.x, arrow.to.y - arrow.from.y);
     if (length <= 0) return;
     const Point along{(arrow.to.x - arrow.from.x) / length, (arrow.to.y - arrow.from.y) / length};
@@ -187,9 +184,10 @@ QRectF SketchPainter::number_rect(const LabelSlot& slot, const QSizeF& number) c
     };
     const double before = room_beside(slot.before);
     const double after = room_beside(slot.after);
-    const QPointF centre = to_pixels(slot.area).center();
-    const double left = centre.x() - (before + number.width() + after) / 2 + before;
-    return {{left, centre.y() - number.height() / 2}, number};
+    const QRectF area = to_pixels(slot.area);
+    const double spare = area.width() - (before + number.width() + after);
+    const double left = slot.align == Align::left ? 0 : slot.align == Align::right ? spare : spare / 2;
+    return {{area.left() + left + before, area.center().y() - number.height() / 2}, number};
 }
 
 void SketchPainter::paint_slot(QPainter& painter, const LabelSlot& slot, const QRectF& number) const {
@@ -201,6 +199,14 @@ void SketchPainter::paint_slot(QPainter& painter, const LabelSlot& slot, const Q
                      upright | Qt::AlignRight, QString::fromStdString(slot.before));
     painter.drawText(QRectF(number.right() + gap(), number.top(), far, number.height()),
                      upright | Qt::AlignLeft, QString::fromStdString(slot.after));
+}
+
+void SketchPainter::paint_number(QPainter& painter, const LabelSlot& slot, const QString& number) const {
+    const QFontMetricsF metrics(text_font(), painter.device());
+    const QRectF place = number_rect(slot, {metrics.horizontalAdvance(number), metrics.height()});
+    paint_slot(painter, slot, place);
+    painter.setPen(m_style.palette.color(QPalette::Text));
+    painter.drawText(place, static_cast<int>(Qt::AlignCenter) | Qt::TextDontClip, number);
 }
 
 }  // namespace coltre
