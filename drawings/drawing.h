@@ -90,6 +90,7 @@ struct LabelSlot {
 struct Drawing {
     Rect page{0, 0, 7500, 4300};
     bool neutral = false;  ///< the entries make no roof: a general shape stands for it, without dimensions
+    bool pending = false;  ///< the numbers of its labels belong to other entries: they are shown in grey
     std::vector<Shape> shapes;
     std::vector<Arrow> arrows;
     std::vector<Text> texts;

@@ -83,11 +83,12 @@ void add_dimensions(Drawing& drawing, const Entries& entries, const LevelChange&
 
 }  // namespace
 
-Drawing level_change_sketch(const Entries& entries, const ProgramCells* loads) {
+Drawing level_change_sketch(const Entries& entries, const ProgramCells* loads, bool drift_length_shown) {
     Drawing drawing;
     drawing.neutral = !is_drawable_length(entries.b1) || !is_drawable_length(entries.b2) ||
                       !is_drawable_length(entries.h) || !is_drawable_pitch(entries.alfa);
-    // The label of the drift length follows the entries even where they cannot be drawn.
+    if (loads != nullptr) drift_length_shown = drift_lies_on_roof(entries, *loads);
+    // The drift follows the entries even where they cannot be drawn.
     const bool cut = drift_is_cut(drift_length(Checked(entries.h)).value(), entries.b2);
     LevelChange shape{entries.b1, entries.b2, entries.h, entries.alfa, cut, {}, {}, {}};
     if (drawing.neutral) shape = {3, cut ? 4.0 : 8.0, 2, 10, cut, {}, {}, {}};
@@ -112,7 +113,7 @@ Drawing level_change_sketch(const Entries& entries, const ProgramCells* loads) {
     if (shape.lower_width.broken) add_slab_break(drawing, {roof_end, level}, {step, level}, slab_thickness);
     add_upper_roof(drawing, entries, shape);
     const double drift_row = level + 390;
-    if (!cut) {
+    if (drift_length_shown) {
         add_horizontal_dimension(drawing, step, drift_end, drift_row, false, Role::drift_length);
         add_line(drawing, Role::drift_length, {drift_end, level + slab_thickness},
                  {drift_end, drift_row + 90});
@@ -128,7 +129,7 @@ Drawing level_change_sketch(const Entries& entries, const ProgramCells* loads) {
     add_slot(drawing, "carico_15", {std::max(drift_end + 60, beside_step), top1 - 260}, Align::left,
              "qs1 =", "kN/m²");
     add_slot(drawing, "lsoutput", {(step + drift_end) / 2, drift_row + 210}, Align::centre, "ls =", "m");
-    drawing.label_slots.back().visible = !cut;
+    drawing.label_slots.back().visible = drift_length_shown;
     return drawing;
 }
 

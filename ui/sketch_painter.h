@@ -6,6 +6,7 @@
 #include <QRectF>
 
 #include "drawings/drawing.h"
+#include "drawings/look.h"
 
 namespace coltre {
 
@@ -34,6 +35,9 @@ class SketchPainter {
     /// Paints a number in its slot, with the texts beside it.
     void paint_number(QPainter& painter, const LabelSlot& slot, const QString& number) const;
 
+    /// The colour of the numbers.
+    [[nodiscard]] QColor number_colour() const;
+
     /// Where a number of this size stands, so that it is aligned in the slot together with its texts.
     [[nodiscard]] QRectF number_rect(const LabelSlot& slot, const QSizeF& number) const;
 
@@ -52,6 +56,7 @@ class SketchPainter {
 
     const Drawing& m_drawing;
     SketchStyle m_style;
+    Inks m_inks;
     double m_scale;  // pixels a twip
     double m_small;  // the same for what the largest letters limit
     QPointF m_origin;

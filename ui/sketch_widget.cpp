@@ -77,12 +77,16 @@ void SketchWidget::place_labels() {
     const SketchPainter sketch = painter_of_size();
     QFont letters = sketch.text_font();
     if (letters.pixelSize() < QFontInfo(font()).pixelSize()) letters = font();
+    QPalette numbers = palette();
+    numbers.setColor(QPalette::WindowText, sketch.number_colour());
+    numbers.setColor(QPalette::Text, sketch.number_colour());
     std::erase_if(m_labels, [](const HostedLabel& it) { return it.label.isNull(); });
     for (const HostedLabel& it : m_labels) {
         const LabelSlot* slot = m_drawing.find_slot(it.slot);
         const bool shown = slot != nullptr && slot->visible;
         if (shown) {
             it.label->setFont(letters);
+            it.label->setPalette(numbers);
             QRect place = sketch.number_rect(*slot, it.label->sizeHint()).toRect();
             // A number wider than its slot stays in sight.
             place.moveLeft(std::clamp(place.left(), 0, std::max(0, width() - place.width())));

@@ -139,12 +139,19 @@ TEST(LevelChangeSketch, DriftIsWholeOrCut) {
          {std::tuple(2., 5., true), std::tuple(2., 5.01, false), std::tuple(4., 8., true),
           std::tuple(4., 8.01, false), std::tuple(100., 15., true), std::tuple(100., 15.01, false),
           std::tuple(4., -1., true), std::tuple(-2., 6., false)}) {
-        const Drawing drawing = level_change(3, b2, h, 10);
-        SCOPED_TRACE(testing::Message() << h << " " << b2);
-        EXPECT_EQ(drawing.find_slot("lsoutput")->visible, !cut);
-        EXPECT_EQ(shapes_of(drawing, Role::drift_length).size(), cut ? 0U : 4U);
-        const std::vector<Shape> drift = shapes_of(drawing, Role::drift_line);
-        EXPECT_DOUBLE_EQ(drift[0].points.back().x, cut ? 5160 : 4680);
+        const Entries entries{.kind = Kind::level_change, .alfa = 10, .b1 = 3, .b2 = b2, .h = h};
+        ProgramCells loads;
+        loads.qsk = 1;
+        ASSERT_FALSE(calculate(loads, entries).end.stopped());
+        // Before a calculation the length of the drift stays as it was.
+        for (const auto& [drawing, shown] :
+             {std::pair(sketch(entries, &loads, cut), !cut), std::pair(sketch(entries, nullptr, true), true),
+              std::pair(sketch(entries, nullptr, false), false)}) {
+            SCOPED_TRACE(testing::Message() << h << " " << b2 << " " << shown);
+            EXPECT_EQ(drawing.find_slot("lsoutput")->visible, shown);
+            EXPECT_EQ(shapes_of(drawing, Role::drift_length).size(), shown ? 4U : 0U);
+            EXPECT_DOUBLE_EQ(shapes_of(drawing, Role::drift_line)[0].points.back().x, cut ? 5160 : 4680);
+        }
     }
 }
 
