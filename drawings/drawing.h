@@ -75,25 +75,28 @@ struct Text {
     Align align{};
 };
 
-/// Where a window puts a result label: the number stands centred in the area between the two texts.
+/// Where a window puts a result label: the number stands between the two texts.
 struct LabelSlot {
     std::string name;    ///< name of the label, "carico_1" for instance
     Rect area;           ///< room for the number and the texts beside it
+    Align align{};       ///< where they stand in it
     std::string before;  ///< symbol, "qs =" for instance
     std::string after;   ///< unit
     bool visible = true;
+    bool repeats = false;  ///< a label stands once: here its number is drawn again
 };
 
 /// A complete sketch. All that it holds lies within the page.
 struct Drawing {
     Rect page{0, 0, 7500, 4300};
     bool neutral = false;  ///< the entries make no roof: a general shape stands for it, without dimensions
+    bool pending = false;  ///< the numbers of its labels belong to other entries: they are shown in grey
     std::vector<Shape> shapes;
     std::vector<Arrow> arrows;
     std::vector<Text> texts;
     std::vector<LabelSlot> label_slots;
 
-    /// The slot of that name, or null.
+    /// The slot where the label of that name stands, or null.
     [[nodiscard]] const LabelSlot* find_slot(const std::string& name) const;
 };
 

@@ -57,7 +57,8 @@ void CalculationTab::follow(const Inputs& now) {
     if (reader.stop())
         for (const Entry& entry : m_description.entries)
             entries.*entry.number = std::numeric_limits<double>::quiet_NaN();
-    Drawing drawing = sketch(entries, calculated ? &m_last->results : nullptr);
+    if (calculated) m_drift_length_shown = drift_lies_on_roof(entries, m_last->results);
+    Drawing drawing = sketch(entries, calculated ? &m_last->results : nullptr, m_drift_length_shown);
     if (!calculated && m_sketch.shows_numbers()) mark_as_pending(drawing);
     m_sketch.set_drawing(std::move(drawing));
 }

@@ -41,11 +41,7 @@ void paint_report(QPainter& painter, const QRectF& target, const Drawing& drawin
         const auto label = labels.find(slot.name);
         // Without a number the symbol and the unit beside it say nothing.
         if (!slot.visible || label == labels.end() || label->second.trimmed().isEmpty()) continue;
-        const QString number = label->second.trimmed();
-        const QFontMetricsF metrics(sketch.text_font(), painter.device());
-        const QRectF place = sketch.number_rect(slot, {metrics.horizontalAdvance(number), metrics.height()});
-        sketch.paint_slot(painter, slot, place);
-        painter.drawText(place, static_cast<int>(Qt::AlignCenter) | Qt::TextDontClip, number);
+        sketch.paint_number(painter, slot, label->second.trimmed());
     }
 }
 

@@ -52,8 +52,13 @@ void check(const Entries& entries, double load) {
     cells.qs_1 = cells.qs_2a = cells.qs_2c = cells.qs_3a = cells.qs_3c = cells.qs_4c = load;
     cells.level_qs1 = cells.wall_qs2 = load;
     cells.qs_2b = cells.qs_3b = cells.qs_4b = cells.level_qs2 = cells.wall_qs1 = load / 2;
-    for (const ProgramCells* loads : {static_cast<const ProgramCells*>(nullptr), &std::as_const(cells)})
-        ASSERT_NO_FATAL_FAILURE(check(sketch(entries, loads)));
+    for (const bool drift_length_shown : {false, true}) {
+        Drawing drawing = sketch(entries, nullptr, drift_length_shown);
+        mark_as_pending(drawing);
+        add_notes(drawing, std::array<std::string, 2>{"α letto come 22", std::string(200, 'W')});
+        ASSERT_NO_FATAL_FAILURE(check(drawing));
+    }
+    ASSERT_NO_FATAL_FAILURE(check(sketch(entries, &cells)));
 }
 
 }  // namespace
