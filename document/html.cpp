@@ -127,7 +127,7 @@ class HtmlWriter {
         m_html += "</tbody></table>\n";
     }
     void operator()(const Figure& figure) {
-        m_html += "<figure>\n" + to_svg(figure.drawing, figure.labels) + "\n";
+        m_html += "<figure>\n" + to_svg(figure.drawing, {figure.labels, figure.caption}) + "\n";
         append_element(m_html, "figcaption", figure.caption);
         m_html += "</figure>\n";
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -85,6 +86,9 @@ struct LabelSlot {
     bool visible = true;
     bool repeats = false;  ///< a label stands once: here its number is drawn again
 };
+
+/// Texts of result labels by the names of their slots, UTF-8.
+using LabelTexts = std::map<std::string, std::string>;
 
 /// A complete sketch. All that it holds lies within the page.
 struct Drawing {

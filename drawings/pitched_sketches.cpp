@@ -140,12 +140,12 @@ Drawing two_pitches_sketch(const Entries& entries, const ProgramCells* loads) {
         double qs1, qs2;
         const char *label1, *label2;
         const char *eaves1, *eaves2;
-        const char* coefficients;
+        const char *mu1, *mu2;
     };
     const std::array<Arrangement, 3> arrangements{{
-        {full1, full2, "carico_2", "carico_3", "spor_2", "spor_4", "µ1(α1)    µ1(α2)"},
-        {half1, full2, "carico_4", "carico_5", "spor_3", "spor_4", "0.5µ1(α1)   µ1(α2)"},
-        {full1, half2, "carico_6", "carico_7", "spor_2", "spor_5", "µ1(α1)   0.5µ1(α2)"},
+        {full1, full2, "carico_2", "carico_3", "spor_2", "spor_4", "µ1(α1)", "µ1(α2)"},
+        {half1, full2, "carico_4", "carico_5", "spor_3", "spor_4", "0.5µ1(α1)", "µ1(α2)"},
+        {full1, half2, "carico_6", "carico_7", "spor_2", "spor_5", "µ1(α1)", "0.5µ1(α2)"},
     }};
     double left = 0;
     for (const Arrangement& it : arrangements) {
@@ -161,7 +161,8 @@ Drawing two_pitches_sketch(const Entries& entries, const ProgramCells* loads) {
                  Align::centre, "qe =", "");
         add_slot(drawing, it.eaves2, {ridge.x + from_ridge, ridge_y + side2.fall + under_eaves},
                  Align::centre, "qe =", "");
-        add_text(drawing, Role::caption, it.coefficients, {ridge.x, 3830}, Align::centre, column - 100);
+        add_text(drawing, Role::caption, it.mu1, {ridge.x - from_ridge, 3830}, Align::centre);
+        add_text(drawing, Role::caption, it.mu2, {ridge.x + from_ridge, 3830}, Align::centre);
         left += column;
     }
     const Point first_ridge{column / 2, ridge_y - 150};

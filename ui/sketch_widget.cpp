@@ -163,10 +163,10 @@ bool SketchWidget::shows_numbers() const {
     return !label_texts().empty();
 }
 
-SlotTexts SketchWidget::label_texts() const {
-    SlotTexts texts;
+LabelTexts SketchWidget::label_texts() const {
+    LabelTexts texts;
     for (const HostedLabel& it : m_labels)
-        if (it.label && it.label->text() != no_number) texts[it.slot] = it.label->text();
+        if (it.label && it.label->text() != no_number) texts[it.slot] = it.label->text().toStdString();
     return texts;
 }
 
