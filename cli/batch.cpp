@@ -1,6 +1,7 @@
 #include "cli/batch.h"
 
 #include <limits>
+#include <new>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -45,15 +46,18 @@ class LineReader {
     bool m_too_long = false;
 };
 
-Result perform_line(const LineReader& reader, const Surroundings& surroundings, SiteMemory& memory) {
+/// @param id  the request's, as soon as it is known
+Result perform_line(const LineReader& reader, const Environment& environment, SiteMemory& memory,
+                    std::string& id) {
     Result result;
     if (reader.too_long()) {
         result.error = "la riga è più lunga di " + std::to_string(LineReader::longest) + " byte";
         return result;
     }
     JsonRequest line = read_json_request(reader.line());
+    id = line.id;
     if (line.mistake.empty()) {
-        result = perform(line.request, surroundings, memory);
+        result = perform(line.request, environment, memory);
     } else {
         result.kind = line.request.kind;
         result.error = std::move(line.mistake);
@@ -62,16 +66,28 @@ Result perform_line(const LineReader& reader, const Surroundings& surroundings, 
     return result;
 }
 
+/// The answer to a line. A lack of memory ends this request alone.
+std::string answer(const LineReader& reader, const Environment& environment, SiteMemory& memory,
+                   bool& some_failed) {
+    std::string id;
+    try {
+        const Result result = perform_line(reader, environment, memory, id);
+        some_failed = some_failed || !result.error.empty();
+        return to_json(result);
+    } catch (const std::bad_alloc&) {
+        some_failed = true;
+        return (id.empty() ? "{" : "{\"id\": " + id + ", ") + "\"errore\": \"memoria esaurita\"}";
+    }
+}
+
 }  // namespace
 
-BatchEnd run_batch(std::istream& in, std::ostream& out, const Surroundings& surroundings) {
+BatchEnd run_batch(std::istream& in, std::ostream& out, const Environment& environment) {
     bool some_failed = false;
     SiteMemory memory;
     LineReader reader(in);
     while (out && reader.next()) {
-        const Result result = perform_line(reader, surroundings, memory);
-        some_failed = some_failed || !result.error.empty();
-        out << to_json(result) << '\n';
+        out << answer(reader, environment, memory, some_failed) << '\n';
         if (in.rdbuf()->in_avail() <= 0) out.flush();
     }
     out.flush();

@@ -71,7 +71,7 @@ SpecialCasesFields special_cases_fields(const Request& request, std::string alti
 
 }  // namespace
 
-Result perform(const Request& request, const Surroundings& surroundings, SiteMemory& memory) {
+Result perform(const Request& request, const Environment& environment, SiteMemory& memory) {
     Result result;
     result.kind = request.kind;
     result.error = find_mistake(request);
@@ -80,7 +80,7 @@ Result perform(const Request& request, const Surroundings& surroundings, SiteMem
     result.misread = misread_entries(request);
 
     Program program;
-    program.directories.ProgramDirectory = surroundings.own_directory;
+    program.directories.ProgramDirectory = environment.own_directory;
     if (const auto& directory = request.value(Key::altitudini)) {
         program.directories.ProgramDirectory = suite_notation(*directory);
     }
@@ -111,7 +111,7 @@ Result perform(const Request& request, const Surroundings& surroundings, SiteMem
 
     const bool special = *request.kind >= Kind::discontinuita;
     ClickOutcome outcome =
-        special ? Calcola2(special_cases_fields(request, altitude, surroundings.decimal_separator), program)
+        special ? Calcola2(special_cases_fields(request, altitude, environment.decimal_separator), program)
                 : Calcola(main_window_fields(request, altitude), program);
     std::ranges::move(outcome.messages, std::back_inserter(result.messages));
     result.calculation = outcome.calculation;

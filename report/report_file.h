@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "engine/program_cells.h"
-#include "platform/files.h"
+#include "platform/file_replacement.h"
 #include "platform/messages.h"
 
 namespace coltre {

@@ -1,9 +1,7 @@
 #include "site/altitude_check.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <optional>
-#include <system_error>
 #include <unordered_set>
 #include <utility>
 
@@ -46,7 +44,6 @@ class Inspection {
     void put(std::string_view bytes);
     void put_field();
 
-    const BuiltInBlocks& m_built_in = BuiltInBlocks::instance();
     FieldReader m_reader;
     std::size_t m_line = 1;
     bool m_after_comma = false;    ///< the field follows a comma in its line
@@ -79,7 +76,7 @@ Inspection::Inspection(std::string_view file) : m_reader(file) {
 }
 
 void Inspection::outside() {
-    const AltitudeBlock* const block = m_built_in.find(m_reader.field());
+    const AltitudeBlock* const block = find_built_in_block(m_reader.field());
     if (block != nullptr) {
         leave();
         if (m_seen.insert(block).second) {
@@ -101,7 +98,7 @@ void Inspection::outside() {
 
 void Inspection::inside() {
     const std::string_view field = m_reader.field();
-    const AltitudeBlock* const header = m_built_in.find(field);
+    const AltitudeBlock* const header = find_built_in_block(field);
     if (header != nullptr && header != m_block) {
         report("manca la riga vuota prima della provincia che segue");
         close();
@@ -177,7 +174,7 @@ void Inspection::finish() {
         put(line_end);
     }
     leave();
-    for (const AltitudeBlock& block : m_built_in.all()) {
+    for (const AltitudeBlock& block : built_in_blocks()) {
         if (m_seen.contains(&block)) continue;
         faults.push_back({0, block.province, "manca la riga con il nome della provincia"});
         put(block.header);
@@ -226,34 +223,29 @@ std::optional<std::string> from_utf8(std::string_view file) {
 
 }  // namespace
 
-std::vector<AltitudeFault> check_altitudes(std::string_view file) {
+AltitudeInspection inspect_altitudes(std::string_view file) {
     const std::optional<std::string> converted = from_utf8(file);
-    std::vector<AltitudeFault> faults = Inspection(converted ? *converted : file).faults;
-    if (converted) faults.push_back({0, {}, "il file è scritto in UTF-8 e non in Windows-1252"});
-    return faults;
-}
-
-std::string repair_altitudes(std::string_view file) {
-    const std::optional<std::string> converted = from_utf8(file);
-    return Inspection(converted ? *converted : file).repaired;
+    Inspection inspection(converted ? *converted : file);
+    if (converted) inspection.faults.push_back({0, {}, "il file è scritto in UTF-8 e non in Windows-1252"});
+    return {std::move(inspection.faults), std::move(inspection.repaired)};
 }
 
 AltitudeFileCheck check_altitude_file(std::string_view ProgramDirectory) {
-    const std::optional<std::string> bytes = read_file(altitude_file_name(ProgramDirectory));
-    if (!bytes) return {{}, "il file manca o non si può leggere"};
-    return {check_altitudes(*bytes), {}};
+    const FileContent file = read_content_at_rest(altitude_file_name(ProgramDirectory));
+    if (file.end == ReadEnd::disturbed) return {file.reason, {}, {}};
+    if (file.end != ReadEnd::read) return {"il file manca o non si può leggere", {}, {}};
+    return {{}, inspect_altitudes(file.bytes).faults, {}};
 }
 
 AltitudeFileCheck repair_altitude_file(std::string_view ProgramDirectory) {
-    const std::string name = altitude_file_name(ProgramDirectory);
-    std::optional<std::string> bytes = read_file(name);
-    std::error_code error;
-    if (!bytes && !std::filesystem::exists(find_path(name), error)) bytes = built_in_altitude_file();
-    if (!bytes) return {{}, "il file non si può leggere"};
-    AltitudeFileCheck check{check_altitudes(*bytes), {}};
-    if (!check.faults.empty())
-        check.failure = replace_altitude_file(ProgramDirectory, repair_altitudes(*bytes));
-    return check;
+    const FileContent file = read_content_at_rest(altitude_file_name(ProgramDirectory));
+    if (file.end == ReadEnd::disturbed) return {file.reason, {}, {}};
+    if (file.end == ReadEnd::unreadable) return {"il file non si può leggere", {}, {}};
+    const bool missing = file.end == ReadEnd::missing;
+    AltitudeInspection inspection = inspect_altitudes(missing ? built_in_altitude_file() : file.bytes);
+    if (inspection.faults.empty()) return {};
+    TableReplacement replaced = replace_altitude_file(ProgramDirectory, inspection.repaired);
+    return {std::move(replaced.failure), std::move(inspection.faults), std::move(replaced.kept_name)};
 }
 
 }  // namespace coltre

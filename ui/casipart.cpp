@@ -4,7 +4,7 @@
 #include <limits>
 #include <utility>
 
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "report/unit_systems.h"
 #include "text/number_reading.h"
 #include "ui/result_display.h"
