@@ -12,6 +12,7 @@
 #include "site/altitude_line.h"
 #include "site/built_in_altitudes.h"
 #include "site/built_in_blocks.h"
+#include "text/characters.h"
 
 namespace coltre {
 
@@ -118,11 +119,13 @@ void Inspection::inside() {
 void Inspection::municipality() {
     const std::string_view field = m_reader.field();
     const std::string_view end = m_reader.ending() == "," ? line_end : m_reader.ending();
-    std::string line(m_reader.raw());
+    std::string_view line = m_reader.raw();
+    std::optional<std::string> reshaped;
     if (const std::string_view fault = line_fault(field); !fault.empty()) {
         if (m_line != m_comma_line) report(fault);
-        if (std::optional<std::string> reshaped = reshaped_line(field)) {
-            line = std::move(*reshaped);
+        reshaped = reshaped_line(field);
+        if (reshaped) {
+            line = *reshaped;
         } else {
             // The header once more would bring the chief town, which often has its name, before its own line.
             const auto known = m_block->line_of.find(first_word(field));
@@ -214,10 +217,18 @@ void Inspection::put_field() {
 /// The file in Windows-1252 if it is in UTF-8, as many editors save it.
 std::optional<std::string> from_utf8(std::string_view file) {
     constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
-    const std::string_view text =
-        file.starts_with(byte_order_mark) ? file.substr(byte_order_mark.size()) : file;
+    const bool has_mark = file.starts_with(byte_order_mark);
+    const std::string_view text = has_mark ? file.substr(byte_order_mark.size()) : file;
+    const auto is_accent = [](char c) { return (static_cast<unsigned char>(c) & 0x80U) != 0; };
+    auto accent = std::ranges::find_if(text, is_accent);
+    if (accent == text.end() && !has_mark) return std::nullopt;
+    while (accent != text.end()) {
+        const std::size_t size = first_character({accent, text.end()}).size();
+        if (size == 1) return std::nullopt;  // no UTF-8: as a rule, an accent of the code page
+        accent = std::find_if(accent + static_cast<std::ptrdiff_t>(size), text.end(), is_accent);
+    }
     std::string bytes = to_code_page(text);
-    if (bytes.size() == file.size() || from_code_page(bytes) != text) return std::nullopt;
+    if (from_code_page(bytes) != text) return std::nullopt;
     return bytes;
 }
 
