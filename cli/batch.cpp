@@ -2,6 +2,7 @@
 
 #include <limits>
 #include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -46,7 +47,9 @@ class LineReader {
     bool m_too_long = false;
 };
 
-Result perform_line(const LineReader& reader, const Surroundings& surroundings, SiteMemory& memory) {
+/// @param id  the request's, as soon as it is known
+Result perform_line(const LineReader& reader, const Environment& environment, SiteMemory& memory,
+                    std::string& id) {
     Result result;
     if (reader.too_long()) {
         result.fail(End::wrong_request,
@@ -54,8 +57,9 @@ Result perform_line(const LineReader& reader, const Surroundings& surroundings, 
         return result;
     }
     JsonRequest line = read_json_request(reader.line());
+    id = line.id;
     if (line.error.empty()) {
-        result = perform(line.request, surroundings, memory);
+        result = perform(line.request, environment, memory);
     } else {
         result.kind = line.request.kind;
         result.fail(End::wrong_request, std::move(line.error));
@@ -64,16 +68,28 @@ Result perform_line(const LineReader& reader, const Surroundings& surroundings, 
     return result;
 }
 
+/// The answer to a line. A lack of memory ends this request alone.
+std::string answer(const LineReader& reader, const Environment& environment, SiteMemory& memory,
+                   bool& some_failed) {
+    std::string id;
+    try {
+        const Result result = perform_line(reader, environment, memory, id);
+        some_failed = some_failed || result.end != End::well;
+        return to_json(result);
+    } catch (const std::bad_alloc&) {
+        some_failed = true;
+        return (id.empty() ? "{" : "{\"id\": " + id + ", ") + "\"errore\": \"memoria esaurita\"}";
+    }
+}
+
 }  // namespace
 
-BatchEnd run_batch(std::istream& in, std::ostream& out, const Surroundings& surroundings) {
+BatchEnd run_batch(std::istream& in, std::ostream& out, const Environment& environment) {
     bool some_failed = false;
     SiteMemory memory;
     LineReader reader(in);
     while (out && reader.next()) {
-        const Result result = perform_line(reader, surroundings, memory);
-        some_failed = some_failed || result.end != End::well;
-        out << to_json(result) << '\n';
+        out << answer(reader, environment, memory, some_failed) << '\n';
         if (in.rdbuf()->in_avail() <= 0) out.flush();
     }
     out.flush();

@@ -13,6 +13,7 @@
 #include "document/illustrated_report.h"
 #include "document/request_line.h"
 #include "platform/date.h"
+#include "platform/file_replacement.h"
 #include "platform/files.h"
 #include "report/unit_systems.h"
 #include "version/version.h"
@@ -54,25 +55,24 @@ void write_illustrated_report(const Request& request, Subject subject, Result& r
         layout_of(request.value_or(keys::impaginazione, "completa")).value_or(Layout::complete);
     const TitleBlock title{.work = request.value_or(keys::lavoro, ""), .date = document_date()};
 
-    std::string failure;
+    Failure failure;
     if (!request.flag(keys::sovrascrivi) && std::filesystem::exists(std::filesystem::symlink_status(path))) {
         failure = "il file esiste già; con «sovrascrivi» viene sostituito";
     } else {
         FileReplacement file(path);
         file.write(to_html(illustrated_report(subject, title, layout)));
-        file.commit();
-        failure = file.reason();
+        failure = file.commit();
     }
-    if (failure.empty()) {
+    if (!failure) {
         result.illustrated_report = path;
     } else if (result.end == End::well) {
-        result.fail(End::failed, "Impossibile scrivere il file " + path + ": " + failure + ".");
+        result.fail(End::failed, "Impossibile scrivere il file " + path + ": " + *failure + ".");
     }
 }
 
 }  // namespace
 
-Result perform(const Request& request, const Surroundings& surroundings, SiteMemory& memory) {
+Result perform(const Request& request, const Environment& environment, SiteMemory& memory) {
     Result result;
     result.kind = request.kind;
     if (std::string error = validation_error(request); !error.empty()) {
@@ -82,7 +82,7 @@ Result perform(const Request& request, const Surroundings& surroundings, SiteMem
     result.partly_understood = partly_understood(request);
 
     Program program;
-    program.directories.ProgramDirectory = surroundings.own_directory;
+    program.directories.ProgramDirectory = environment.own_directory;
     if (const std::string* const directory = request.value(keys::altitudini)) {
         program.directories.ProgramDirectory = suite_notation(*directory);
     }
@@ -114,7 +114,7 @@ Result perform(const Request& request, const Surroundings& surroundings, SiteMem
         }
     }
 
-    const Fields fields = fields_of(request, std::move(altitude), surroundings.decimal_separator);
+    const Fields fields = fields_of(request, std::move(altitude), environment.decimal_separator);
     const bool main_window = describe(fields.kind).window == Window::main;
     if (main_window) {
         if (auto notice = altitude_notice(fields)) result.messages.push_back(std::move(notice->message));

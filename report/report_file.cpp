@@ -1,5 +1,6 @@
 #include "report/report_file.h"
 
+#include "platform/files.h"
 #include "report/formatta_cond.h"
 #include "report/unit_systems.h"
 #include "text/characters.h"
@@ -44,8 +45,8 @@ void ReportFile::heading(const ReportHeading& heading) {
 }
 
 std::string ReportFile::failure() const {
-    if (m_file.good()) return {};
-    return "Impossibile scrivere il file " + m_name + ": " + m_file.reason() + ".";
+    if (!m_file.failure()) return {};
+    return "Impossibile scrivere il file " + m_name + ": " + *m_file.failure() + ".";
 }
 
 std::string ReportFile::formatted(double value, std::string_view directives, std::string_view conversion) {

@@ -6,7 +6,7 @@
 
 #include "engine/checked.h"
 #include "engine/program_cells.h"
-#include "platform/files.h"
+#include "platform/file_replacement.h"
 #include "platform/messages.h"
 
 namespace coltre {

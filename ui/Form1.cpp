@@ -178,22 +178,21 @@ void Form1::province_chosen() {
     m_ui->Zonalabel->setText(qt(zone.caption));
     emit site_changed();
     m_ui->comuneinput->fill({});
-    Messages messages;
-    const auto municipalities =
-        FillMunicipalities(m_program.directories.ProgramDirectory, province, messages);
-    m_dialogs.show(messages);
+    AltitudeNotices notices;
+    const auto municipalities = FillMunicipalities(m_program.directories.ProgramDirectory, province, notices);
+    m_dialogs.show(notices.messages);
     if (!municipalities) return m_dialogs.end();
     m_ui->comuneinput->setEnabled(true);
-    m_ui->comuneinput->fill(municipalities->names);
+    m_ui->comuneinput->fill(*municipalities);
     m_ui->comuneinput->setCurrentIndex(0);
 }
 
 void Form1::municipality_chosen() {
-    Messages messages;
+    AltitudeNotices notices;
     const std::optional<std::string> altitude =
         ReadAltitude(m_program.directories.ProgramDirectory, m_ui->Provinciainput->utf8(),
-                     m_ui->comuneinput->utf8(), messages);
-    m_dialogs.show(messages);
+                     m_ui->comuneinput->utf8(), notices);
+    m_dialogs.show(notices.messages);
     if (!altitude) return m_dialogs.end();
     m_ui->asinput->setText(QString::fromStdString(*altitude));
 }

@@ -9,7 +9,7 @@
 #include <iostream>
 #include <string>
 
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "ui/Form1.h"
 #include "ui/pictures.h"
 #include "ui/qt_dialogs.h"

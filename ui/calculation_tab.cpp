@@ -3,7 +3,7 @@
 #include <limits>
 
 #include "drawings/sketches.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 
 namespace coltre {
 

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "calculate/Calcola2.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "report/unit_systems.h"
 #include "text/number_reading.h"
 #include "ui/window_setup.h"

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QToolTip>
 
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "text/number_reading.h"
 #include "text/number_text.h"
 

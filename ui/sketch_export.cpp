@@ -8,7 +8,7 @@
 #include <QtMath>
 
 #include "drawings/svg.h"
-#include "platform/files.h"
+#include "platform/file_replacement.h"
 #include "ui/sketch_painter.h"
 
 namespace coltre {
@@ -97,8 +97,7 @@ QString replace_file(const QString& path, const QByteArray& content) {
     if (content.isEmpty()) return QStringLiteral("l'immagine non è stata creata");
     FileReplacement file(QFile::encodeName(path).toStdString(), Outlives::power_failure);
     file.write({content.constData(), static_cast<std::size_t>(content.size())});
-    file.commit();
-    return QString::fromStdString(file.reason());
+    return QString::fromStdString(file.commit().value_or(""));
 }
 
 }  // namespace coltre
