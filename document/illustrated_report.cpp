@@ -318,18 +318,16 @@ void Writer::ground_load_diagram() {
             number_text(*m_subject.outcome.altitude) +
             " m; a 1500 m sarebbe qsk = " + with_unit(cells.qsk, area_load) + "."));
     }
-    figure(ground_load_over_altitude(m_subject.zone, factor(), datum("CE"), datum("Ct"),
-                                     *m_subject.outcome.altitude),
-           {}, "qsk in funzione dell'altitudine, " + zone_name(m_subject.zone) + "; il sito è segnato");
+    ProgramCells cells;
+    cells.zone = m_subject.zone;
+    cells.return_period_factor = factor();
+    figure(draw(ground_load_over_altitude(cells, datum("CE"), datum("Ct"), *m_subject.outcome.altitude)), {},
+           "qsk in funzione dell'altitudine, " + zone_name(m_subject.zone) + "; il sito è segnato");
 }
 
 void Writer::shape_coefficient_diagram() {
-    std::vector<double> slopes;
-    if (m_calculation.kind == Kind::one_pitch) slopes = {entries().alfa};
-    if (m_calculation.kind == Kind::two_pitches) slopes = {entries().alfa1, entries().alfa2};
-    if (m_calculation.kind == Kind::several_pitches) slopes = {entries().alfa1, entries().alfa2};
-    if (slopes.empty()) return;
-    figure(shape_coefficients_over_slope(slopes), {}, "coefficienti di forma in funzione dell'inclinazione");
+    if (!is_roof(m_calculation.kind) || m_calculation.kind == Kind::cylindrical) return;
+    figure(shape_coefficient_diagram(entries()), {}, "coefficienti di forma in funzione dell'inclinazione");
 }
 
 void Writer::arrangements() {

@@ -50,6 +50,9 @@ enum class Role {
     axis,          ///< auxiliary lines
     break_mark,    ///< where a part too long or too short for the scale is cut
     caption,       ///< texts beside the drawing
+    curve,         ///< of a diagram
+    other_curve,   ///< of a diagram, to compare with
+    mark,          ///< this roof on a curve
 };
 
 /// A line of straight pieces, or an area when closed.

@@ -33,6 +33,7 @@ Colour colour(Role role, const Inks& inks) {
             return ink;
         case Role::hatch:
         case Role::axis:
+        case Role::other_curve:
             return blend(ink, paper, 0.5);
         case Role::load_area:
         case Role::snow:
@@ -40,8 +41,10 @@ Colour colour(Role role, const Inks& inks) {
         case Role::load_line:
         case Role::load_arrow:
         case Role::drift_line:
+        case Role::curve:
             return snow;
         case Role::point_load:
+        case Role::mark:
             return force;
         case Role::dimension:
         case Role::drift_length:
@@ -61,7 +64,7 @@ Colour symbol_colour(const Drawing& drawing, const Inks& inks) {
 }
 
 bool is_filled(Role role) {
-    return role == Role::load_area || role == Role::snow;
+    return role == Role::load_area || role == Role::snow || role == Role::mark;
 }
 
 double line_width(Role role) {
@@ -69,6 +72,7 @@ double line_width(Role role) {
         case Role::roof:
         case Role::wall:
         case Role::point_load:
+        case Role::curve:
             return 24;
         case Role::drift_line:
             return 22.5;
@@ -76,6 +80,7 @@ double line_width(Role role) {
             return 18;
         case Role::hatch:
         case Role::axis:
+        case Role::other_curve:
             return 10.5;
         default:
             return 13.5;

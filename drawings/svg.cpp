@@ -109,7 +109,8 @@ class SvgWriter {
     }
 
     void write_text(const Text& text) {
-        const double part = std::min(1.0, text.box.width / std::max(text_width(text.text), 1.0));
+        constexpr double usual = 0.9;  // width of a text, of the room that a drawing leaves it
+        const double part = std::min(1.0, text.box.width / std::max(usual * text_width(text.text), 1.0));
         open_text(text.box, text.align, colour(text.role, black_on_white), part * text_height);
         m_svg += escaped(text.text) + "</text>\n";
     }

@@ -5,6 +5,7 @@
 #include <random>
 
 #include "calculate/calculations.h"
+#include "drawings/diagrams.h"
 #include "drawings/sketches.h"
 
 namespace coltre {
@@ -112,7 +113,15 @@ TEST(SketchLayout, HoldsForWhateverIsTyped) {
             for (const Entry& entry : calculation.entries)
                 entries.*entry.number = any();
             ASSERT_NO_FATAL_FAILURE(check(entries, any()));
+            ASSERT_NO_FATAL_FAILURE(check(shape_coefficient_diagram(entries)));
         }
+        ProgramCells cells;
+        cells.zone = static_cast<SnowZone>(i % 4);
+        cells.return_period_factor = i % 3 == 0 ? 1 : any();
+        const auto coefficient = [&] { return i % 2 == 0 ? 1 : any(); };
+        SCOPED_TRACE(i);
+        ASSERT_NO_FATAL_FAILURE(
+            check(draw(ground_load_over_altitude(cells, coefficient(), coefficient(), any()))));
     }
 }
 
