@@ -100,7 +100,10 @@ TEST_F(SitesByName, AreRememberedByDirectoryAndNames) {
     put("altitudini.txt", "first");
     EXPECT_EQ(memory.table(text()).bytes, "first");
     put("altitudini.txt", "second");
-    EXPECT_EQ(memory.table(text()).bytes, "first") << "read once";
+    EXPECT_EQ(memory.table(text()).bytes, "first");
+    std::filesystem::remove(path() / "altitudini.txt");
+    EXPECT_EQ(memory.table(text()).bytes, "first");
+    EXPECT_THAT(files(), testing::IsEmpty()) << "looked for again";
 }
 
 }  // namespace
