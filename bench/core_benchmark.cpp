@@ -22,10 +22,10 @@ struct Ratio {
 };
 
 constexpr Ratio ratios[] = {
-    {"one_pitch", "one_pitch_inline", 3},
-    {"two_pitches", "two_pitches_inline", 3},
-    {"several_pitches", "several_pitches_inline", 3},
-    {"cylindrical", "cylindrical_inline", 3},
+    {"one_pitch", "one_pitch_inline", 2},
+    {"two_pitches", "two_pitches_inline", 2},
+    {"several_pitches", "several_pitches_inline", 2},
+    {"cylindrical", "cylindrical_inline", 2},
     {"formatta_field", "snprintf_field", 4},
     {"unit_command_last_family", "unit_command_first_family", 1.5},
     {"read_altitude_farthest", "read_file_bytes", 3},
