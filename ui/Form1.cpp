@@ -42,11 +42,14 @@ Form1::Form1(Program& program, UserDialogs& dialogs, QWidget* parent)
     m_Timer1.setObjectName("Timer1");
     m_Timer1.setInterval(800);
     m_hints = std::make_unique<Hints>(*m_ui->Label25, m_Timer1);
+    tell_roles_to_screen_readers();
+    fill(*m_ui->udmcombo, unit_items);
+    fill(*m_ui->ComboEsp, exposure_items);
+    QWidget& ground = let_contents_scroll(*this);
     leave_lists_to_clicks_and_keys(*this);
     answer_mnemonics_at_once(*this);
-    fit_to_screen(*this);
     m_tabs = make_tabs(Window::main, *this, m_dialogs);
-    set_up_hints();
+    set_up_hints(ground);
     connect_controls();
 }
 
@@ -90,7 +93,7 @@ void Form1::follow_inputs() {
         tab->follow(inputs(*tab));
 }
 
-void Form1::set_up_hints() {
+void Form1::set_up_hints(QWidget& ground) {
     m_hints->show_over(*m_ui->asinput,
                        tr("Quota del suolo sul livello del mare nel sito di realizzazione dell' edificio, "
                           "ininfluente se minore di 200 m."));
@@ -104,7 +107,7 @@ void Form1::set_up_hints() {
                                           "considerato in caso di copertura aggettante sulle pareti "
                                           "perimetrali."));
     }
-    m_hints->hide_over(*this);
+    m_hints->hide_over(ground);
     m_hints->hide_over(*m_ui->Frame1);
     m_hints->hide_over(*m_ui->Label32);
     m_hints->hide_over(*m_ui->SSTab1);
@@ -123,8 +126,8 @@ bool Form1::load(std::string_view command_line, std::string_view own_directory) 
         return false;
     }
     if (start.caption) setWindowTitle(QString::fromStdString(*start.caption));
-    fill(*m_ui->udmcombo, unit_items, start.unit_item);
-    fill(*m_ui->ComboEsp, exposure_items, start.exposure_item);
+    m_ui->udmcombo->setCurrentIndex(start.unit_item);
+    m_ui->ComboEsp->setCurrentIndex(start.exposure_item);
     report_switched();
 
     std::vector<std::string> names;
@@ -134,6 +137,7 @@ bool Form1::load(std::string_view command_line, std::string_view own_directory) 
     m_ui->regione->setCurrentIndex(start.region_item);
     m_ui->OutputPerRit->setText(qt(display_number_text(m_program.cells.return_period)).trimmed());
     show_return_period_factor();
+    fit_to_screen(*this);
     return true;
 }
 

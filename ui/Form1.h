@@ -51,7 +51,8 @@ class Form1 : public QWidget {
 
   private:
     void connect_controls();
-    void set_up_hints();
+    /// @param ground  of the window, under its controls
+    void set_up_hints(QWidget& ground);
 
     [[nodiscard]] CalculationTab& open_tab() const;
     [[nodiscard]] Inputs inputs(const CalculationTab& tab) const;

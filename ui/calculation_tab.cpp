@@ -33,6 +33,7 @@ CalculationTab::CalculationTab(Kind kind, QWidget& window, UserDialogs& dialogs)
     for (const ResultPlace& place : m_description.places)
         m_labels.push_back(find<ResultLabel>(window, place.label));
 
+    m_sketch.setAccessibleName(tr("Schizzo: %1").arg(qt(m_description.meaning)));
     m_sketch.set_suggested_name(qt(m_description.picture));
     m_sketch.report_error = [&dialogs](const QString& text) {
         dialogs.show({Icon::error, std::string(program_title), text.toStdString()});

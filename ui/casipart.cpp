@@ -31,6 +31,9 @@ casipart::casipart(Program& program, UserDialogs& dialogs, std::function<Fields(
       m_show_ground_load(std::move(show_ground_load)),
       m_ui(std::make_unique<Ui::casipart>()) {
     m_ui->setupUi(this);
+    fill(*m_ui->udmcombo, unit_items);
+    m_ui->udmcombo->setCurrentIndex(first_unit_item(program));
+    let_contents_scroll(*this);
     leave_lists_to_clicks_and_keys(*this);
     answer_mnemonics_at_once(*this);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -40,8 +43,6 @@ casipart::casipart(Program& program, UserDialogs& dialogs, std::function<Fields(
     note_policy.setRetainSizeWhenHidden(true);
     m_ui->Label78->setSizePolicy(note_policy);
     m_ui->Label78->setMinimumHeight(3 * fontMetrics().lineSpacing());
-
-    fill(*m_ui->udmcombo, unit_items, first_unit_item(program));
 
     m_tabs = make_tabs(Window::special_cases, *this, m_dialogs);
     for (const auto& tab : m_tabs)

@@ -11,6 +11,7 @@
 namespace coltre {
 
 NumberField::NumberField(QWidget* parent) : QLineEdit(parent) {
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     connect(this, &QLineEdit::textChanged, this, &NumberField::check);
 }
 

@@ -56,6 +56,33 @@ TEST_F(Start, WindowFitsASmallScreenAndItsMnemonicsAreUnambiguous) {
     }
 }
 
+TEST_F(Start, NothingIsOutOfReachInASmallWindowOrForAScreenReader) {
+    const auto bars = [this] {
+        QApplication::processEvents();
+        const auto& area = *window.findChild<QScrollArea*>();
+        return std::pair(area.horizontalScrollBar()->isVisible(), area.verticalScrollBar()->isVisible());
+    };
+    window.resize(980, 640);
+    EXPECT_EQ(bars(), std::pair(false, false)) << "nothing scrolls at an ordinary size";
+    window.resize(496, 302);  // of a screen of 1024 x 700 at twice the size
+    EXPECT_EQ(bars(), std::pair(true, true));
+    auto& Chiudi = get("Chiudi");
+    get("Calcola").setFocus();
+    for (int i = 0; i < 2; ++i)
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    ASSERT_EQ(window.focusWidget(), &Chiudi) << window.focusWidget()->objectName().toStdString();
+    EXPECT_EQ(Chiudi.visibleRegion().boundingRect(), Chiudi.rect());
+
+    const auto said = [](QWidget& widget) {
+        QAccessibleInterface* const read = QAccessible::queryAccessibleInterface(&widget);
+        return std::pair(read->role(), read->text(QAccessible::Name).toStdString());
+    };
+    EXPECT_EQ(said(window), std::pair(QAccessible::Window, std::string("Coltre - ARCOVIA 15")));
+    EXPECT_EQ(said(get("comuneinput")), std::pair(QAccessible::ComboBox, std::string("Comune")));
+    EXPECT_EQ(said(get("sketch_2")),
+              std::pair(QAccessible::Graphic, std::string("Schizzo: copertura a due falde")));
+}
+
 TEST_F(Start, UnclearTextIsMarkedAndSaysHowItIsRead) {
     auto& Ct = get<NumberField>("TextCTermico");
     type("TextCTermico", "1,5");
