@@ -83,9 +83,27 @@ TEST_F(Start, NothingIsOutOfReachInASmallWindowOrForAScreenReader) {
               std::pair(QAccessible::Graphic, std::string("Schizzo: copertura a due falde")));
 }
 
-TEST_F(Start, UnclearTextIsMarkedAndSaysHowItIsRead) {
+TEST_F(Start, CommaBecomesAPointAndUnclearTextSaysHowItIsRead) {
     auto& Ct = get<NumberField>("TextCTermico");
     type("TextCTermico", "1,5");
+    EXPECT_EQ(Ct.text(), "1.5");
+    Ct.undo();
+    EXPECT_FALSE(Ct.text().contains(','));
+    const auto paste = [&Ct](const char* text) {
+        QApplication::clipboard()->setText(text);
+        Ct.selectAll();
+        Ct.paste();
+        return Ct.text().toStdString();
+    };
+    EXPECT_EQ(paste(" 1,25 m"), " 1.25 m");
+    for (const char* text : {"1,2,3", "1.000,5", ",5", "1,m"})
+        EXPECT_EQ(paste(text), text) << "is no decimal comma for certain";
+    paste("1,5");
+    for (int i = 0; i < 9; ++i)
+        Ct.undo();
+    EXPECT_EQ(Ct.text(), "1.0") << "undo stops at the comma";
+
+    Ct.setText("1,5");
     EXPECT_TRUE(Ct.is_marked());
     EXPECT_EQ(Ct.accessibleDescription(), "letto come 1");
     type("TextCTermico", " 1.5 ");
