@@ -1,5 +1,7 @@
 #include "ui/CoeffEsposizione.h"
 
+#include <QScreen>
+
 #include "ui/pictures.h"
 #include "ui_CoeffEsposizione.h"
 
@@ -10,6 +12,10 @@ CoeffEsposizione::CoeffEsposizione(QWidget* parent)
     m_ui->setupUi(this);
     load_pictures();
     m_ui->Image1->load(":/images/coefficiente_esposizione.svg");
+    // On a small screen smaller, so that its button is within reach.
+    const QSize whole = m_ui->Image1->sizeHint();
+    const QSize room = screen()->availableSize() - QSize(40, 140);
+    m_ui->Image1->setFixedSize(whole.scaled(whole.boundedTo(room), Qt::KeepAspectRatio));
     connect(m_ui->ChiudiButt, &QPushButton::clicked, this, &CoeffEsposizione::close);
 }
 

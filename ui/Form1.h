@@ -35,11 +35,12 @@ class Form1 : public QWidget {
     /// @return false if the program was ended
     bool load(std::string_view command_line, std::string_view own_directory);
 
-    /// The site and the coefficients, which both windows calculate with.
-    [[nodiscard]] Fields site_fields() const;
+    /// The site, the coefficients and the return period, which both windows calculate with.
+    [[nodiscard]] Inputs site() const;
 
     /// `caricosuolo` shows the qsk cell.
-    void show_ground_load();
+    /// @param of  what it was calculated from
+    void show_ground_load(const Inputs& of);
 
   signals:
     /// The site, a coefficient or the return period is another one: numbers shown so far belong to the old
@@ -51,14 +52,15 @@ class Form1 : public QWidget {
 
   private:
     void connect_controls();
-    void set_up_hints();
+    /// @param ground  of the window, under its controls
+    void set_up_hints(QWidget& ground);
 
     [[nodiscard]] CalculationTab& open_tab() const;
     [[nodiscard]] Inputs inputs(const CalculationTab& tab) const;
-    /// All sketches for what is typed and chosen now.
+    /// All sketches, and the ground load, for what is typed and chosen now.
     void follow_inputs();
 
-    /// The factor in force shows over the return period: at the start it is 1, which the 50 years do not
+    /// The factor in force stands under the return period: at the start it is 1, which the 50 years do not
     /// tell.
     void show_return_period_factor();
 
@@ -77,6 +79,7 @@ class Form1 : public QWidget {
     UserDialogs& m_dialogs;
     std::unique_ptr<Ui::Form1> m_ui;
     std::vector<std::unique_ptr<CalculationTab>> m_tabs;
+    std::optional<Inputs> m_ground_load_of;  // nothing before it is shown for the first time
     QTimer m_Timer1{this};
     std::unique_ptr<Hints> m_hints;
     QPointer<QWidget> m_return_period;  // one at a time

@@ -20,6 +20,13 @@ Control* find(QWidget& window, std::string_view name) {
     return control;
 }
 
+/// As the sketches write it: "α1".
+std::string on_sketch(std::string_view symbol) {
+    constexpr std::string_view alfa = "alfa";
+    if (!symbol.starts_with(alfa)) return std::string(symbol);
+    return "α" + std::string(symbol.substr(alfa.size()));
+}
+
 }  // namespace
 
 CalculationTab::CalculationTab(Kind kind, QWidget& window, UserDialogs& dialogs)
@@ -33,6 +40,7 @@ CalculationTab::CalculationTab(Kind kind, QWidget& window, UserDialogs& dialogs)
     for (const ResultPlace& place : m_description.places)
         m_labels.push_back(find<ResultLabel>(window, place.label));
 
+    m_sketch.setAccessibleName(tr("Schizzo: %1").arg(qt(m_description.meaning)));
     m_sketch.set_suggested_name(qt(m_description.picture));
     m_sketch.report_error = [&dialogs](const QString& text) {
         dialogs.show({Icon::error, std::string(program_title), text.toStdString()});
@@ -46,6 +54,16 @@ std::vector<std::string> CalculationTab::texts() const {
     for (const NumberField* field : m_fields)
         texts.push_back(field->utf8());
     return texts;
+}
+
+std::vector<std::string> CalculationTab::notes(const Inputs& now) const {
+    std::vector<std::string> notes;
+    if (m_description.needs_ground_load) notes = now.site_notes;
+    for (std::size_t i = 0; i < m_fields.size(); ++i)
+        if (m_fields[i]->is_marked())
+            notes.push_back(on_sketch(m_description.entries[i].symbol) + ' ' +
+                            m_fields[i]->reading().toStdString());
+    return notes;
 }
 
 void CalculationTab::follow(const Inputs& now) {

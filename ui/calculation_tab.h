@@ -19,8 +19,14 @@ struct Inputs {
     Fields fields;
     SnowZone zone = 0;
     double return_period_factor = 1;
+    /// What is to be known of the site: "sito non scelto: Zona I Alpina".
+    std::vector<std::string> site_notes{};
 
-    bool operator==(const Inputs&) const = default;
+    /// Whether the numbers are the same.
+    bool operator==(const Inputs& other) const {
+        return fields == other.fields && zone == other.zone &&
+               return_period_factor == other.return_period_factor;
+    }
 };
 
 /// A tab or page of a window: the entries of one calculation, its sketch and the labels of its results, found
@@ -36,6 +42,10 @@ class CalculationTab : public QObject {
 
     /// The texts of the entries, as Fields holds them.
     [[nodiscard]] std::vector<std::string> texts() const;
+
+    /// What the sketch is to say of these inputs: what is to be known of the site, where it plays a part, and
+    /// each entry that is not wholly understood ("α letto come 22").
+    [[nodiscard]] std::vector<std::string> notes(const Inputs& now) const;
 
     /// Draws the sketch for what is typed now. Where that is not what was calculated last, the ordinates
     /// follow the shape coefficients, and numbers that are shown are marked as those of other entries.

@@ -22,10 +22,10 @@ class casipart : public QWidget {
 
   public:
     /// Program and dialogs must live as long as the window.
-    /// @param site_fields       the main window's fields as they are at the moment of the call
+    /// @param site              the main window's inputs as they are at the moment of the call
     /// @param show_ground_load  has the main window show the qsk cell, in which this window leaves its own
     ///                          ground load; called whenever results are shown
-    explicit casipart(Program& program, UserDialogs& dialogs, std::function<Fields()> site_fields,
+    explicit casipart(Program& program, UserDialogs& dialogs, std::function<Inputs()> site,
                       std::function<void()> show_ground_load, QWidget* parent = nullptr);
     ~casipart() override;
 
@@ -46,7 +46,7 @@ class casipart : public QWidget {
 
     Program& m_program;
     UserDialogs& m_dialogs;
-    std::function<Fields()> m_site_fields;
+    std::function<Inputs()> m_site;
     std::function<void()> m_show_ground_load;
     std::unique_ptr<Ui::casipart> m_ui;
     std::vector<std::unique_ptr<CalculationTab>> m_tabs;

@@ -12,6 +12,7 @@ class MainCalculation : public MainWindowTest {
   protected:
     /// Whether the sketch says that its numbers belong to other entries.
     bool is_pending(const char* sketch) { return get<SketchWidget>(sketch).drawing().pending; }
+    bool is_grey(const char* label) { return get(label).foregroundRole() == QPalette::PlaceholderText; }
 };
 
 TEST_F(MainCalculation, EachFamilyShowsItsCellsAlone) {
@@ -145,10 +146,27 @@ TEST_F(MainCalculation, SketchSaysWhenItsNumbersAreOfOtherEntries) {
     };
     for (const auto& change : site_changes) {
         click("Calcola");
-        EXPECT_FALSE(is_pending("sketch_4"));
+        EXPECT_FALSE(is_pending("sketch_4") || is_grey("caricosuolo"));
         change();
-        EXPECT_TRUE(is_pending("sketch_4"));
+        EXPECT_TRUE(is_pending("sketch_4") && is_grey("caricosuolo"));
     }
+    click("Calcola");
+    type({{"TextCTermico", "1.2"}, {"hcopcil", "3"}});
+    EXPECT_TRUE(is_pending("sketch_4") && is_grey("caricosuolo"));
+    type({{"TextCTermico", "1.1"}, {"hcopcil", "2"}});
+    EXPECT_FALSE(is_pending("sketch_4") || is_grey("caricosuolo"))
+        << "the entries are the calculated ones again";
+}
+
+TEST_F(MainCalculation, NotesSayWhatIsNotAsItLooks) {
+    CalculationTab tab(Kind::two_pitches, window, dialogs);
+    get<QLineEdit>("inputalfa2").setText("22,5");
+    get<QLineEdit>("TextCTermico").setText("1,1");
+    EXPECT_THAT(tab.notes(window.site()),
+                ElementsAre("sito non scelto: Zona I Alpina", "Ct letto come 1", "α2 letto come 22"));
+    list("Provinciainput").setCurrentText("Cuneo");
+    type({{"inputalfa2", "22,5"}, {"TextCTermico", "1,1"}, {"asinput", "12 m"}});
+    EXPECT_THAT(tab.notes(window.site()), ElementsAre("altitudine: letto come 12"));
 }
 
 TEST_F(MainCalculation, BoxesFieldsAndLabelsComeInTheirOrder) {
