@@ -4,9 +4,11 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
 
 #include "tests/support/sample_document.h"
 #include "ui/document_pdf.h"
+#include "ui/document_text.h"
 
 namespace coltre {
 namespace {
@@ -64,6 +66,31 @@ TEST(DocumentPdf, SameDocumentSameBytesAndTheDateThatIsGiven) {
 
 TEST(DocumentPdf, OfNothingIsAnEmptyPage) {
     EXPECT_TRUE(to_pdf({}).startsWith("%PDF-"));
+}
+
+TEST(DocumentOdt, HoldsTextTablesAndPictures) {
+    const QByteArray odt = to_odt(sample_report());
+    EXPECT_EQ(odt, to_odt(sample_report())) << "the same document gives the same bytes";
+    EXPECT_EQ(odt.mid(38, 39), "application/vnd.oasis.opendocument.text");
+    if (!installed("unzip")) GTEST_SKIP() << "unzip is not installed";
+    QXmlStreamReader content(QString::fromStdString(read_by("unzip", {"-p"}, odt, {"content.xml"})));
+    QStringList pictures;
+    QString text;
+    int cells = 0;
+    while (!content.atEnd()) {
+        content.readNext();
+        if (content.isCharacters()) text += content.text();
+        if (!content.isStartElement()) continue;
+        cells += content.name() == QString("table-cell") ? 1 : 0;
+        if (content.name() == QString("image"))
+            pictures += content.attributes().value("http://www.w3.org/1999/xlink", "href").toString();
+    }
+    EXPECT_FALSE(content.hasError()) << content.errorString().toStdString();
+    EXPECT_EQ(cells, 3 * 2 + 3 * 41 + 2 * 22) << "title block, table and formula lines";
+    EXPECT_TRUE(text.contains("governa 3 · d2a")) << text.toStdString();
+    ASSERT_EQ(pictures.size(), 1);
+    const std::string picture = read_by("unzip", {"-p"}, odt, {pictures[0]});
+    EXPECT_EQ(QImage::fromData(QByteArray::fromStdString(picture)).size(), QSize(1042, 597)) << "200 dpi";
 }
 
 }  // namespace
