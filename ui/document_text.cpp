@@ -9,6 +9,7 @@
 #include <QtEndian>
 #include <QtMath>
 #include <algorithm>
+#include <array>
 #include <numeric>
 
 #include "ui/pagination.h"
@@ -21,13 +22,17 @@ constexpr double screen_dpi = 96;
 constexpr double twips_a_pixel = 1440 / screen_dpi;
 constexpr double mm = screen_dpi / 25.4;
 constexpr double cell_padding = 1.2 * mm;
-constexpr double text_width = 170 * mm;  // of an A4 page as word processors set it up
+constexpr double between_columns = 4 * mm;
+constexpr double paper_width = 170 * mm;  // of an A4 page as word processors set it up
 
 /// Writes the blocks one after the other.
 class TextWriter {
   public:
     TextWriter(QTextDocument& text, const DocumentLook& look, const Flow& flow)
-        : m_text(text), m_cursor(&text), m_look(look), m_flow(flow) {}
+        : m_text(text), m_cursor(&text), m_look(look), m_flow(flow), m_metrics(measures()) {
+        for (std::size_t i = 0; i < m_formats.size(); ++i)
+            m_formats[i] = named(text_format(static_cast<Style>(i), look));
+    }
 
     void operator()(const Heading& heading) {
         QTextBlockFormat format = margins(heading.level <= 2 ? 1.2 : 0.8, 0.3);
@@ -42,32 +47,25 @@ class TextWriter {
         insert(paragraph.pieces);
     }
 
-    /// A formula line after another is one more row of its table.
     void operator()(const FormulaLine& line) {
-        if (m_formulas == nullptr) {
-            QTextTableFormat format = table_format(0.5 * mm);
-            format.setBorder(0);
-            format.setBorderStyle(QTextFrameFormat::BorderStyle_None);
-            constexpr double formula_part = 0.7;
-            if (m_flow.into_file) {
-                set_column_widths(format, {formula_part * text_width, (1 - formula_part) * text_width});
-            } else {
-                format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
-                format.setColumnWidthConstraints(
-                    {QTextLength(QTextLength::PercentageLength, 100 * formula_part),
-                     QTextLength(QTextLength::PercentageLength, 100 * (1 - formula_part))});
-            }
-            m_formulas = insert_table(1, 2, format);
-        } else {
-            m_formulas->appendRows(1);
-        }
-        const int row = m_formulas->rows() - 1;
         Pieces formula = line.formula;
         for (Piece& piece : formula)
             break_before_equals(piece.text);
-        fill(m_formulas->cellAt(row, 0), formula, Qt::AlignLeft);
-        fill(m_formulas->cellAt(row, 1), line.remark, Qt::AlignRight);
-        m_cursor.movePosition(QTextCursor::End);
+        const double both = natural_width(formula, m_metrics) + natural_width(line.remark, m_metrics);
+        const bool side_by_side = both + between_columns <= m_flow.width;
+        QTextBlockFormat format = margins(0.1, 0.1);
+        if (side_by_side) format.setTabPositions({QTextOption::Tab(m_flow.width, QTextOption::RightTab)});
+        begin_block(format);
+        insert(formula);
+        if (line.remark.empty()) return;
+        if (side_by_side) {
+            m_cursor.insertText(QStringLiteral("\t"), {});
+        } else {
+            QTextBlockFormat below = margins(0, 0.1);
+            below.setAlignment(Qt::AlignRight);
+            begin_block(below);
+        }
+        insert(line.remark);
     }
 
     void operator()(const Table& table) {
@@ -75,14 +73,16 @@ class TextWriter {
         const int header_rows = table.header.empty() ? 0 : 1;
         const int rows = header_rows + static_cast<int>(table.rows.size());
         if (rows == 0 || columns == 0) return;
-        QTextTableFormat format = table_format(cell_padding);
+        QTextTableFormat format;
+        format.setCellSpacing(0);
+        format.setCellPadding(cell_padding);
         format.setBorder(1);
         format.setBorderCollapse(true);
         format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
         format.setBorderBrush(QColor(150, 150, 150));
         format.setHeaderRowCount(header_rows);
-        if (m_flow.into_file) set_column_widths(format, column_widths(natural_widths(table), text_width));
-        QTextTable* const grid = insert_table(rows, columns, format);
+        if (m_flow.into_file) set_column_widths(format, column_widths(natural_widths(table), m_flow.width));
+        QTextTable* const grid = m_cursor.insertTable(rows, columns, format);
         for (int row = 0; row < rows; ++row) {
             const bool header = row < header_rows;
             const auto& cells =
@@ -98,7 +98,7 @@ class TextWriter {
 
     void operator()(const Figure& figure) {
         const Rect& page = figure.drawing.page;
-        const double scale = std::min(1 / twips_a_pixel, text_width / page.width);
+        const double scale = std::min(1 / twips_a_pixel, m_flow.width / page.width);
         const QSizeF size(page.width * scale, page.height * scale);
         QImage image((size * m_flow.dots).toSize(), QImage::Format_RGB32);
         image.fill(m_look.paper);
@@ -126,7 +126,7 @@ class TextWriter {
     void operator()(const CodeBlock& code) {
         QTextBlockFormat format = margins(0.3, 0.3);
         format.setLeftMargin(3 * mm);
-        const QTextCharFormat letters = named(text_format(Style::code, m_look));
+        const QTextCharFormat& letters = format_of(Style::code);
         begin_block(format, letters);
         QString text = QString::fromStdString(code.text);
         m_cursor.insertText(text.replace('\n', QChar::LineSeparator), letters);
@@ -141,17 +141,10 @@ class TextWriter {
 
     /// @param above, below  in lines
     [[nodiscard]] QTextBlockFormat margins(double above, double below) const {
-        const double line = QFontMetricsF(m_look.font).height();
+        const double line = m_metrics.height();
         QTextBlockFormat format;
         format.setTopMargin(above * line);
         format.setBottomMargin(below * line);
-        return format;
-    }
-
-    static QTextTableFormat table_format(double padding) {
-        QTextTableFormat format;
-        format.setCellSpacing(0);
-        format.setCellPadding(padding);
         return format;
     }
 
@@ -164,19 +157,28 @@ class TextWriter {
         format.setWidth(std::accumulate(widths.begin(), widths.end(), 0.0) * points_a_pixel);
     }
 
-    [[nodiscard]] std::vector<double> natural_widths(const Table& table) const {
+    /// For texts on a screen, or on paper with the same 96 dots an inch.
+    [[nodiscard]] QFontMetricsF measures(bool bold = false) const {
         QFont font = m_look.font;
-        font.setPixelSize(qCeil(font.pointSizeF() * screen_dpi / 72));
-        font.setBold(true);
-        const QFontMetricsF metrics(font);
+        font.setBold(bold);
+        if (m_flow.into_file) font.setPixelSize(qCeil(font.pointSizeF() * screen_dpi / 72));
+        return QFontMetricsF(font);
+    }
+
+    /// Width in one line, rather too much: without the smaller letters of subscripts and notes.
+    static double natural_width(const Pieces& pieces, const QFontMetricsF& metrics) {
+        QString text;
+        for (const Piece& piece : pieces)
+            text += shown_text(piece);
+        return metrics.horizontalAdvance(text);
+    }
+
+    [[nodiscard]] std::vector<double> natural_widths(const Table& table) const {
+        const QFontMetricsF metrics = measures(true);
         std::vector<double> widths(table.columns.size());
         const auto widen = [&](const std::vector<Pieces>& cells) {
-            for (std::size_t i = 0; i < cells.size(); ++i) {
-                double width = 2 * cell_padding + mm;
-                for (const Piece& piece : cells[i])
-                    width += metrics.horizontalAdvance(shown_text(piece));
-                widths[i] = std::max(widths[i], width);
-            }
+            for (std::size_t i = 0; i < cells.size(); ++i)
+                widths[i] = std::max(widths[i], natural_width(cells[i], metrics) + 2 * cell_padding + mm);
         };
         widen(table.header);
         for (const auto& cells : table.rows)
@@ -187,18 +189,12 @@ class TextWriter {
     /// Begins a paragraph: the empty one that a text begins with and that stands behind a table, or a new
     /// one.
     void begin_block(const QTextBlockFormat& format, const QTextCharFormat& letters = {}) {
-        m_formulas = nullptr;
         if (m_cursor.block().length() > 1) {
             m_cursor.insertBlock(format, letters);
         } else {
             m_cursor.setBlockFormat(format);
             m_cursor.setBlockCharFormat(letters);
         }
-    }
-
-    QTextTable* insert_table(int rows, int columns, const QTextTableFormat& format) {
-        m_formulas = nullptr;
-        return m_cursor.insertTable(rows, columns, format);
     }
 
     void fill(const QTextTableCell& cell, const Pieces& pieces, Qt::Alignment alignment, bool bold = false) {
@@ -219,9 +215,13 @@ class TextWriter {
         return format;
     }
 
+    [[nodiscard]] const QTextCharFormat& format_of(Style style) const {
+        return m_formats[static_cast<std::size_t>(style)];
+    }
+
     void insert(const Pieces& pieces, bool bold = false) {
         for (const Piece& piece : pieces) {
-            QTextCharFormat format = named(text_format(piece.style, m_look));
+            QTextCharFormat format = format_of(piece.style);
             if (bold) format.setFontWeight(QFont::Bold);
             m_cursor.insertText(shown_text(piece), format);
         }
@@ -231,7 +231,8 @@ class TextWriter {
     QTextCursor m_cursor;  // at the end of the text
     const DocumentLook& m_look;
     Flow m_flow;
-    QTextTable* m_formulas = nullptr;  // that the next formula line belongs to
+    QFontMetricsF m_metrics;
+    std::array<QTextCharFormat, static_cast<std::size_t>(Style::blank) + 1> m_formats;  // by Style
     int m_figures = 0;
 };
 
@@ -271,7 +272,8 @@ std::unique_ptr<QTextDocument> flowing_text(const Document& document, const Docu
 
 QByteArray to_odt(const Document& document) {
     const SameOrder same_order;
-    const auto text = flowing_text(document, paper_look(), {.dots = 200 / screen_dpi, .into_file = true});
+    const auto text = flowing_text(document, paper_look(),
+                                   {.width = paper_width, .dots = 200 / screen_dpi, .into_file = true});
     QByteArray content;
     QBuffer buffer(&content);
     buffer.open(QIODevice::WriteOnly);

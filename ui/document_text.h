@@ -11,16 +11,16 @@ namespace coltre {
 
 /// Where a flowing text goes.
 struct Flow {
-    /// Of a figure's picture for each of the text's pixels, of which an inch has 96.
-    double dots = 1;
+    double width = 0;  ///< of the lines, in the text's pixels: an inch has 96
+    double dots = 1;   ///< of a figure's picture for each of those pixels
     /// For Qt's writer of ODT files, which wants the widths of columns as lengths and the font of each piece
-    /// by one name. Otherwise for a window as wide as it may be.
+    /// by one name.
     bool into_file = false;
 };
 
-/// The document as a text that flows: formula lines are rows of a table without a frame, the formula at the
-/// left and its remark at the right; figures are pictures. In a file the header stands before it and the
-/// footer behind it: Qt's writer of ODT files knows no others.
+/// The document as a text that flows. The remark of a formula line stands at the right, below the formula
+/// where there is no room; figures are pictures. In a file the header stands before it and the footer behind
+/// it: Qt's writer of ODT files knows no others.
 std::unique_ptr<QTextDocument> flowing_text(const Document& document, const DocumentLook& look,
                                             const Flow& flow);
 
