@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QHashSeed>
 #include <QPainter>
 #include <QRectF>
 #include <QString>
@@ -33,5 +34,15 @@ QString shown_text(const Piece& piece);
 
 /// Paints a figure's drawing with its labels, as large as fits.
 void paint_figure(QPainter& painter, const QRectF& target, const Figure& figure, const DocumentLook& look);
+
+/// While it lives, Qt's hash tables have the same order in every run: the fonts of a PDF file and the styles
+/// of an ODT file stand in that order.
+class SameOrder {
+  public:
+    SameOrder() { QHashSeed::setDeterministicGlobalSeed(); }
+    ~SameOrder() { QHashSeed::resetRandomGlobalSeed(); }
+    SameOrder(const SameOrder&) = delete;
+    SameOrder& operator=(const SameOrder&) = delete;
+};
 
 }  // namespace coltre

@@ -3,7 +3,6 @@
 #include <QBuffer>
 #include <QDateTime>
 #include <QFontMetricsF>
-#include <QHashSeed>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
@@ -11,7 +10,6 @@
 #include <algorithm>
 #include <functional>
 #include <memory>
-#include <numeric>
 #include <utility>
 
 #include "ui/document_look.h"
@@ -145,21 +143,6 @@ class TextBox {
     std::vector<double> m_tops{0};  // of the lines, and the end of the last
 };
 using SharedText = std::shared_ptr<TextBox>;
-
-/// Widths of columns that together are no wider than the room: those that need less than their share have
-/// what they need, the others share the rest.
-std::vector<double> column_widths(const std::vector<double>& natural, double room) {
-    std::vector<std::size_t> order(natural.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::ranges::sort(order, {}, [&](std::size_t i) { return natural[i]; });
-    std::vector<double> widths(natural.size());
-    std::size_t left = natural.size();
-    for (const std::size_t i : order) {
-        widths[i] = std::min(natural[i], room / static_cast<double>(left--));
-        room -= widths[i];
-    }
-    return widths;
-}
 
 /// A row of a table, ready to be painted.
 struct Row {
@@ -390,16 +373,6 @@ class PdfPages {
     std::vector<FlowItem> m_flow;
     std::vector<ItemPainter> m_painters;  // of the items
     double m_gap_before_next = 0;
-};
-
-/// While it lives, Qt's hash tables have the same order in every run: the fonts of a PDF file stand in that
-/// order.
-class SameOrder {
-  public:
-    SameOrder() { QHashSeed::setDeterministicGlobalSeed(); }
-    ~SameOrder() { QHashSeed::resetRandomGlobalSeed(); }
-    SameOrder(const SameOrder&) = delete;
-    SameOrder& operator=(const SameOrder&) = delete;
 };
 
 /// Puts the given date, or none, where Qt writes that of the clock. The length stays: the file's own table

@@ -1,6 +1,8 @@
 #include "ui/pagination.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <numeric>
 
 namespace coltre {
 
@@ -47,6 +49,19 @@ std::vector<Place> paginate(const std::vector<FlowItem>& items, double page_heig
         }
     }
     return places;
+}
+
+std::vector<double> column_widths(const std::vector<double>& natural, double room) {
+    std::vector<std::size_t> narrow_first(natural.size());
+    std::iota(narrow_first.begin(), narrow_first.end(), std::size_t{0});
+    std::ranges::sort(narrow_first, {}, [&](std::size_t i) { return natural[i]; });
+    std::vector<double> widths(natural.size());
+    std::size_t left = natural.size();
+    for (const std::size_t i : narrow_first) {
+        widths[i] = std::min(natural[i], room / static_cast<double>(left--));
+        room -= widths[i];
+    }
+    return widths;
 }
 
 }  // namespace coltre

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-// Where the parts of a long text stand on its pages. No Qt, no fonts: heights in, places out.
+// Where the parts of a long text stand on its pages. No Qt, no fonts: sizes in, places out.
 namespace coltre {
 
 /// What is never split: a line of text, a row of a table, a figure with its caption. Lengths in one unit.
@@ -23,5 +23,10 @@ struct Place {
 /// taller than it; an item taller than a page has one to itself and reaches over its end.
 /// @return a place for each item
 std::vector<Place> paginate(const std::vector<FlowItem>& items, double page_height);
+
+/// Widths of columns that together are no wider than the room: those that need less than their share have
+/// what they need, the others share the rest.
+/// @param natural  what each needs not to break its texts
+std::vector<double> column_widths(const std::vector<double>& natural, double room);
 
 }  // namespace coltre
