@@ -78,6 +78,7 @@ void CalculationTab::follow(const Inputs& now) {
     if (calculated) m_drift_length_shown = drift_lies_on_roof(entries, m_last->results);
     Drawing drawing = sketch(entries, calculated ? &m_last->results : nullptr, m_drift_length_shown);
     if (!calculated && m_sketch.shows_numbers()) mark_as_pending(drawing);
+    add_notes(drawing, notes(now));
     m_sketch.set_drawing(std::move(drawing));
 }
 
