@@ -15,6 +15,7 @@ namespace coltre {
 StepsWindow::StepsWindow(QWidget* parent)
     : QDialog(parent, Qt::Window), m_ui(std::make_unique<Ui::StepsWindow>()) {
     m_ui->setupUi(this);
+    m_ui->passaggi->setPlainText(QString::fromUtf8(no_calculation_yet.data()));
     m_ui->passaggi->viewport()->installEventFilter(this);
     answer_mnemonics_at_once(*this);
     fit_to_screen(*this);

@@ -4,6 +4,7 @@
 #include <QTextDocument>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 #include "document/document.h"
 
@@ -12,6 +13,9 @@ namespace coltre {
 namespace Ui {
 class StepsWindow;
 }
+
+/// What stands in place of steps and of a report before the first calculation.
+inline constexpr std::string_view no_calculation_yet = "Nessun calcolo eseguito: premere Calcola.";
 
 /// The window "Passaggi del calcolo": how the results came about, formula by formula. It is not modal; its
 /// owner hands it the document of each calculation, whether it is open or not.
