@@ -327,7 +327,7 @@ void Writer::ground_load_diagram() {
 
 void Writer::shape_coefficient_diagram() {
     if (!is_roof(m_calculation.kind) || m_calculation.kind == Kind::cylindrical) return;
-    figure(shape_coefficient_diagram(entries()), {}, "coefficienti di forma in funzione dell'inclinazione");
+    figure(coltre::shape_coefficient_diagram(entries()), {}, "coefficienti di forma in funzione dell'inclinazione");
 }
 
 void Writer::arrangements() {
