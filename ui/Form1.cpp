@@ -138,7 +138,7 @@ bool Form1::load(std::string_view command_line, std::string_view own_directory) 
     m_ui->regione->setCurrentIndex(start.region_item);
     m_ui->OutputPerRit->setText(qt(display_number_text(m_program.cells.return_period)).trimmed());
     show_return_period_factor();
-    fit_to_screen(*this);
+    m_menus.add_to(*this, [this]() -> CalculationTab& { return open_tab(); });
     return true;
 }
 
@@ -240,6 +240,8 @@ void Form1::special_cases_clicked() {
     auto* window = new casipart(
         m_program, m_dialogs, [this] { return site(); }, [this] { show_ground_load(site()); }, this);
     connect(this, &Form1::site_changed, window, &casipart::follow_inputs);
+    connect(window, &casipart::report_written, &m_menus, &Menus::remember_report);
+    m_menus.add_to(*window, [window]() -> CalculationTab& { return window->open_tab(); });
     m_special_cases = window;
     window->show();
 }
@@ -259,17 +261,15 @@ void Form1::calculate_clicked() {
     const WidthLabels widths = width_labels(outcome.calculation);
     if (widths.L1output) m_ui->L1output->setText(QString::fromStdString(*widths.L1output));
     if (widths.L2output) m_ui->L2output->setText(QString::fromStdString(*widths.L2output));
+    m_menus.remember_report(outcome.report);
     m_dialogs.show(outcome.messages);
     if (!outcome.complete) return;
-    tab.show_results(m_program.cells, calculated);
+    tab.show_results(outcome.calculation, m_program.cells, calculated);
     show_ground_load(calculated_site);  // the altitude field may hold another altitude by now
 }
 
 void Form1::information_clicked() {
-    std::string text;
-    for (const std::string_view line : maker_lines)
-        text.append(text.empty() ? "" : "\r").append(line);
-    m_dialogs.show({Icon::information, std::string(program_title), text});
+    m_dialogs.show({Icon::information, std::string(program_title), maker_text()});
 }
 
 }  // namespace coltre

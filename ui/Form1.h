@@ -10,6 +10,7 @@
 #include "startup/program.h"
 #include "ui/calculation_tab.h"
 #include "ui/hints.h"
+#include "ui/menus.h"
 #include "ui/user_dialogs.h"
 
 namespace coltre {
@@ -79,6 +80,7 @@ class Form1 : public QWidget {
     UserDialogs& m_dialogs;
     std::unique_ptr<Ui::Form1> m_ui;
     std::vector<std::unique_ptr<CalculationTab>> m_tabs;
+    Menus m_menus{*this, m_program, m_dialogs};
     std::optional<Inputs> m_ground_load_of;  // nothing before it is shown for the first time
     QTimer m_Timer1{this};
     std::unique_ptr<Hints> m_hints;

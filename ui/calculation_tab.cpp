@@ -1,5 +1,6 @@
 #include "ui/calculation_tab.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "drawings/sketches.h"
@@ -82,13 +83,31 @@ void CalculationTab::follow(const Inputs& now) {
     m_sketch.set_drawing(std::move(drawing));
 }
 
-void CalculationTab::show_results(const ProgramCells& results, const Inputs& inputs) {
+void CalculationTab::show_results(const Calculation& calculation, const ProgramCells& results,
+                                  const Inputs& inputs) {
     for (std::size_t i = 0; i < m_labels.size(); ++i) {
         const ResultCell& result = *m_description.places[i].result;
         m_labels[i]->show_number(results.*result.cell, result.quantity.decimals);
     }
-    m_last = {inputs, results};
+    m_last = {inputs, results, calculation};
     follow(inputs);
+}
+
+std::vector<ShownResult> CalculationTab::shown_results() const {
+    if (!m_last) return {};
+    std::vector<ShownResult> shown;
+    if (m_description.needs_ground_load)
+        shown.push_back({tr("Carico neve al suolo qsk"), m_last->results.qsk, quantities::area_load});
+    for (std::size_t i = 0; i < m_labels.size(); ++i) {
+        const ResultCell& cell = *m_description.places[i].result;
+        const QString description = m_labels[i]->accessibleDescription();  // ends with ", in kN/m²"
+        shown.push_back(
+            {description.left(description.lastIndexOf(", in ")), m_last->results.*cell.cell, cell.quantity});
+    }
+    for (const auto& [cell, value] : m_last->calculation.results)
+        if (std::ranges::find(m_description.places, cell, &ResultPlace::result) == m_description.places.end())
+            shown.push_back({qt(cell->name), value, cell->quantity});
+    return shown;
 }
 
 std::vector<std::unique_ptr<CalculationTab>> make_tabs(Window which, QWidget& window, UserDialogs& dialogs) {

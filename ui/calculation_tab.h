@@ -9,6 +9,7 @@
 #include "calculate/click.h"
 #include "ui/number_field.h"
 #include "ui/result_label.h"
+#include "ui/results_copy.h"
 #include "ui/sketch_widget.h"
 #include "ui/user_dialogs.h"
 
@@ -39,6 +40,7 @@ class CalculationTab : public QObject {
     CalculationTab(Kind kind, QWidget& window, UserDialogs& dialogs);
 
     [[nodiscard]] Kind kind() const { return m_description.kind; }
+    [[nodiscard]] const SketchWidget& sketch_widget() const { return m_sketch; }
 
     /// The texts of the entries, as Fields holds them.
     [[nodiscard]] std::vector<std::string> texts() const;
@@ -52,7 +54,11 @@ class CalculationTab : public QObject {
     void follow(const Inputs& now);
 
     /// Shows the results of a calculation in labels and sketch.
-    void show_results(const ProgramCells& results, const Inputs& inputs);
+    void show_results(const Calculation& calculation, const ProgramCells& results, const Inputs& inputs);
+
+    /// What show_results() showed last: the ground load where it plays a part, the labels in the order of the
+    /// row's places, then what the calculation gave besides, under its symbol. Nothing before.
+    [[nodiscard]] std::vector<ShownResult> shown_results() const;
 
   signals:
     /// Something else is typed in one of the fields.
@@ -67,6 +73,7 @@ class CalculationTab : public QObject {
     struct Calculated {
         Inputs inputs;
         ProgramCells results;
+        Calculation calculation;
     };
     std::optional<Calculated> m_last;
     bool m_drift_length_shown = true;  // of a level change; moves with its calculations alone

@@ -120,8 +120,9 @@ void casipart::calculate_clicked() {
     // The labels are refreshed before the message about the report.
     if (outcome.complete) {
         m_show_ground_load();
-        tab.show_results(m_program.cells, inputs(tab));
+        tab.show_results(outcome.calculation, m_program.cells, inputs(tab));
     }
+    emit report_written(outcome.report);
     m_dialogs.show(outcome.messages);
 }
 

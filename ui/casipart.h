@@ -32,6 +32,13 @@ class casipart : public QWidget {
     /// All sketches for what is typed here and chosen in the main window now.
     void follow_inputs();
 
+    [[nodiscard]] CalculationTab& open_tab() const;
+
+  signals:
+    /// A calculation ended.
+    /// @param suite_path  the report that it wrote; empty if it wrote none
+    void report_written(const std::string& suite_path);
+
   protected:
     /// Enter calculates, wherever the focus is but on a button.
     void keyPressEvent(QKeyEvent* event) override;
@@ -41,7 +48,6 @@ class casipart : public QWidget {
     void report_switched();
     void calculate_clicked();
 
-    [[nodiscard]] CalculationTab& open_tab() const;
     [[nodiscard]] Inputs inputs(const CalculationTab& tab) const;
 
     Program& m_program;
