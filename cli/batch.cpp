@@ -1,9 +1,9 @@
 #include "cli/batch.h"
 
 #include <limits>
+#include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "cli/json_request.h"
 
@@ -14,12 +14,13 @@ namespace {
 /// Lines of a stream, in memory that does not grow with the length of a line.
 class LineReader {
   public:
-    explicit LineReader(std::istream& in) : m_in(in), m_buffer(longest + 1) {}
+    explicit LineReader(std::istream& in)
+        : m_in(in), m_buffer(std::make_unique_for_overwrite<char[]>(longest + 1)) {}
 
     /// Reads the next line.
     /// @return false at the end of the stream
     bool next() {
-        m_in.getline(m_buffer.data(), static_cast<std::streamsize>(m_buffer.size()));
+        m_in.getline(m_buffer.get(), static_cast<std::streamsize>(longest + 1));
         const auto taken = static_cast<std::size_t>(m_in.gcount());
         m_too_long = m_in.fail() && taken == longest;
         if (m_too_long) {
@@ -29,7 +30,7 @@ class LineReader {
             return false;
         }
         // getline counts the line end that it takes away; the last line may have none.
-        m_line = {m_buffer.data(), m_in.eof() || m_too_long ? taken : taken - 1};
+        m_line = {m_buffer.get(), m_in.eof() || m_too_long ? taken : taken - 1};
         return true;
     }
 
@@ -40,7 +41,7 @@ class LineReader {
 
   private:
     std::istream& m_in;
-    std::vector<char> m_buffer;
+    std::unique_ptr<char[]> m_buffer;
     std::string_view m_line;
     bool m_too_long = false;
 };
@@ -53,13 +54,13 @@ Result perform_line(const LineReader& reader, const Surroundings& surroundings, 
         return result;
     }
     JsonRequest line = read_json_request(reader.line());
-    if (line.mistake.empty()) {
+    if (line.error.empty()) {
         result = perform(line.request, surroundings, memory);
     } else {
         result.kind = line.request.kind;
-        result.fail(End::wrong_request, std::move(line.mistake));
+        result.fail(End::wrong_request, std::move(line.error));
     }
-    result.id = std::move(line.id);
+    result.id = line.id;
     return result;
 }
 

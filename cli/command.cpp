@@ -97,6 +97,11 @@ struct Choice {
 /// Every option takes the one text behind it, whatever that looks like, and is given once.
 void add_options(CLI::App& command, const Description& calculation, Choice& choice) {
     const auto add = [&](const Key& key) {
+        if (key.type == KeyType::flag) {
+            command.add_flag_callback("--" + std::string(key.name),
+                                      [&choice, key] { choice.request.set(key, "true"); });
+            return;
+        }
         const auto take = [&choice, key](const std::vector<std::string>& values) {
             if (values.size() > 1)
                 choice.mistake = "l'opzione --" + std::string(key.name) + " è data più volte";

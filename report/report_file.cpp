@@ -30,7 +30,7 @@ ReportFile::ReportFile(std::string_view suite_path, Messages& messages)
     : m_name(suite_path), m_file(find_path(suite_path)), m_messages(messages) {}
 
 void ReportFile::line(std::string_view utf8) {
-    m_file.write(file_line(utf8));
+    if (m_fault == Fault::none) m_file.write(file_line(utf8));
 }
 
 void ReportFile::heading(const ReportHeading& heading) {
@@ -41,8 +41,6 @@ void ReportFile::heading(const ReportHeading& heading) {
     line("Altitudine [m]:" + display_number_text(heading.altitude));
     line(next_zone("Periodo di Ritorno [anni]:") + display_number_text(heading.return_period));
     blank_line();
-    line(std::string("qsk (carico neve al suolo) = ").append(heading.qsk));
-    blank_line();
 }
 
 std::string ReportFile::failure() const {
@@ -50,9 +48,10 @@ std::string ReportFile::failure() const {
     return "Impossibile scrivere il file " + m_name + ": " + m_file.reason() + ".";
 }
 
-std::string ReportFile::formatted(double value, std::string_view directives,
-                                  std::string_view conversion) const {
-    return formatta(value, std::string(directives).append(conversion), 1.0, m_messages);
+std::string ReportFile::formatted(double value, std::string_view directives, std::string_view conversion) {
+    const auto text = formatta(value, std::string(directives).append(conversion), 1.0, m_messages);
+    if (!text) m_fault = Fault::numeric_error;
+    return text.value_or(std::string());
 }
 
 }  // namespace coltre

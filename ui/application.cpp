@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QLibraryInfo>
+#include <QSettings>
 #include <QTranslator>
 #include <cstdlib>
 #include <iostream>
@@ -69,6 +70,8 @@ int run(int argc, char** argv) {
         qWarning().noquote() << message;
 
     QApplication::setApplicationName("coltre");
+    // Nothing is kept between runs: file dialogs would leave the files last saved in ~/.config/QtProject.conf.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     // Menus of text fields and file dialogs in Italian, whatever the locale. Where Qt's translations are not
     // installed these stay English; the message boxes bring their own words.
     QTranslator italian;

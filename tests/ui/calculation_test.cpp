@@ -1,3 +1,4 @@
+#include "calculate/Calcola.h"
 #include "tests/ui/window_test.h"
 
 namespace coltre {
@@ -148,6 +149,28 @@ TEST_F(MainCalculation, SketchSaysWhenItsNumbersAreOfOtherEntries) {
         change();
         EXPECT_TRUE(is_pending("sketch_4"));
     }
+}
+
+TEST_F(MainCalculation, BoxesFieldsAndLabelsComeInTheirOrder) {
+    choose_tab(3);
+    click("Check1Box");
+    type("asinput", "1600");
+    std::vector<std::string> seen;
+    dialogs.while_shown = [&] {
+        seen.push_back(field("asinput") + "|" + text("L1output") + text("L2output") + "|" +
+                       text("caricosuolo"));
+    };
+    dialogs.expect(Icon::information, altitude_notice({.asinput = "1600"})->message.text);
+    dialogs.expect(Icon::none, "Creazione della relazione " + directory.text() + "\\coltre.txt effettuata");
+    click("Calcola");
+    EXPECT_THAT(seen, ElementsAre("1600|––|–", " 1500| 12.56 3.14 [m]|–"));
+    EXPECT_EQ(text("caricosuolo"), " 8.1042");
+
+    seen.clear();
+    type({{"TextCTermico", "0"}, {"Lcopcil", "20"}});  // R = 26, L1 = 45.03
+    dialogs.expect_stop("divisione per zero.\rNon si può calcolare qe_4a.\rIl carico neve al suolo qsk è 0.");
+    click("Calcola");
+    EXPECT_THAT(seen, ElementsAre(" 1500| 45.03 11.26 [m]| 8.1042"));
 }
 
 }  // namespace
