@@ -1,6 +1,6 @@
 #include "ui/CoeffEsposizione.h"
 
-#include "ui/pictures.h"
+#include "drawings/exposure_table.h"
 #include "ui_CoeffEsposizione.h"
 
 namespace coltre {
@@ -8,8 +8,7 @@ namespace coltre {
 CoeffEsposizione::CoeffEsposizione(QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::CoeffEsposizione>()) {
     m_ui->setupUi(this);
-    load_pictures();
-    m_ui->Image1->load(":/images/coefficiente_esposizione.svg");
+    m_ui->Image1->set_drawing(exposure_table());
     connect(m_ui->ChiudiButt, &QPushButton::clicked, this, &CoeffEsposizione::close);
 }
 

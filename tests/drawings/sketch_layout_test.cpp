@@ -6,6 +6,7 @@
 
 #include "calculate/calculations.h"
 #include "drawings/diagrams.h"
+#include "drawings/exposure_table.h"
 #include "drawings/sketches.h"
 
 namespace coltre {
@@ -83,6 +84,10 @@ TEST(SketchLayout, HoldsForAllPitchesAndVaults) {
     }
     for (const double by_width : {0.5, 0.45, 0.25, 0.1, 0.01, 0.001, 0.51})
         ASSERT_NO_FATAL_FAILURE(check({.kind = Kind::cylindrical, .L = 123.45, .H = 123.45 * by_width}, 1.2));
+}
+
+TEST(SketchLayout, HoldsForTheExposureTable) {
+    check(exposure_table());
 }
 
 TEST(SketchLayout, HoldsForAllStepsAndWalls) {
