@@ -326,8 +326,10 @@ void Writer::ground_load_diagram() {
 }
 
 void Writer::shape_coefficient_diagram() {
-    if (!is_roof(m_calculation.kind) || m_calculation.kind == Kind::cylindrical) return;
-    figure(coltre::shape_coefficient_diagram(entries()), {}, "coefficienti di forma in funzione dell'inclinazione");
+    const Kind kind = m_calculation.kind;
+    if (kind != Kind::one_pitch && kind != Kind::two_pitches && kind != Kind::several_pitches) return;
+    figure(shape_coefficients_over_slope(entries()), {},
+           "coefficienti di forma in funzione dell'inclinazione");
 }
 
 void Writer::arrangements() {

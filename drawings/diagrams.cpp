@@ -134,7 +134,7 @@ void add_names(Drawing& drawing, const Axes& axes, std::vector<std::pair<double,
 
 }  // namespace
 
-Drawing draw(const AltitudeDiagram& diagram) {
+Drawing load_over_altitude(const AltitudeDiagram& diagram) {
     Drawing drawing;
     const Sampled site = sample(diagram.site);
     std::vector<Sampled> others;
@@ -183,13 +183,14 @@ Drawing draw(const AltitudeDiagram& diagram) {
     return drawing;
 }
 
-AltitudeDiagram ground_load_over_altitude(const ProgramCells& cells, double CE, double Ct, double altitude) {
-    const auto curve_of = [&](SnowZone zone) {
-        std::string_view name = zone_caption(zone);  // in brackets
+Drawing ground_load_over_altitude(SnowZone zone, double factor, double CE, double Ct, double altitude) {
+    const auto curve_of = [&](SnowZone code) {
+        std::string_view name = zone_caption(code);  // in brackets
         name.remove_prefix(1);
         name.remove_suffix(1);
-        ProgramCells of_zone = cells;
-        of_zone.zone = zone;
+        ProgramCells of_zone;
+        of_zone.zone = code;
+        of_zone.return_period_factor = factor;
         return AltitudeCurve{std::string(name), [of_zone, CE, Ct](double as) -> std::optional<double> {
                                  ProgramCells result = of_zone;
                                  if (set_base_load(result, as) != Fault::none ||
@@ -198,13 +199,13 @@ AltitudeDiagram ground_load_over_altitude(const ProgramCells& cells, double CE, 
                                  return result.qsk;
                              }};
     };
-    AltitudeDiagram diagram{"qsk", altitude, curve_of(cells.zone), {}};
-    for (SnowZone zone = 0; zone < 4; ++zone)
-        if (zone != cells.zone) diagram.others.push_back(curve_of(zone));
-    return diagram;
+    AltitudeDiagram diagram{"qsk", altitude, curve_of(zone), {}};
+    for (SnowZone other = 0; other < 4; ++other)
+        if (other != zone) diagram.others.push_back(curve_of(other));
+    return load_over_altitude(diagram);
 }
 
-Drawing shape_coefficient_diagram(const Entries& entries) {
+Drawing shape_coefficients_over_slope(const Entries& entries) {
     Drawing drawing;
     const Axes axes{{900, 640, 5600, 2920}, 90, 10, 1.6, 0.2};
     add_axes(drawing, axes, "inclinazione della falda α [°]", "µ1, µ2");

@@ -28,16 +28,16 @@ struct AltitudeDiagram {
 
 /// Draws it with the limits of the rule, 200 and 1500 m. A load that is nowhere positive leaves the diagram
 /// neutral: it has no scale.
-Drawing draw(const AltitudeDiagram& diagram);
+Drawing load_over_altitude(const AltitudeDiagram& diagram);
 
-/// The ground load, as the calculation computes it, in the zone of the cells and in the other three.
-/// @param cells     zone and return period factor
+/// The ground load, as the calculation computes it, in the zone of the site and in the other three.
+/// @param factor    of the return period
 /// @param CE, Ct    coefficients of the site
 /// @param altitude  of the site, m
-AltitudeDiagram ground_load_over_altitude(const ProgramCells& cells, double CE, double Ct, double altitude);
+Drawing ground_load_over_altitude(SnowZone zone, double factor, double CE, double Ct, double altitude);
 
-/// mu1 and mu2 over the pitches from 0 to 90 degrees, with those of the roof marked: its pitches on mu1, and
+/// mu1 and mu2 over the slopes from 0 to 90 degrees, with those of the roof marked: its pitches on mu1, and
 /// on mu2 the mean of several pitches. Pitches beyond, and calculations that have none, are not marked.
-Drawing shape_coefficient_diagram(const Entries& entries);
+Drawing shape_coefficients_over_slope(const Entries& entries);
 
 }  // namespace coltre

@@ -1,7 +1,7 @@
 # Debian packages that the scripts install where they are missing. Sourced, not run.
 
 # To build and run the program.
-program_packages=(g++ cmake ninja-build libcli11-dev rapidjson-dev qt6-base-dev qt6-svg-dev qt6-translations-l10n
+program_packages=(g++ cmake ninja-build libcli11-dev rapidjson-dev qt6-base-dev qt6-translations-l10n
     cmark-gfm)
 
 # To run all checks besides.

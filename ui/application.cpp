@@ -79,7 +79,7 @@ int run(int argc, char** argv) {
     if (italian.load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&italian);
     load_pictures();
-    QApplication::setWindowIcon(QIcon(":/images/coltre.svg"));
+    QApplication::setWindowIcon(QIcon(":/images/coltre.png"));
 
     Program program;
     QtDialogs dialogs;

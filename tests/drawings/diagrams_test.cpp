@@ -39,10 +39,7 @@ std::vector<std::string> texts(const Drawing& drawing) {
 // By hand, zone II with factors 0.5, 1.1 and 1: 0.55 up to 200 m; at 1000 m 0.85 (1 + (1000 / 481)^2) 0.55 =
 // 2.48815, at 1600 m 5.64037. The highest curve, zone I Mediterranea, ends at 5.98748: an axis up to 6.
 TEST(AltitudeDiagram, IsTheLoadThatTheCalculationComputes) {
-    ProgramCells cells;
-    cells.zone = 2;
-    cells.return_period_factor = 0.5;
-    const Drawing drawing = draw(ground_load_over_altitude(cells, 1.1, 1, 1000));
+    const Drawing drawing = ground_load_over_altitude(2, 0.5, 1.1, 1, 1000);
     const Scale scale(drawing, 1600, 6);
     std::vector<Point> curve;
     for (const Shape& shape : drawing.shapes)
@@ -65,14 +62,14 @@ TEST(AltitudeDiagram, IsTheLoadThatTheCalculationComputes) {
                                                        "1500 m", "Zona I Alpina", "Zona III"}));
     EXPECT_EQ(std::ranges::count(drawing.shapes, Role::other_curve, &Shape::role), 6) << "two pieces each";
 
-    EXPECT_TRUE(first(draw(ground_load_over_altitude(cells, 1, 1, 1601)), Role::mark).points.empty());
-    EXPECT_TRUE(draw(ground_load_over_altitude(cells, 1, 0, 500)).neutral) << "no load at all";
-    EXPECT_TRUE(draw(ground_load_over_altitude(cells, 1e308, 1e308, 500)).neutral) << "not computable";
+    EXPECT_TRUE(first(ground_load_over_altitude(2, 0.5, 1, 1, 1601), Role::mark).points.empty());
+    EXPECT_TRUE(ground_load_over_altitude(2, 0.5, 1, 0, 500).neutral) << "no load at all";
+    EXPECT_TRUE(ground_load_over_altitude(2, 0.5, 1e308, 1e308, 500).neutral) << "not computable";
 }
 
 TEST(ShapeCoefficientDiagram, MarksThePitchesOfTheRoof) {
     const Drawing drawing =
-        shape_coefficient_diagram({.kind = Kind::several_pitches, .alfa1 = 15, .alfa2 = 40.5});
+        shape_coefficients_over_slope({.kind = Kind::several_pitches, .alfa1 = 15, .alfa2 = 40.5});
     const Scale scale(drawing, 90, 1.6);
     std::vector<Point> marked;
     for (const Shape& shape : drawing.shapes)
@@ -88,7 +85,7 @@ TEST(ShapeCoefficientDiagram, MarksThePitchesOfTheRoof) {
                                                        "media = 27,75°: µ2 = 1,54"}));
     EXPECT_NEAR(scale.value(first(drawing, Role::curve).points[2]).x, 60, 1e-9);
     for (const Entries& without : {Entries{.kind = Kind::one_pitch, .alfa = -1}, Entries{.kind = Kind::wall}})
-        EXPECT_TRUE(first(shape_coefficient_diagram(without), Role::mark).points.empty());
+        EXPECT_TRUE(first(shape_coefficients_over_slope(without), Role::mark).points.empty());
 }
 
 }  // namespace
