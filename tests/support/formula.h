@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 // A reader of the formulas and conditions of engine/trace.h that shares nothing with what writes them.
 namespace coltre {
@@ -25,20 +26,21 @@ class FormulaReader {
         return m_well_formed && m_rest.empty() ? std::optional(value) : std::nullopt;
     }
 
-    /// Whether the whole text holds; nothing if it is no condition of known symbols.
-    std::optional<bool> condition() {
+    /// Whether the whole text is a condition of known symbols that holds.
+    bool holds() {
         bool all = true;
         do {
             double left = sum();
-            std::string_view comparison = take_comparison();
-            if (comparison.empty()) m_well_formed = false;
-            for (; !comparison.empty(); comparison = take_comparison()) {
+            int comparison = take_comparison();
+            if (comparison < 0) return false;
+            for (; comparison >= 0; comparison = take_comparison()) {
                 const double right = sum();
-                all = all && compare(left, comparison, right);
+                const bool each[] = {left<right, left <= right, left> right, left >= right, left == right};
+                all = all && each[comparison];
                 left = right;
             }
         } while (take(" and "));
-        return m_well_formed && m_rest.empty() ? std::optional(all) : std::nullopt;
+        return all && m_well_formed && m_rest.empty();
     }
 
     /// False if a step on the way had no finite result.
@@ -84,69 +86,54 @@ class FormulaReader {
         }
         const std::string_view name =
             m_rest.substr(0, std::min(m_rest.find_first_not_of(word), m_rest.size()));
-        if (name.empty()) m_well_formed = false;
-        if (name.empty() || is_digit(name.front())) return number();
+        if (name.empty() || (name.front() >= '0' && name.front() <= '9')) return number();
         m_rest.remove_prefix(name.size());
         if (take("(")) return call(name);
         if (name == "pi") return std::numbers::pi;
         const auto symbol = m_symbols.find(name);
-        if (symbol != m_symbols.end()) return symbol->second;
-        m_well_formed = false;
-        return 0;
+        m_well_formed = m_well_formed && symbol != m_symbols.end();
+        return symbol != m_symbols.end() ? symbol->second : 0;
     }
 
     double number() {
         double value = 0;
         const auto end = std::from_chars(m_rest.data(), m_rest.data() + m_rest.size(), value);
-        if (end.ec != std::errc()) m_well_formed = false;
+        m_well_formed = m_well_formed && end.ec == std::errc();
         m_rest.remove_prefix(static_cast<std::size_t>(end.ptr - m_rest.data()));
         return value;
     }
 
-    double call(std::string_view function) {
+    double call(std::string_view name) {
+        static constexpr std::pair<std::string_view, double (*)(double)> functions[] = {
+            {"ln", std::log}, {"sin", std::sin}, {"cos", std::cos}, {"tan", std::tan}, {"arctan", std::atan}};
         const double a = sum();
         double value = 0;
-        if (function == "min" || function == "max") {
+        if (name == "min" || name == "max") {
             expect(", ");
             const double b = sum();
-            value = function == "min" ? std::min(a, b) : std::max(a, b);
-        } else if (function == "ln") {
-            value = std::log(a);
-        } else if (function == "tan") {
-            value = std::tan(a);
-        } else if (function == "arctan") {
-            value = std::atan(a);
-        } else if (function == "sin") {
-            value = std::sin(a);
-        } else if (function == "cos") {
-            value = std::cos(a);
+            value = name == "min" ? std::min(a, b) : std::max(a, b);
         } else {
-            m_well_formed = false;
+            const auto function = std::ranges::find(functions, name, [](auto& it) { return it.first; });
+            m_well_formed = m_well_formed && function != std::end(functions);
+            if (function != std::end(functions)) value = function->second(a);
         }
         expect(")");
         return step(value);
     }
 
-    std::string_view take_comparison() {
-        for (const std::string_view comparison : {" < ", " <= ", " > ", " >= ", " == "}) {
-            if (take(comparison)) return comparison;
+    int take_comparison() {
+        int index = 0;
+        for (const std::string_view sign : {" < ", " <= ", " > ", " >= ", " == "}) {
+            if (take(sign)) return index;
+            ++index;
         }
-        return {};
-    }
-
-    static bool compare(double a, std::string_view comparison, double b) {
-        if (comparison == " < ") return a < b;
-        if (comparison == " <= ") return a <= b;
-        if (comparison == " > ") return a > b;
-        if (comparison == " >= ") return a >= b;
-        return a == b;
+        return -1;
     }
 
     double step(double value) {
         m_finite = m_finite && std::isfinite(value);
         return value;
     }
-
     bool take(std::string_view text) {
         if (!m_rest.starts_with(text)) return false;
         m_rest.remove_prefix(text.size());
@@ -154,7 +141,6 @@ class FormulaReader {
     }
     void expect(std::string_view text) { m_well_formed = take(text) && m_well_formed; }
 
-    static bool is_digit(char c) { return c >= '0' && c <= '9'; }
     static constexpr std::string_view word =
         "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_";
 

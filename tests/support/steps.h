@@ -35,8 +35,8 @@ inline std::string flaw_of_step(const Step& step, const SymbolValues& symbols) {
     }
     if (step.value.has_value() != (step.fault == Fault::none)) return flaw("value or fault");
     if (step.condition.empty() != step.condition_numbers.empty()) return flaw("condition without numbers");
-    if (!step.condition.empty() && !(FormulaReader(step.condition, symbols).condition().value_or(false) &&
-                                     FormulaReader(step.condition_numbers, {}).condition().value_or(false)))
+    if (!step.condition.empty() && !(FormulaReader(step.condition, symbols).holds() &&
+                                     FormulaReader(step.condition_numbers, {}).holds()))
         return flaw("does not hold: ") + step.condition + "; " + step.condition_numbers;
     if (!step.governs.empty() && step.value &&
         (step.formula.find(step.governs) == std::string::npos ||
