@@ -318,11 +318,9 @@ void Writer::ground_load_diagram() {
             number_text(*m_subject.outcome.altitude) +
             " m; a 1500 m sarebbe qsk = " + with_unit(cells.qsk, area_load) + "."));
     }
-    ProgramCells cells;
-    cells.zone = m_subject.zone;
-    cells.return_period_factor = factor();
-    figure(draw(ground_load_over_altitude(cells, datum("CE"), datum("Ct"), *m_subject.outcome.altitude)), {},
-           "qsk in funzione dell'altitudine, " + zone_name(m_subject.zone) + "; il sito è segnato");
+    figure(ground_load_over_altitude(m_subject.zone, factor(), datum("CE"), datum("Ct"),
+                                     *m_subject.outcome.altitude),
+           {}, "qsk in funzione dell'altitudine, " + zone_name(m_subject.zone) + "; il sito è segnato");
 }
 
 void Writer::shape_coefficient_diagram() {

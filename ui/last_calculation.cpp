@@ -37,9 +37,10 @@ void LastCalculation::write_report(QWidget* parent, const std::string& job_name)
             .document = [this](const TitleBlock& title_block,
                                Layout layout) { return illustrated_report(*m_subject, title_block, layout); },
             .html = to_html,
-            .suggested_path = [this](const TitleBlock& title_block) {
-                return QString::fromStdString(suggested_file_name(*m_subject, title_block));
-            }};
+            .suggested_path =
+                [this](const TitleBlock& title_block) {
+                    return QString::fromStdString(suggested_file_name(*m_subject, title_block));
+                }};
     }
     ask_for_report(std::move(source), m_choices, m_dialogs, parent);
 }

@@ -32,7 +32,7 @@ class LastCalculation {
     QWidget& m_main_window;
     UserDialogs& m_dialogs;
     std::optional<Subject> m_subject;
-    ReportChoices m_choices;  // what was typed in the heading stays for the run
+    ReportChoices m_choices;        // what was typed in the heading stays for the run
     QPointer<StepsWindow> m_steps;  // made when it is first asked for
 };
 
