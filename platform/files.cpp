@@ -21,7 +21,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
-/// Whether the path names something. What cannot be told counts as there.
+/// Whether the path names something. What the system does not say counts as there.
 bool may_be_there(const fs::path& path) {
     std::error_code error;
     return fs::symlink_status(path, error).type() != fs::file_type::not_found;
@@ -51,7 +51,7 @@ int read_bytes(const fs::path& path, std::size_t most, std::string& bytes, syste
     system_files::Descriptor file;
     if (const int error = system_files::open_to_read(path, file)) return error;
     if (const int error = system_files::state_of(file, state)) return error;
-    // One read of the whole size where the size is told; the next ones take what a growing file adds.
+    // One read of the whole size where the size is known; the next ones take what a growing file adds.
     std::size_t room = state.size > 0 ? static_cast<std::size_t>(state.size) + 1 : 65536;
     constexpr std::size_t more = 4096;
     bytes.reserve(std::min(room, most) + more);

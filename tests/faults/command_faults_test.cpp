@@ -47,11 +47,11 @@ class CommandFaults : public testing::Test, public TemporaryDirectory {
         return Command(arguments, conditions).wait();
     }
     /// The command fails and says just this.
-    static void expect_told(const Arguments& arguments, const std::string& told,
-                            const Conditions& conditions = {}) {
+    static void expect_reported(const Arguments& arguments, const std::string& report,
+                                const Conditions& conditions = {}) {
         const Command::End end = run(arguments, conditions);
         EXPECT_EQ(end.status, 1) << arguments.front();
-        EXPECT_EQ(end.err, told);
+        EXPECT_EQ(end.err, report);
     }
     [[nodiscard]] std::string no_report(const fs::path& place, const std::string& name,
                                         const std::string& reason) const {
@@ -145,7 +145,7 @@ TEST_F(CommandFaults, ObstacleIsToldWithTheFileAndStaysAsItIs) {
     }
     Arguments far = report();
     far.back() = "/" + std::string(5000, 'x');
-    expect_told(far, no_report(far.back(), "coltre.txt", "il nome è troppo lungo"));
+    expect_reported(far, no_report(far.back(), "coltre.txt", "il nome è troppo lungo"));
 }
 
 TEST_F(CommandFaults, FullDiskIsToldAndCostsNothing) {
@@ -153,9 +153,9 @@ TEST_F(CommandFaults, FullDiskIsToldAndCostsNothing) {
     const std::string full = "il disco è pieno", refused = "Impossibile scrivere il file " + table() + ": ";
     disk.leave(0);
     put("coltre.txt", "");
-    expect_told(site(), no_site);
-    expect_told(report(), no_report(path(), "coltre.txt", full));
-    expect_told(report("parete", "--h"), no_report(path(), "coltrecasipart.txt", full));
+    expect_reported(site(), no_site);
+    expect_reported(report(), no_report(path(), "coltre.txt", full));
+    expect_reported(report("parete", "--h"), no_report(path(), "coltrecasipart.txt", full));
     EXPECT_THAT(files(), ElementsAre("coltre.txt", "filler"));
 
     disk.leave(900'000);
@@ -163,7 +163,7 @@ TEST_F(CommandFaults, FullDiskIsToldAndCostsNothing) {
     put("altitudini.bak", "first");
     for (const unsigned free : {0U, 150'000U}) {
         disk.leave(free);
-        expect_told(altitudes("scrivi"), refused + full + ".\n");
+        expect_reported(altitudes("scrivi"), refused + full + ".\n");
         EXPECT_EQ(left()["altitudini.txt"], own);
         EXPECT_EQ(left()["altitudini.bak"], "first");
         EXPECT_THAT(files(), Not(Contains(EndsWith(".tmp"))));
@@ -173,8 +173,9 @@ TEST_F(CommandFaults, FullDiskIsToldAndCostsNothing) {
     EXPECT_EQ(left()["altitudini.bak"], own);
     disk.make_read_only();
     const std::string read_only = "la cartella è in sola lettura";
-    expect_told(altitudes("ripara"), "Impossibile riparare il file " + table() + ": " + read_only + ".\n");
-    expect_told(report(), no_report(path(), "coltre.txt", read_only));
+    expect_reported(altitudes("ripara"),
+                    "Impossibile riparare il file " + table() + ": " + read_only + ".\n");
+    expect_reported(report(), no_report(path(), "coltre.txt", read_only));
 }
 
 TEST_F(CommandFaults, RequestsAndResultsThatGoNowhereAreToldWithAFailure) {
@@ -186,12 +187,12 @@ TEST_F(CommandFaults, RequestsAndResultsThatGoNowhereAreToldWithAFailure) {
         for (const Conditions& conditions : {Conditions{.output = "/dev/full", .input = in},
                                              {.output = "", .input = in},
                                              {.largest_file = 10, .output = results.c_str(), .input = in}})
-            expect_told(arguments, "coltre-calcolo: impossibile scrivere i risultati\n", conditions);
-    expect_told(altitudes("scrivi"), "coltre-calcolo: impossibile scrivere i risultati\n",
-                {.output = "/dev/full"});
+            expect_reported(arguments, "coltre-calcolo: impossibile scrivere i risultati\n", conditions);
+    expect_reported(altitudes("scrivi"), "coltre-calcolo: impossibile scrivere i risultati\n",
+                    {.output = "/dev/full"});
     EXPECT_EQ(left()["altitudini.txt"], built_in);
     for (const char* input : {"", "/tmp"})
-        expect_told({"lotto"}, "coltre-calcolo: impossibile leggere le richieste\n", {.input = input});
+        expect_reported({"lotto"}, "coltre-calcolo: impossibile leggere le richieste\n", {.input = input});
     ::chmod(requests.c_str(), 0200);
     for (const std::string& file : {path().string(), requests, requests + "/x"}) {
         const Command::End end = run({"lotto", file}, {.permissions_bind = true});

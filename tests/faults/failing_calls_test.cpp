@@ -120,6 +120,9 @@ int clock_nanosleep(clockid_t, int, const timespec*, timespec*) {
     if (memory == nullptr) throw std::bad_alloc();
     return memory;
 }
+[[gnu::noinline]] void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    return fails("new", true) ? nullptr : std::malloc(size);
+}
 [[gnu::noinline]] void operator delete(void* memory) noexcept {
     std::free(memory);
 }

@@ -61,7 +61,7 @@ TEST_F(Files, AreReadWhole) {
     });
     EXPECT_EQ(read_content_at_rest(suite_path("saved")).bytes, "half and half");
     editor.join();
-    EXPECT_TRUE(read_file("\\proc\\self\\status").value_or("").size() > 100);  // its size is told as 0
+    EXPECT_TRUE(read_file("\\proc\\self\\status").value_or("").size() > 100);  // its size is given as 0
 }
 
 TEST_F(Files, GiveTheirFirstLine) {

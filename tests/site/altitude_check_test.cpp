@@ -49,8 +49,8 @@ TEST(AltitudeCheck, BuiltInTableHasItsTwoFaults) {
     EXPECT_EQ(sound_file(), expected);
 }
 
-// Each fault is told once, at its line, and mended without touching anything else. Airasca is a municipality
-// of Torino, Ala and Bo are none.
+// Each fault is reported once, at its line, and mended without touching anything else. Airasca is a
+// municipality of Torino, Ala and Bo are none.
 TEST(AltitudeCheck, FaultsAreToldAndMended) {
     const std::string ala = "Ala                            12\r\n", end = "\r\n";
     const std::string airasca = "Airasca                        257\r\n";

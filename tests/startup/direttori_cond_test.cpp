@@ -19,13 +19,13 @@ class CheckDirectories : public testing::Test {
     /// Title and text of the message that ended the program.
     std::string fault(const std::string& command_line, const std::string& process_command_line = "",
                       const std::string& own_directory = "") {
-        Messages told;
+        Messages messages;
         const bool goes_on =
-            check_directories(command_line, process_command_line, own_directory, directories, told);
-        EXPECT_EQ(told.size(), goes_on ? 0U : 1U);
-        if (told.empty()) return no_fault;
-        EXPECT_EQ(told[0].icon, Icon::error);
-        return told[0].title + ": " + told[0].text;
+            check_directories(command_line, process_command_line, own_directory, directories, messages);
+        EXPECT_EQ(messages.size(), goes_on ? 0U : 1U);
+        if (messages.empty()) return no_fault;
+        EXPECT_EQ(messages[0].icon, Icon::error);
+        return messages[0].title + ": " + messages[0].text;
     }
     std::string fault() { return fault(suite.command_line()); }
 
