@@ -198,23 +198,23 @@ void Form1::province_chosen() {
     m_ui->Zonalabel->setText(qt(zone.caption));
     emit site_changed();
     m_ui->comuneinput->fill({});
-    Messages messages;
-    const auto municipalities =
-        FillMunicipalities(m_program.directories.ProgramDirectory, province, messages);
-    m_dialogs.show(messages);
+    AltitudeNotices notices;
+    const auto municipalities = FillMunicipalities(m_program.directories.ProgramDirectory, province, notices);
+    m_dialogs.show(notices.messages);
     if (!municipalities) return m_dialogs.end();
     m_ui->comuneinput->setEnabled(true);
-    m_ui->comuneinput->fill(municipalities->names);
+    m_ui->comuneinput->fill(*municipalities);
     m_ui->comuneinput->setCurrentIndex(0);
 }
 
 void Form1::municipality_chosen() {
-    Messages messages;
+    AltitudeNotices notices;
     const std::optional<std::string> altitude =
         ReadAltitude(m_program.directories.ProgramDirectory, m_ui->Provinciainput->utf8(),
-                     m_ui->comuneinput->utf8(), messages);
-    m_dialogs.show(messages);
+                     m_ui->comuneinput->utf8(), notices);
+    m_dialogs.show(notices.messages);
     if (!altitude) return m_dialogs.end();
+    m_listed_altitude = *altitude;
     m_ui->asinput->setText(QString::fromStdString(*altitude));
 }
 
@@ -242,7 +242,7 @@ void Form1::special_cases_clicked() {
     auto* window = new casipart(
         m_program, m_dialogs, [this] { return site(); }, [this] { show_ground_load(site()); }, this);
     connect(this, &Form1::site_changed, window, &casipart::follow_inputs);
-    connect(window, &casipart::report_written, &m_menus, &Menus::remember_report);
+    connect(window, &casipart::calculated, this, &Form1::keep);
     m_menus.add_to(*window, [window]() -> CalculationTab& { return window->open_tab(); });
     m_special_cases = window;
     window->show();
@@ -255,6 +255,7 @@ void Form1::calculate_clicked() {
     Fields fields = calculated.fields;
     fields.udmcombo = m_ui->udmcombo->currentText().toStdString();
     fields.Check1Box = m_ui->Check1Box->isChecked();
+    fields.traced = true;
     if (const auto notice = altitude_notice(fields)) {
         m_dialogs.show(notice->message);
         m_ui->asinput->setText(QString::fromStdString(notice->asinput));
@@ -263,11 +264,29 @@ void Form1::calculate_clicked() {
     const WidthLabels widths = width_labels(outcome.calculation);
     if (widths.L1output) m_ui->L1output->setText(QString::fromStdString(*widths.L1output));
     if (widths.L2output) m_ui->L2output->setText(QString::fromStdString(*widths.L2output));
-    m_menus.remember_report(outcome.report);
+    keep(fields, outcome);
     m_dialogs.show(outcome.messages);
     if (!outcome.complete) return;
     tab.show_results(outcome.calculation, m_program.cells, calculated);
-    show_ground_load(calculated_site);  // the altitude field may hold another altitude by now
+    show_ground_load(calculated_site);
+    follow_inputs();  // the altitude field may hold another altitude by now
+}
+
+void Form1::keep(const Fields& fields, const Outcome& outcome) {
+    m_menus.remember_report(outcome.report);
+    Subject subject;
+    subject.fields = fields;
+    subject.outcome = outcome;
+    subject.zone = m_program.cells.zone;
+    subject.return_period = m_program.cells.return_period;
+    subject.confirmed_return_period = m_program.cells.confirmed_return_period;
+    subject.province = m_ui->Provinciainput->utf8();
+    subject.zone_of_province = !subject.province.empty();
+    if (subject.zone_of_province) {
+        subject.municipality = m_ui->comuneinput->utf8();
+        subject.listed_altitude = m_listed_altitude;
+    }
+    m_last_calculation.keep(std::move(subject));
 }
 
 void Form1::information_clicked() {

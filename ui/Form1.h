@@ -10,6 +10,7 @@
 #include "startup/program.h"
 #include "ui/calculation_tab.h"
 #include "ui/hints.h"
+#include "ui/last_calculation.h"
 #include "ui/menus.h"
 #include "ui/user_dialogs.h"
 
@@ -65,6 +66,9 @@ class Form1 : public QWidget {
     /// tell.
     void show_return_period_factor();
 
+    /// Keeps a calculation of either window for its documents.
+    void keep(const Fields& fields, const Outcome& outcome);
+
     // One handler a control and event.
     void region_chosen(int index);
     void province_chosen();
@@ -80,7 +84,9 @@ class Form1 : public QWidget {
     UserDialogs& m_dialogs;
     std::unique_ptr<Ui::Form1> m_ui;
     std::vector<std::unique_ptr<CalculationTab>> m_tabs;
-    Menus m_menus{*this, m_program, m_dialogs};
+    LastCalculation m_last_calculation{*this, m_dialogs};
+    Menus m_menus{*this, m_program, m_last_calculation, m_dialogs};
+    std::string m_listed_altitude;           // of the municipality that was chosen last
     std::optional<Inputs> m_ground_load_of;  // nothing before it is shown for the first time
     QTimer m_Timer1{this};
     std::unique_ptr<Hints> m_hints;

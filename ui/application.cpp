@@ -9,7 +9,7 @@
 #include <iostream>
 #include <string>
 
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "ui/Form1.h"
 #include "ui/pictures.h"
 #include "ui/qt_dialogs.h"
@@ -79,7 +79,7 @@ int run(int argc, char** argv) {
     if (italian.load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&italian);
     load_pictures();
-    QApplication::setWindowIcon(QIcon(":/images/coltre.svg"));
+    QApplication::setWindowIcon(QIcon(":/images/coltre.png"));
 
     Program program;
     QtDialogs dialogs;

@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "drawings/sketches.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 
 namespace coltre {
 
@@ -76,8 +76,10 @@ void CalculationTab::follow(const Inputs& now) {
     if (reader.stop())
         for (const Entry& entry : m_description.entries)
             entries.*entry.number = std::numeric_limits<double>::quiet_NaN();
-    Drawing drawing = sketch(entries, calculated ? &m_last->results : nullptr);
+    if (calculated) m_drift_length_shown = drift_lies_on_roof(entries, m_last->results);
+    Drawing drawing = sketch(entries, calculated ? &m_last->results : nullptr, m_drift_length_shown);
     if (!calculated && m_sketch.shows_numbers()) mark_as_pending(drawing);
+    add_notes(drawing, notes(now));
     m_sketch.set_drawing(std::move(drawing));
 }
 

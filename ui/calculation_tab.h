@@ -76,6 +76,7 @@ class CalculationTab : public QObject {
         Calculation calculation;
     };
     std::optional<Calculated> m_last;
+    bool m_drift_length_shown = true;  // of a level change; moves with its calculations alone
 };
 
 /// The tabs of a window, one a calculation.

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "calculate/Calcola2.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "report/unit_systems.h"
 #include "text/number_reading.h"
 #include "ui/window_setup.h"
@@ -116,13 +116,14 @@ void casipart::calculate_clicked() {
     fields.decimal_separator = user_decimal_separator();
     fields.udmcombo = m_ui->udmcombo->currentText().toStdString();
     fields.Check1Box = m_ui->Check1Box->isChecked();
+    fields.traced = true;
     const Outcome outcome = Calcola2(fields, m_program);
     // The labels are refreshed before the message about the report.
     if (outcome.complete) {
         m_show_ground_load();
         tab.show_results(outcome.calculation, m_program.cells, inputs(tab));
     }
-    emit report_written(outcome.report);
+    emit calculated(fields, outcome);
     m_dialogs.show(outcome.messages);
 }
 

@@ -36,8 +36,7 @@ class casipart : public QWidget {
 
   signals:
     /// A calculation ended.
-    /// @param suite_path  the report that it wrote; empty if it wrote none
-    void report_written(const std::string& suite_path);
+    void calculated(const Fields& fields, const Outcome& outcome);
 
   protected:
     /// Enter calculates, wherever the focus is but on a button.

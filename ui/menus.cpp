@@ -41,19 +41,23 @@ QString chapter(Kind kind) {
 }  // namespace
 
 const Menus::Entry Menus::entries[] = {
+    {"File", "Relazione illustrata…", "Ctrl+E", &Menus::write_illustrated_report},
     {"File", "Apri l'ultima relazione", "", &Menus::open_last_report},
     {"File", "Esci", "Ctrl+Q", &Menus::end_program},
     {"Modifica", "Copia i risultati", "Ctrl+Shift+C", &Menus::copy_results},
     {"Modifica", "Copia lo schizzo", "", &Menus::copy_sketch},
+    {"Calcolo", "Passaggi del calcolo", "Ctrl+T", &Menus::show_steps},
     {"Aiuto", "Manuale", "F1", &Menus::open_manual},
     {"Aiuto", "Informazioni su Coltre", "", &Menus::show_about},
 };
 
-Menus::Menus(QWidget& main_window, const Program& program, UserDialogs& dialogs)
+Menus::Menus(QWidget& main_window, const Program& program, LastCalculation& last_calculation,
+             UserDialogs& dialogs)
     : QObject(&main_window),
       open_file(QDesktopServices::openUrl),
       m_main_window(main_window),
       m_program(program),
+      m_last_calculation(last_calculation),
       m_dialogs(dialogs) {}
 
 void Menus::add_to(QWidget& window, const std::function<CalculationTab&()>& open_tab) {
@@ -85,6 +89,14 @@ void Menus::open(const QUrl& file) {
     if (!open_file(file))
         show_error(tr("Impossibile aprire il file %1: il sistema non ha un programma per aprirlo.")
                        .arg(file.toLocalFile()));
+}
+
+void Menus::write_illustrated_report(const CalculationTab& /*open_tab*/) {
+    m_last_calculation.write_report(QApplication::activeWindow(), m_program.directories.JobName);
+}
+
+void Menus::show_steps(const CalculationTab& /*open_tab*/) {
+    m_last_calculation.show_steps();
 }
 
 void Menus::open_last_report(const CalculationTab& /*open_tab*/) {

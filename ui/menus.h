@@ -7,6 +7,7 @@
 
 #include "startup/program.h"
 #include "ui/calculation_tab.h"
+#include "ui/last_calculation.h"
 #include "ui/user_dialogs.h"
 
 class QWidget;
@@ -21,7 +22,8 @@ class Menus : public QObject {
 
   public:
     /// @param main_window  closing it ends the program; it and the others live as long as the menus
-    Menus(QWidget& main_window, const Program& program, UserDialogs& dialogs);
+    Menus(QWidget& main_window, const Program& program, LastCalculation& last_calculation,
+          UserDialogs& dialogs);
 
     /// Puts the menu bar above the controls of a window whose contents scroll, and makes the window that much
     /// higher.
@@ -46,6 +48,8 @@ class Menus : public QObject {
     static const Entry entries[];
 
     // What the entries do.
+    void write_illustrated_report(const CalculationTab&);
+    void show_steps(const CalculationTab&);
     void open_last_report(const CalculationTab&);
     void end_program(const CalculationTab&);
     void copy_results(const CalculationTab& open_tab);
@@ -58,6 +62,7 @@ class Menus : public QObject {
 
     QWidget& m_main_window;
     const Program& m_program;
+    LastCalculation& m_last_calculation;
     UserDialogs& m_dialogs;
     std::string m_last_report;
 };

@@ -6,7 +6,7 @@
 #include <QRegularExpression>
 #include <QToolTip>
 
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "text/number_reading.h"
 #include "text/number_text.h"
 

@@ -1,6 +1,6 @@
 #include "ui/results_copy.h"
 
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "text/number_text.h"
 
 namespace coltre {

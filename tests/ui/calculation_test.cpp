@@ -11,11 +11,7 @@ using testing::ElementsAre;
 class MainCalculation : public MainWindowTest {
   protected:
     /// Whether the sketch says that its numbers belong to other entries.
-    bool is_pending(const char* sketch) {
-        return std::ranges::any_of(get<SketchWidget>(sketch).drawing().texts, [](const Text& text) {
-            return text.text == "numeri dell'ultimo calcolo, non di questi dati";
-        });
-    }
+    bool is_pending(const char* sketch) { return get<SketchWidget>(sketch).drawing().pending; }
     bool is_grey(const char* label) { return get(label).foregroundRole() == QPalette::PlaceholderText; }
 };
 

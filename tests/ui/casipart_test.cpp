@@ -147,6 +147,7 @@ TEST_F(CasipartTest, AnEarlyStopIsToldAndLeavesEveryLabel) {
           std::tuple(0, "h2input", "h", "2"), std::tuple(0, "deltainput", "alfa", "10"),
           std::tuple(1, "h3input", "h", "2.30")}) {
         type(name, "2;5");
+        EXPECT_EQ(get(name).accessibleDescription(), "non è un numero") << name;
         dialogs.expect_stop("conversione non valida.\rIl testo scritto per «" + std::string(symbol) +
                             "» non è un numero: «2;5».");
         calculate(page);
