@@ -5,6 +5,7 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocumentWriter>
+#include <QTextLayout>
 #include <QTextTable>
 #include <QUrl>
 #include <QtEndian>
@@ -271,6 +272,9 @@ void write_text(const Document& document, const DocumentLook& look, const Flow& 
     for (const Block& block : document.blocks)
         std::visit(writer, block);
     note(document.page_footer);
+    // The letters placed for the lines are kept until they are painted.
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next())
+        block.layout()->setCacheEnabled(true);
     all.endEditBlock();
 }
 
