@@ -18,15 +18,15 @@ using namespace coltre;
 class TableDirectory : public TemporaryDirectory {
   public:
     TableDirectory() {
-        if (!replace_altitude_file(text(), built_in_altitude_file()).empty()) std::abort();
+        if (replace_altitude_file(text(), built_in_altitude_file()).failure) std::abort();
     }
 };
 
 void read_altitude_farthest(benchmark::State& state) {
     const TableDirectory directory;
-    Messages told;
+    AltitudeNotices notices;
     for (auto _ : state) {
-        const auto altitude = ReadAltitude(directory.text(), "Oristano", "Zerfaliu", told);
+        const auto altitude = ReadAltitude(directory.text(), "Oristano", "Zerfaliu", notices);
         if (altitude != "15") state.SkipWithError("wrong altitude");
     }
 }

@@ -30,17 +30,17 @@ std::string request_lines(std::string (*request)(long)) {
 /// A directory with the built-in table, from which the requests by name read.
 struct Table {
     TemporaryDirectory directory;
-    cli::Surroundings surroundings{.own_directory = directory.text()};
+    cli::Environment environment{.own_directory = directory.text()};
 
     Table() {
-        if (!replace_altitude_file(directory.text(), built_in_altitude_file()).empty()) std::abort();
+        if (replace_altitude_file(directory.text(), built_in_altitude_file()).failure) std::abort();
     }
 };
 
-std::string batch_results(const std::string& requests, const cli::Surroundings& surroundings) {
+std::string batch_results(const std::string& requests, const cli::Environment& environment) {
     std::istringstream in(requests);
     std::ostringstream out;
-    run_batch(in, out, surroundings);
+    run_batch(in, out, environment);
     return std::move(out).str();
 }
 
@@ -48,14 +48,14 @@ void batch(benchmark::State& state, std::string (*request)(long)) {
     const Table table;
     const std::string requests = request_lines(request);
     for (auto _ : state)
-        benchmark::DoNotOptimize(batch_results(requests, table.surroundings).data());
+        benchmark::DoNotOptimize(batch_results(requests, table.environment).data());
 }
 
 void parse_and_write(benchmark::State& state, std::string (*request)(long)) {
     const Table table;
     const std::string requests = request_lines(request);
     std::vector<nlohmann::ordered_json> results;
-    std::istringstream lines(batch_results(requests, table.surroundings));
+    std::istringstream lines(batch_results(requests, table.environment));
     for (std::string line; std::getline(lines, line);)
         results.push_back(nlohmann::ordered_json::parse(line));
 

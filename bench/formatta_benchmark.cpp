@@ -14,12 +14,12 @@ namespace {
 using namespace coltre;
 
 void format(benchmark::State& state, std::string_view directives) {
-    Messages told;
+    Messages messages;
     double value = 1.23456789;
     for (auto _ : state) {
         benchmark::DoNotOptimize(value);
-        std::string text = formatta(value, directives, 1.0, told);
-        benchmark::DoNotOptimize(text.data());
+        const auto text = formatta(value, directives, 1.0, messages);
+        benchmark::DoNotOptimize(text->data());
     }
 }
 

@@ -101,9 +101,14 @@ void calculate_and_report(const Fields& fields, const ReportWriter& writer, Prog
     ReportFile report(program.directories.WorkDirectory + "\\" + std::string(writer.file_name),
                       outcome.messages);
     writer.write_heading(report, data, cells);
-    if (report.failure().empty()) {
+    if (report.failure().empty() && report.fault() == Fault::none) {
         calculate_entries(fields, cells, outcome);
         writer.write_section(report, data, cells, outcome.entries, outcome.calculation);
+    }
+    // A number too large for its line ends the calculation as every overflow does.
+    if (report.fault() != Fault::none && outcome.fault == Fault::none) {
+        outcome.complete = false;
+        outcome.stop({report.fault(), "Un valore della relazione è troppo grande."});
     }
     const std::string name = writer.confirms_with_directory ? report.name() : std::string(writer.file_name);
     close(report, "Creazione della relazione " + name + " effettuata", outcome);

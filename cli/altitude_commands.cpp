@@ -1,8 +1,6 @@
 #include "cli/altitude_commands.h"
 
-#include <filesystem>
 #include <string>
-#include <system_error>
 
 #include "cli/command.h"
 #include "platform/files.h"
@@ -25,8 +23,8 @@ int complain(std::ostream& err, std::string_view what, std::string_view director
 }
 
 /// What became of an earlier file that was replaced.
-std::string_view kept(bool existed) {
-    return existed ? "; quello di prima resta come altitudini.bak" : "";
+std::string kept(const std::string& name) {
+    return name.empty() ? "" : "; quello di prima resta come " + name;
 }
 
 void list(std::ostream& out, const std::vector<AltitudeFault>& faults) {
@@ -40,24 +38,20 @@ void list(std::ostream& out, const std::vector<AltitudeFault>& faults) {
 }  // namespace
 
 int write_command(std::string_view directory, std::ostream& out, std::ostream& err) {
-    const std::string bytes = built_in_altitude_file();
-    const std::string name = altitude_file_name(suite_notation(directory));
-    const auto earlier = read_file(name);
-    std::error_code error;
-    const bool existed = std::filesystem::exists(find_path(name), error);  // also one that cannot be read
-    const std::string failure = replace_altitude_file(suite_notation(directory), bytes);
-    if (!failure.empty()) return complain(err, "scrivere", directory, failure);
-    if (earlier == bytes) {
-        out << "Il file " << shown_path(directory) << " era già uguale alla tabella del programma.\n";
+    const TableReplacement replaced =
+        replace_altitude_file(suite_notation(directory), built_in_altitude_file());
+    if (replaced.failure) return complain(err, "scrivere", directory, *replaced.failure);
+    if (replaced.is_new) {
+        out << "Scritto il file " << shown_path(directory) << kept(replaced.kept_name) << ".\n";
     } else {
-        out << "Scritto il file " << shown_path(directory) << kept(existed) << ".\n";
+        out << "Il file " << shown_path(directory) << " era già uguale alla tabella del programma.\n";
     }
     return all_well;
 }
 
 int check_command(std::string_view directory, std::ostream& out, std::ostream& err) {
     const AltitudeFileCheck check = check_altitude_file(suite_notation(directory));
-    if (!check.failure.empty()) return complain(err, "leggere", directory, check.failure);
+    if (check.failure) return complain(err, "leggere", directory, *check.failure);
     list(out, check.faults);
     if (!check.faults.empty()) return failed;
     out << "Nessun difetto nel file " << shown_path(directory) << ".\n";
@@ -65,15 +59,14 @@ int check_command(std::string_view directory, std::ostream& out, std::ostream& e
 }
 
 int repair_command(std::string_view directory, std::ostream& out, std::ostream& err) {
-    const bool exists = read_file(altitude_file_name(suite_notation(directory))).has_value();
     const AltitudeFileCheck check = repair_altitude_file(suite_notation(directory));
-    if (!check.failure.empty()) return complain(err, "riparare", directory, check.failure);
+    if (check.failure) return complain(err, "riparare", directory, *check.failure);
     if (check.faults.empty()) {
         out << "Nessun difetto nel file " << shown_path(directory) << ".\n";
         return all_well;
     }
     list(out, check.faults);
-    out << "Riparato il file " << shown_path(directory) << kept(exists) << ".\n";
+    out << "Riparato il file " << shown_path(directory) << kept(check.kept_name) << ".\n";
     return all_well;
 }
 

@@ -1,9 +1,10 @@
 #include "cli/batch.h"
 
 #include <limits>
+#include <memory>
+#include <new>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "cli/json_request.h"
 
@@ -14,12 +15,13 @@ namespace {
 /// Lines of a stream, in memory that does not grow with the length of a line.
 class LineReader {
   public:
-    explicit LineReader(std::istream& in) : m_in(in), m_buffer(longest + 1) {}
+    explicit LineReader(std::istream& in)
+        : m_in(in), m_buffer(std::make_unique_for_overwrite<char[]>(longest + 1)) {}
 
     /// Reads the next line.
     /// @return false at the end of the stream
     bool next() {
-        m_in.getline(m_buffer.data(), static_cast<std::streamsize>(m_buffer.size()));
+        m_in.getline(m_buffer.get(), static_cast<std::streamsize>(longest + 1));
         const auto taken = static_cast<std::size_t>(m_in.gcount());
         m_too_long = m_in.fail() && taken == longest;
         if (m_too_long) {
@@ -29,7 +31,7 @@ class LineReader {
             return false;
         }
         // getline counts the line end that it takes away; the last line may have none.
-        m_line = {m_buffer.data(), m_in.eof() || m_too_long ? taken : taken - 1};
+        m_line = {m_buffer.get(), m_in.eof() || m_too_long ? taken : taken - 1};
         return true;
     }
 
@@ -40,12 +42,14 @@ class LineReader {
 
   private:
     std::istream& m_in;
-    std::vector<char> m_buffer;
+    std::unique_ptr<char[]> m_buffer;
     std::string_view m_line;
     bool m_too_long = false;
 };
 
-Result perform_line(const LineReader& reader, const Surroundings& surroundings, SiteMemory& memory) {
+/// @param id  the request's, as soon as it is known
+Result perform_line(const LineReader& reader, const Environment& environment, SiteMemory& memory,
+                    std::string& id) {
     Result result;
     if (reader.too_long()) {
         result.fail(End::wrong_request,
@@ -53,26 +57,39 @@ Result perform_line(const LineReader& reader, const Surroundings& surroundings, 
         return result;
     }
     JsonRequest line = read_json_request(reader.line());
-    if (line.mistake.empty()) {
-        result = perform(line.request, surroundings, memory);
+    id = line.id;
+    if (line.error.empty()) {
+        result = perform(line.request, environment, memory);
     } else {
         result.kind = line.request.kind;
-        result.fail(End::wrong_request, std::move(line.mistake));
+        result.fail(End::wrong_request, std::move(line.error));
     }
-    result.id = std::move(line.id);
+    result.id = line.id;
     return result;
+}
+
+/// The answer to a line. A lack of memory ends this request alone.
+std::string answer(const LineReader& reader, const Environment& environment, SiteMemory& memory,
+                   bool& some_failed) {
+    std::string id;
+    try {
+        const Result result = perform_line(reader, environment, memory, id);
+        some_failed = some_failed || result.end != End::well;
+        return to_json(result);
+    } catch (const std::bad_alloc&) {
+        some_failed = true;
+        return (id.empty() ? "{" : "{\"id\": " + id + ", ") + "\"errore\": \"memoria esaurita\"}";
+    }
 }
 
 }  // namespace
 
-BatchEnd run_batch(std::istream& in, std::ostream& out, const Surroundings& surroundings) {
+BatchEnd run_batch(std::istream& in, std::ostream& out, const Environment& environment) {
     bool some_failed = false;
     SiteMemory memory;
     LineReader reader(in);
     while (out && reader.next()) {
-        const Result result = perform_line(reader, surroundings, memory);
-        some_failed = some_failed || result.end != End::well;
-        out << to_json(result) << '\n';
+        out << answer(reader, environment, memory, some_failed) << '\n';
         if (in.rdbuf()->in_avail() <= 0) out.flush();
     }
     out.flush();

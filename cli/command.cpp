@@ -48,10 +48,10 @@ int exit_status(End end) {
     return end == End::wrong_request ? bad_usage : failed;
 }
 
-int run_calculation(const Request& request, bool json, const Surroundings& surroundings,
+int run_calculation(const Request& request, bool json, const Environment& environment,
                     const Streams& streams) {
     SiteMemory memory;
-    const Result result = perform(request, surroundings, memory);
+    const Result result = perform(request, environment, memory);
     if (json) {
         streams.out << to_json(result) << '\n';
     } else {
@@ -66,9 +66,9 @@ int run_calculation(const Request& request, bool json, const Surroundings& surro
     return check_output(streams.out, streams.err, exit_status(result.end));
 }
 
-int run_batch_command(const std::string& file, const Surroundings& surroundings, const Streams& streams) {
+int run_batch_command(const std::string& file, const Environment& environment, const Streams& streams) {
     const auto finish = [&](std::istream& in) {
-        const BatchEnd end = run_batch(in, streams.out, surroundings);
+        const BatchEnd end = run_batch(in, streams.out, environment);
         if (end == BatchEnd::input_failed)
             streams.err << "coltre-calcolo: impossibile leggere le richieste\n";
         return check_output(streams.out, streams.err, end == BatchEnd::all_well ? all_well : failed);
@@ -97,6 +97,11 @@ struct Choice {
 /// Every option takes the one text behind it, whatever that looks like, and is given once.
 void add_options(CLI::App& command, const Description& calculation, Choice& choice) {
     const auto add = [&](const Key& key) {
+        if (key.type == KeyType::flag) {
+            command.add_flag_callback("--" + std::string(key.name),
+                                      [&choice, key] { choice.request.set(key, "true"); });
+            return;
+        }
         const auto take = [&choice, key](const std::vector<std::string>& values) {
             if (values.size() > 1)
                 choice.mistake = "l'opzione --" + std::string(key.name) + " è data più volte";
@@ -146,7 +151,7 @@ std::string usage_mistake(const CLI::ParseError& error) {
 
 }  // namespace
 
-int run(std::span<const std::string> arguments, const Surroundings& surroundings, std::istream& in,
+int run(std::span<const std::string> arguments, const Environment& environment, std::istream& in,
         std::ostream& out, std::ostream& err) {
     const Streams streams{in, out, err};
     Choice choice;
@@ -160,10 +165,10 @@ int run(std::span<const std::string> arguments, const Surroundings& surroundings
         CLI::App& command = add_subcommand(app, calculation.name, choice,
                                            [&calculation] { return calculation_help(calculation); });
         add_options(command, calculation, choice);
-        command.callback([&choice, &surroundings, &streams, &calculation] {
+        command.callback([&choice, &environment, &streams, &calculation] {
             choice.request.kind = calculation.kind;
             choice.action = [&] {
-                return run_calculation(choice.request, choice.json, surroundings, streams);
+                return run_calculation(choice.request, choice.json, environment, streams);
             };
         });
     }
@@ -171,11 +176,11 @@ int run(std::span<const std::string> arguments, const Surroundings& surroundings
     CLI::App& batch = add_subcommand(app, "lotto", choice, batch_help);
     batch.add_option("file", choice.batch_file);
     batch.callback(
-        [&] { choice.action = [&] { return run_batch_command(choice.batch_file, surroundings, streams); }; });
+        [&] { choice.action = [&] { return run_batch_command(choice.batch_file, environment, streams); }; });
 
     CLI::App& altitudes = add_subcommand(app, "altitudini", choice, altitudes_help);
     altitudes.require_subcommand(0, 1);
-    choice.altitude_directory = surroundings.own_directory;
+    choice.altitude_directory = environment.own_directory;
     const auto add_altitude_command = [&](std::string_view name, auto command) {
         CLI::App& action = add_subcommand(altitudes, name, choice, altitudes_help);
         action.add_option("dir", choice.altitude_directory);

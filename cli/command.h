@@ -14,7 +14,7 @@ enum ExitStatus { all_well = 0, failed = 1, bad_usage = 2 };
 
 /// Runs the command with its arguments, the program's name not among them.
 /// @return the exit status
-int run(std::span<const std::string> arguments, const Surroundings& surroundings, std::istream& in,
+int run(std::span<const std::string> arguments, const Environment& environment, std::istream& in,
         std::ostream& out, std::ostream& err);
 
 }  // namespace coltre::cli

@@ -16,7 +16,8 @@ void append_row(std::string& help, std::string_view left, std::string_view right
 }
 
 void append_option(std::string& help, const Key& key) {
-    append_row(help, "--" + std::string(key.name) + " " + std::string(key.placeholder), key.meaning);
+    const std::string value = key.type == KeyType::flag ? "" : " " + std::string(key.placeholder);
+    append_row(help, "--" + std::string(key.name) + value, key.meaning);
 }
 
 }  // namespace

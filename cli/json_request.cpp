@@ -1,192 +1,198 @@
 #include "cli/json_request.h"
 
-#include <nlohmann/json.hpp>
+#include <rapidjson/memorystream.h>
+#include <rapidjson/reader.h>
 
-#include "cli/json_text.h"
+#include "text/characters.h"
 
 namespace coltre::cli {
 
 namespace {
 
-/// Takes the request from the parser's events. The first mistake is kept and the reading goes on, so that the
-/// "id" is found wherever it stands. The value of "id", whatever it is, is written again as it comes.
-class RequestReader {
-  public:
-    using number_integer_t = nlohmann::json::number_integer_t;
-    using number_unsigned_t = nlohmann::json::number_unsigned_t;
-    using number_float_t = nlohmann::json::number_float_t;
-    using string_t = nlohmann::json::string_t;
-    using binary_t = nlohmann::json::binary_t;
+constexpr std::string_view blanks = " \t\r\n";
 
-    explicit RequestReader(JsonRequest& result) : m_result(result) {}
-
-    bool null() { return literal("null"); }
-    bool boolean(bool value) { return literal(value ? "true" : "false"); }
-    bool number_integer(number_integer_t value) { return number(value == 0 ? "-0" : std::to_string(value)); }
-    bool number_unsigned(number_unsigned_t value) { return number(std::to_string(value)); }
-    bool number_float(number_float_t /*value*/, const string_t& text) { return number(text); }
-
-    bool string(string_t& text) {
-        if (echo_value([&] { append_json_string(m_result.id, text); })) return true;
-        if (outside()) return true;
-        if (m_is_kind) {
-            m_result.request.kind = kind_of(text);
-            if (!m_result.request.kind) mistake("calcolo sconosciuto: " + in_quotes(text));
-        } else if (m_key) {
-            m_result.request.set(*m_key, std::move(text));
-        }
-        return true;
+/// Whether a "\u" escape named half a character: the parser lets the second half pass alone.
+bool has_half_character(std::string_view text) {
+    for (std::size_t i = text.find('\xED'); i != std::string_view::npos; i = text.find('\xED', i + 1)) {
+        if (static_cast<unsigned char>(text[i + 1]) >= 0xA0) return true;
     }
-    bool binary(binary_t& /*value*/) { return false; }  // only other formats than JSON hold binary values
+    return false;
+}
 
-    bool start_object(std::size_t /*elements*/) { return open('{'); }
-    bool end_object() { return close('}'); }
-    bool start_array(std::size_t /*elements*/) { return open('['); }
-    bool end_array() { return close(']'); }
+/// Takes the request from the parser's events, which bear the parser's names. The first error is kept and the
+/// reading goes on, so that the "id" is found wherever it stands.
+class RequestHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, RequestHandler> {
+  public:
+    /// @param stream  that the parser reads: the line, or a text of the same length
+    RequestHandler(std::string_view line, const rapidjson::MemoryStream& stream, JsonRequest& result)
+        : m_line(line), m_stream(stream), m_result(result) {}
 
-    bool key(string_t& name) {
-        if (m_in_id) {
-            separate();
-            append_json_string(m_result.id, name);
-            m_result.id += ':';
-            m_after_key = true;
+    bool Null() { return literal("null"); }
+    bool Bool(bool value) {
+        const std::string_view text = value ? "true" : "false";
+        if (m_key && m_key->type == KeyType::flag && is_entry()) {
+            m_result.request.set(*m_key, std::string(text));
             return true;
         }
-        if (m_depth != 1) return true;
-        m_is_id = name == "id";
-        m_is_kind = name == "calcolo";
-        m_key = m_is_id || m_is_kind ? std::nullopt : find_key(name);
-        if (!m_is_id && !m_is_kind && !m_key) mistake("chiave sconosciuta: " + in_quotes(name));
-        const bool repeated = (m_is_id && !m_result.id.empty()) || (m_is_kind && m_result.request.kind) ||
-                              (m_key && m_result.request.value(*m_key) != nullptr);
-        if (repeated) mistake("chiave ripetuta: " + in_quotes(name));
-        if (m_is_id) m_result.id.clear();
-        return true;
+        return literal(text);
     }
 
-    bool parse_error(std::size_t position, const std::string& /*token*/,
-                     const nlohmann::json::exception& error) {
-        constexpr int number_overflow = 406;
-        if (m_in_id) m_result.id.clear();  // cut in the middle
-        m_result.mistake = "JSON illeggibile al carattere " + std::to_string(position);
-        m_number_end = error.id == number_overflow ? position : 0;
-        return false;
-    }
-
-    /// Where the number ends that is too large for the parser; 0 if there was none.
-    [[nodiscard]] std::size_t number_end() const { return m_number_end; }
-
-  private:
-    /// True when the value stands in no object: the line is no request.
-    bool outside() {
-        if (m_depth > 0) return false;
-        mistake("la richiesta deve essere un oggetto JSON");
-        return true;
-    }
-
-    void mistake(std::string text) {
-        if (m_result.mistake.empty()) m_result.mistake = std::move(text);
-    }
-
-    void separate() {
-        if (m_after_key) {
-            m_after_key = false;
-        } else if (!m_result.id.empty() && m_result.id.back() != '[' && m_result.id.back() != '{') {
-            m_result.id += ',';
-        }
-    }
-
-    /// Writes a value that belongs to the "id"; false if it does not.
-    template <typename Write>
-    bool echo_value(Write write) {
-        if (m_in_id) {
-            separate();
-        } else if (m_depth != 1 || !m_is_id) {
-            return m_depth > 1;  // deep inside a value that is a mistake already
-        }
-        write();
-        return true;
-    }
-
-    void wrong_type(std::string_view what) {
-        if (m_is_kind) mistake("«calcolo» deve essere un testo, non " + std::string(what));
-        if (!m_key) return;
-        mistake(in_quotes(m_key->name) + " deve essere " + (m_key->is_number ? "un numero o " : "") +
-                "un testo, non " + std::string(what));
-    }
-
-    bool literal(std::string_view text) {
-        if (!echo_value([&] { m_result.id += text; }) && !outside()) wrong_type(text);
-        return true;
-    }
-
-    bool number(const std::string& text) {
-        if (echo_value([&] { m_result.id += text; }) || outside()) return true;
-        if (m_key && m_key->is_number) {
-            m_result.request.set(*m_key, text);
+    bool RawNumber(const char* /*text*/, std::size_t length, bool /*copy*/) {
+        if (!is_entry()) return true;
+        if (m_key && m_key->type == KeyType::number_or_text) {
+            m_result.request.set(*m_key, std::string(m_line.substr(m_stream.Tell() - length, length)));
         } else {
             wrong_type("un numero");
         }
         return true;
     }
 
-    bool open(char bracket) {
-        const bool of_id = m_in_id || (m_depth == 1 && m_is_id);
-        if (of_id) {
-            if (m_in_id) separate();
-            m_result.id += bracket;
-            m_in_id = true;
-        } else if (m_depth == 1) {
-            wrong_type(bracket == '{' ? "un oggetto" : "una lista");
-        } else if (m_depth == 0 && bracket == '[') {
-            outside();
+    bool String(const char* characters, std::size_t length, bool /*copy*/) {
+        const std::string_view text(characters, length);
+        if (has_half_character(text)) return false;
+        if (!is_entry()) return true;
+        if (m_is_kind) {
+            m_result.request.kind = kind_of(text);
+            if (!m_result.request.kind) error("calcolo sconosciuto: " + in_quotes(text));
+        } else if (m_key && m_key->type == KeyType::flag) {
+            wrong_type("un testo");
+        } else if (m_key) {
+            m_result.request.set(*m_key, std::string(text));
         }
+        return true;
+    }
+
+    bool StartObject() { return open("un oggetto"); }
+    bool EndObject(std::size_t /*members*/) { return close(); }
+    bool StartArray() {
+        if (m_depth == 0) error(no_object);
+        return open("una lista");
+    }
+    bool EndArray(std::size_t /*elements*/) { return close(); }
+
+    bool Key(const char* characters, std::size_t length, bool /*copy*/) {
+        const std::string_view name(characters, length);
+        if (has_half_character(name)) return false;
+        if (m_depth != 1) return true;
+        m_is_id = name == "id";
+        m_is_kind = name == "calcolo";
+        m_key = m_is_id || m_is_kind ? std::nullopt : find_key(name);
+        if (!m_is_id && !m_is_kind && !m_key) error("chiave sconosciuta: " + in_quotes(name));
+        const bool repeated = (m_is_id && !m_result.id.empty()) || (m_is_kind && m_result.request.kind) ||
+                              (m_key && m_result.request.value(*m_key) != nullptr);
+        if (repeated) error("chiave ripetuta: " + in_quotes(name));
+        if (m_is_id) {
+            m_result.id = {};
+            m_id_start = m_line.find_first_not_of(blanks, m_line.find(':', m_stream.Tell()) + 1);
+        }
+        return true;
+    }
+
+  private:
+    static constexpr std::string_view no_object = "la richiesta deve essere un oggetto JSON";
+
+    void error(std::string_view text) {
+        if (m_result.error.empty()) m_result.error = text;
+    }
+
+    void wrong_type(std::string_view what) {
+        if (m_is_kind) error("«calcolo» deve essere un testo, non " + std::string(what));
+        if (!m_key) return;
+        std::string_view expected = "un testo";
+        if (m_key->type == KeyType::number_or_text) expected = "un numero o un testo";
+        if (m_key->type == KeyType::flag) expected = "true o false";
+        error(in_quotes(m_key->name) + " deve essere " + std::string(expected) + ", non " +
+              std::string(what));
+    }
+
+    /// Whether the value just read, no object and no list, is for the request itself: neither the "id", which
+    /// is kept here, nor inside another value, nor outside of the object.
+    bool is_entry() {
+        if (m_depth == 0) error(no_object);
+        if (m_depth != 1) return false;
+        if (m_is_id) keep_id(m_stream.Tell());
+        return !m_is_id;
+    }
+
+    void keep_id(std::size_t end) { m_result.id = m_line.substr(m_id_start, end - m_id_start); }
+
+    bool literal(std::string_view text) {
+        if (is_entry()) wrong_type(text);
+        return true;
+    }
+
+    bool open(std::string_view what) {
+        if (m_depth == 1 && !m_is_id) wrong_type(what);
         ++m_depth;
         return true;
     }
 
-    bool close(char bracket) {
+    bool close() {
         --m_depth;
-        if (m_in_id) m_result.id += bracket;
-        if (m_depth == 1) m_in_id = false;
+        if (m_depth == 1 && m_is_id) keep_id(m_stream.Tell() + 1);  // the bracket is yet to be taken
         return true;
     }
 
+    std::string_view m_line;
+    const rapidjson::MemoryStream& m_stream;
     JsonRequest& m_result;
     std::size_t m_depth = 0;
-    std::optional<Key> m_key;
+    std::optional<coltre::cli::Key> m_key;
     bool m_is_kind = false;
     bool m_is_id = false;
-    bool m_in_id = false;      // inside an "id" that is an object or a list
-    bool m_after_key = false;  // the next value of the "id" follows its key
-    std::size_t m_number_end = 0;
+    std::size_t m_id_start = 0;
 };
+
+/// Reads the line once.
+/// @param parsed  what the parser sees of it, of the same length
+/// @return the start of a number that the parser refuses because it is beyond the range of doubles
+std::optional<std::size_t> read_once(std::string_view line, std::string_view parsed, JsonRequest& result) {
+    constexpr unsigned flags = rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseValidateEncodingFlag |
+                               rapidjson::kParseIterativeFlag;
+    rapidjson::MemoryStream stream(parsed.data(), parsed.size());
+    RequestHandler handler(line, stream, result);
+    rapidjson::Reader reader;
+    const rapidjson::ParseResult end = reader.Parse<flags>(stream, handler);
+    // The parser takes a null character for the end of the text.
+    if (!end.IsError() && stream.Tell() == line.size()) return std::nullopt;
+    const std::size_t position = end.IsError() ? end.Offset() : stream.Tell();
+    result.error =
+        "JSON illeggibile al carattere " + std::to_string(character_count(line.substr(0, position)) + 1);
+    // A number where reading ended may have gone on: the "18" of a line that was cut in "188".
+    const bool ends_there = result.id.data() + result.id.size() == line.data() + position;
+    if (!result.id.empty() && ends_there && result.id.back() >= '0' && result.id.back() <= '9')
+        result.id = {};
+    if (end.Code() != rapidjson::kParseErrorNumberTooBig) return std::nullopt;
+    return position;
+}
 
 }  // namespace
 
 JsonRequest read_json_request(std::string_view line) {
+    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+    if (line.starts_with(byte_order_mark)) line.remove_prefix(byte_order_mark.size());
+
     JsonRequest result;
-    if (line.find_first_not_of(" \t\r") == std::string_view::npos) {
-        result.mistake = "riga vuota";
+    if (line.find_first_not_of(blanks) == std::string_view::npos) {
+        result.error = "riga vuota";
         return result;
     }
-    RequestReader reader(result);
-    nlohmann::json::sax_parse(line, &reader);
-    if (reader.number_end() == 0) return result;
+    auto refused = read_once(line, line, result);
+    if (!refused) return result;
 
-    // A number beyond the range of doubles ends the parser. Between quotation marks it is a text, which every
-    // field reads as what it is: too large. One such number is one too many for any request, so one try is
-    // enough.
-    constexpr std::string_view number_characters = "+-.0123456789Ee";
-    const std::size_t last = line.find_last_of(number_characters, reader.number_end() - 1);
-    const std::size_t before = line.find_last_not_of(number_characters, last);
-    const std::size_t start = before == std::string_view::npos ? 0 : before + 1;
-    std::string quoted(line);
-    quoted.insert(last + 1, 1, '"').insert(start, 1, '"');
-    JsonRequest second;
-    RequestReader second_reader(second);
-    nlohmann::json::sax_parse(quoted, &second_reader);
-    return second;
+    // A number beyond the range is a text like others: the field that reads it finds it too large. A zero as
+    // long takes its place before the parser.
+    constexpr int most_numbers = 32;  // more than any request has
+    std::string parsed(line);
+    for (int tries = 0; refused && tries < most_numbers; ++tries) {
+        const std::size_t end = parsed.find_first_not_of("+-.0123456789Ee", *refused);
+        const std::size_t length = std::min(end, parsed.size()) - *refused;
+        parsed.replace(*refused, length, length, '0');
+        parsed[*refused + 1] = '.';
+        result = {};
+        refused = read_once(line, parsed, result);
+    }
+    return result;
 }
 
 }  // namespace coltre::cli

@@ -10,12 +10,15 @@ namespace coltre::cli {
 /// A line of a batch, read.
 struct JsonRequest {
     Request request;
-    std::string id;       ///< the value of "id" as JSON, to be echoed; empty if there was none
-    std::string mistake;  ///< what is wrong with the line, in Italian; empty if nothing is
+    std::string_view id;  ///< the value of "id" as it stands in the line; empty if there is no whole one
+    std::string error;    ///< what is wrong with the line, in Italian; empty if nothing is
 };
 
 /// Reads a request from one line of JSON: an object whose keys are the names of the options, "calcolo" and
-/// "id". A number is kept as it stands in the line.
+/// "id". A number is kept as it stands in the line, however large. Where the line is no JSON, the error names
+/// the first character that cannot stand where it is, counted from 1: the one after the last if the line is
+/// cut.
+/// @param line  in memory for as long as the id is used
 JsonRequest read_json_request(std::string_view line);
 
 }  // namespace coltre::cli

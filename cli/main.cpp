@@ -1,17 +1,24 @@
+#include <cstdio>
 #include <iostream>
+#include <new>
 #include <string>
 #include <vector>
 
 #include "cli/command.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
+#include "platform/interruption.h"
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
     coltre::take_file_size_limit_as_error();
+    coltre::remove_temporary_files_when_interrupted();
     std::ios::sync_with_stdio(false);
     std::cin.tie(nullptr);  // a batch hands its results on by itself
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
-    const coltre::cli::Surroundings surroundings{
+    const coltre::cli::Environment environment{
         .own_directory = coltre::own_directory(argc > 0 ? argv[0] : ""),
         .decimal_separator = coltre::user_decimal_separator()};
-    return coltre::cli::run(arguments, surroundings, std::cin, std::cout, std::cerr);
+    return coltre::cli::run(arguments, environment, std::cin, std::cout, std::cerr);
+} catch (const std::bad_alloc&) {
+    static_cast<void>(std::fputs("coltre-calcolo: memoria esaurita\n", stderr));
+    return coltre::cli::failed;
 }

@@ -1,6 +1,7 @@
 #include "cli/perform.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
 #include <utility>
 
@@ -8,8 +9,14 @@
 #include "calculate/Calcola2.h"
 #include "calculate/return_period.h"
 #include "cli/site_choice.h"
+#include "document/html.h"
+#include "document/illustrated_report.h"
+#include "document/request_line.h"
+#include "platform/date.h"
+#include "platform/file_replacement.h"
 #include "platform/files.h"
 #include "report/unit_systems.h"
+#include "version/version.h"
 
 namespace coltre::cli {
 
@@ -23,16 +30,49 @@ Fields fields_of(const Request& request, std::string altitude, char decimal_sepa
             .entries = entry_texts(request),
             .udmcombo = request.value_or(keys::unita, unit_items.front()),
             .Check1Box = request.value(keys::relazione) != nullptr,
-            .decimal_separator = decimal_separator};
+            .decimal_separator = decimal_separator,
+            .traced = request.flag(keys::passaggi) || request.value(keys::illustrata) != nullptr};
 }
 
 void append(Messages& messages, Messages more) {
     std::ranges::move(more, std::back_inserter(messages));
 }
 
+/// Gives a datum that the calculation takes from a cell the text that it was typed as.
+void keep_text(std::string_view symbol, const std::string* text, Trace& trace) {
+    const auto datum = std::ranges::find(trace.data, symbol, &Datum::symbol);
+    if (text != nullptr && datum != trace.data.end()) datum->text = *text;
+}
+
+/// Writes the illustrated report that the request asks for. What goes wrong is the request's error, unless
+/// the calculation has failed before.
+void write_illustrated_report(const Request& request, Subject subject, Result& result) {
+    const std::string& name = *request.value(keys::illustrata);
+    const std::string path = find_path(suite_notation(name)).string();
+    subject.program = "Coltre " + std::string(version_and_build());
+    subject.request = request_line(subject);
+    const Layout layout =
+        layout_of(request.value_or(keys::impaginazione, "completa")).value_or(Layout::complete);
+    const TitleBlock title{.work = request.value_or(keys::lavoro, ""), .date = document_date()};
+
+    Failure failure;
+    if (!request.flag(keys::sovrascrivi) && std::filesystem::exists(std::filesystem::symlink_status(path))) {
+        failure = "il file esiste già; con «sovrascrivi» viene sostituito";
+    } else {
+        FileReplacement file(path);
+        file.write(to_html(illustrated_report(subject, title, layout)));
+        failure = file.commit();
+    }
+    if (!failure) {
+        result.illustrated_report = path;
+    } else if (result.end == End::well) {
+        result.fail(End::failed, "Impossibile scrivere il file " + path + ": " + *failure + ".");
+    }
+}
+
 }  // namespace
 
-Result perform(const Request& request, const Surroundings& surroundings, SiteMemory& memory) {
+Result perform(const Request& request, const Environment& environment, SiteMemory& memory) {
     Result result;
     result.kind = request.kind;
     if (std::string error = validation_error(request); !error.empty()) {
@@ -42,7 +82,7 @@ Result perform(const Request& request, const Surroundings& surroundings, SiteMem
     result.partly_understood = partly_understood(request);
 
     Program program;
-    program.directories.ProgramDirectory = surroundings.own_directory;
+    program.directories.ProgramDirectory = environment.own_directory;
     if (const std::string* const directory = request.value(keys::altitudini)) {
         program.directories.ProgramDirectory = suite_notation(*directory);
     }
@@ -51,11 +91,15 @@ Result perform(const Request& request, const Surroundings& surroundings, SiteMem
     }
     program.directories.JobName = request.value_or(keys::lavoro, "");
 
+    Subject subject;
     std::string altitude;
     if (request.value(keys::provincia) != nullptr) {
         const auto site = site_by_name(request, program, memory, result);
         if (!site) return result;
-        altitude = site->altitude;
+        altitude = subject.listed_altitude = site->altitude;
+        subject.province = site->province;
+        subject.municipality = site->municipality;
+        subject.zone_of_province = request.value(keys::zona) == nullptr;
     }
     if (const std::string* const given = request.value(keys::altitudine)) altitude = *given;
     if (const std::string* const given = request.value(keys::zona)) program.cells.zone = *zone_of(*given);
@@ -70,14 +114,17 @@ Result perform(const Request& request, const Surroundings& surroundings, SiteMem
         }
     }
 
-    const Fields fields = fields_of(request, std::move(altitude), surroundings.decimal_separator);
+    const Fields fields = fields_of(request, std::move(altitude), environment.decimal_separator);
     const bool main_window = describe(fields.kind).window == Window::main;
     if (main_window) {
         if (auto notice = altitude_notice(fields)) result.messages.push_back(std::move(notice->message));
     }
     Outcome outcome = main_window ? Calcola(fields, program) : Calcola2(fields, program);
-    append(result.messages, std::move(outcome.messages));
-    result.calculation = std::move(outcome.calculation);
+    append(result.messages, outcome.messages);
+    if (outcome.trace) keep_text("zona", request.value(keys::zona), *outcome.trace);
+    if (outcome.trace) keep_text("Tr", request.value(keys::periodo_ritorno), *outcome.trace);
+    result.calculation = outcome.calculation;
+    if (request.flag(keys::passaggi)) result.trace = outcome.trace;
     result.altitude = outcome.altitude;
     result.qsk = outcome.qsk;
     if (outcome.fault != Fault::none) {
@@ -86,6 +133,14 @@ Result perform(const Request& request, const Surroundings& surroundings, SiteMem
         result.fail(End::failed_with_message, outcome.file_failure);
     }
     if (!outcome.report.empty()) result.report = find_path(outcome.report).string();
+    if (request.value(keys::illustrata) != nullptr) {
+        subject.fields = fields;
+        subject.outcome = std::move(outcome);
+        subject.zone = program.cells.zone;
+        subject.return_period = program.cells.return_period;
+        subject.confirmed_return_period = program.cells.confirmed_return_period;
+        write_illustrated_report(request, std::move(subject), result);
+    }
     return result;
 }
 

@@ -9,14 +9,14 @@
 namespace coltre::cli {
 
 /// Where a request finds what it does not say.
-struct Surroundings {
+struct Environment {
     std::string own_directory;  ///< of the program, in the suite's notation: holds altitudini.txt by default
     char decimal_separator = '.';  ///< of the user's locale, for the strictly read fields
 };
 
-/// Performs one request on fresh program cells. By name the road is the window's: choosing the province, then
-/// the municipality; a missing altitudini.txt is written on the way.
-/// @param memory  sites found by earlier requests of the same batch
-Result perform(const Request& request, const Surroundings& surroundings, SiteMemory& memory);
+/// Performs one request on fresh program cells. A site by name is chosen as in the window, province, then
+/// municipality, but an altitudini.txt that is there stays as it is; a missing one is written.
+/// @param memory  tables and sites that earlier requests of the same batch asked for
+Result perform(const Request& request, const Environment& environment, SiteMemory& memory);
 
 }  // namespace coltre::cli

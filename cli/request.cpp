@@ -14,8 +14,9 @@ namespace {
 
 using namespace keys;
 
-constexpr std::array common{provincia, comune, zona,   altitudine, periodo_ritorno, ce,
-                            ct,        unita,  lavoro, relazione,  altitudini};
+constexpr std::array common{provincia,  comune,   zona,       altitudine,    periodo_ritorno,
+                            ce,         ct,       unita,      lavoro,        relazione,
+                            altitudini, passaggi, illustrata, impaginazione, sovrascrivi};
 
 std::string missing(const Key& key) {
     return "manca " + in_quotes(key.name);
@@ -56,7 +57,7 @@ Key key_of(const Entry& entry) {
     // The help has the symbol for the value, "--larghezza L"; of a longer one the first letter.
     constexpr std::string_view letters = "ALHBQ";
     const char first = static_cast<char>(std::toupper(static_cast<unsigned char>(entry.symbol.front())));
-    return {entry.key, letters.substr(letters.find(first), 1), entry.meaning, true};
+    return {entry.key, letters.substr(letters.find(first), 1), entry.meaning, KeyType::number_or_text};
 }
 
 std::optional<Key> find_key(std::string_view name) {
@@ -82,6 +83,11 @@ std::string in_quotes(std::string_view text) {
 const std::string* Request::value(std::string_view key) const {
     const auto found = std::ranges::find(m_values, key, &std::pair<std::string_view, std::string>::first);
     return found == m_values.end() ? nullptr : &found->second;
+}
+
+bool Request::flag(const Key& key) const {
+    const std::string* const given = value(key);
+    return given != nullptr && *given == "true";
 }
 
 std::string Request::value_or(const Key& key, std::string_view otherwise) const {
@@ -115,6 +121,13 @@ std::optional<SnowZone> zone_of(std::string_view text) {
     return static_cast<SnowZone>(number.value);
 }
 
+std::optional<Layout> layout_of(std::string_view text) {
+    if (text == "completa") return Layout::complete;
+    if (text == "sintetica") return Layout::brief;
+    if (text == "passaggi") return Layout::steps_alone;
+    return std::nullopt;
+}
+
 std::string validation_error(const Request& request) {
     if (!request.kind) return "manca " + in_quotes("calcolo");
     for (const auto& [key, text] : request.values()) {
@@ -137,6 +150,11 @@ std::string validation_error(const Request& request) {
             return "la cartella di " + in_quotes(key.name) + " contiene un carattere nullo";
         }
     }
+    if (const std::string* const file = request.value(illustrata); file != nullptr && file->empty())
+        return "manca il nome del file di " + in_quotes(illustrata.name);
+    if (const std::string* const layout = request.value(impaginazione);
+        layout != nullptr && !layout_of(*layout))
+        return "l'impaginazione deve essere completa, sintetica o passaggi: " + in_quotes(*layout);
     return {};
 }
 

@@ -8,36 +8,53 @@
 #include <vector>
 
 #include "calculate/calculations.h"
+#include "document/illustrated_report.h"
 #include "engine/program_cells.h"
 
 // What is asked of the command: one calculation, from its options or from a line of a batch.
 namespace coltre::cli {
+
+/// What a batch may give for a key. An option of the command is always a text, but for a flag, which has no
+/// value.
+enum class KeyType { text, number_or_text, flag };
 
 /// A value that a request may hold, and how users write it.
 struct Key {
     std::string_view name;         ///< long option without its dashes, and key of a batch request
     std::string_view placeholder;  ///< what stands for its value in the help
     std::string_view meaning;      ///< Italian
-    bool is_number;                ///< a batch may give it as a number or as a text; others as a text only
+    KeyType type;
 };
 
 /// The keys that every calculation takes.
 namespace keys {
-inline constexpr Key provincia{"provincia", "P", "provincia; ne viene la zona", false};
-inline constexpr Key comune{"comune", "C", "comune; ne viene l'altitudine, da altitudini.txt", false};
-inline constexpr Key zona{
-    "zona", "0..3", "zona: 0 I Alpina, 1 I Mediterranea, 2 II, 3 III; vince su quella della provincia", true};
-inline constexpr Key altitudine{"altitudine", "M", "altitudine [m]; vince su quella del comune", true};
+inline constexpr Key provincia{"provincia", "P", "provincia; ne viene la zona", KeyType::text};
+inline constexpr Key comune{"comune", "C", "comune; ne viene l'altitudine, da altitudini.txt", KeyType::text};
+inline constexpr Key zona{"zona", "0..3",
+                          "zona: 0 I Alpina, 1 I Mediterranea, 2 II, 3 III; vince su quella della provincia",
+                          KeyType::number_or_text};
+inline constexpr Key altitudine{"altitudine", "M", "altitudine [m]; vince su quella del comune",
+                                KeyType::number_or_text};
 inline constexpr Key periodo_ritorno{"periodo-ritorno", "TR",
-                                     "periodo di ritorno [anni]; senza, il coefficiente resta 1.0", true};
-inline constexpr Key ce{"ce", "CE", "coefficiente di esposizione (1.0)", true};
-inline constexpr Key ct{"ct", "CT", "coefficiente termico (1.0)", true};
-inline constexpr Key unita{"unita", "U",
-                           R"(unità della relazione: "kN , m", "Kgf , m" o "kgf , cm" (kN , m))", false};
-inline constexpr Key lavoro{"lavoro", "NOME", "nome del lavoro nella relazione", false};
-inline constexpr Key relazione{"relazione", "DIR", "scrive la relazione in questa cartella", false};
+                                     "periodo di ritorno [anni]; senza, il coefficiente resta 1.0",
+                                     KeyType::number_or_text};
+inline constexpr Key ce{"ce", "CE", "coefficiente di esposizione (1.0)", KeyType::number_or_text};
+inline constexpr Key ct{"ct", "CT", "coefficiente termico (1.0)", KeyType::number_or_text};
+inline constexpr Key unita{
+    "unita", "U", R"(unità della relazione: "kN , m", "Kgf , m" o "kgf , cm" (kN , m))", KeyType::text};
+inline constexpr Key lavoro{"lavoro", "NOME", "nome del lavoro nella relazione", KeyType::text};
+inline constexpr Key relazione{"relazione", "DIR", "scrive la relazione in questa cartella", KeyType::text};
 inline constexpr Key altitudini{"altitudini", "DIR", "cartella di altitudini.txt (quella del programma)",
-                                false};
+                                KeyType::text};
+inline constexpr Key passaggi{"passaggi", "", "aggiunge i passaggi del calcolo, formula per formula",
+                              KeyType::flag};
+inline constexpr Key illustrata{"illustrata", "FILE", "scrive la relazione illustrata, HTML, in questo file",
+                                KeyType::text};
+inline constexpr Key impaginazione{"impaginazione", "I",
+                                   "della relazione illustrata: completa, sintetica o passaggi (completa)",
+                                   KeyType::text};
+inline constexpr Key sovrascrivi{"sovrascrivi", "", "la relazione illustrata sostituisce un file che esiste",
+                                 KeyType::flag};
 }  // namespace keys
 
 /// In the order of the help.
@@ -62,6 +79,8 @@ class Request {
     /// The text given for the key; null if there is none.
     [[nodiscard]] const std::string* value(std::string_view key) const;
     [[nodiscard]] const std::string* value(const Key& key) const { return value(key.name); }
+    /// Whether the flag is given and true.
+    [[nodiscard]] bool flag(const Key& key) const;
     [[nodiscard]] std::string value_or(const Key& key, std::string_view otherwise) const;
 
     /// @param key  one that find_key() or common_keys() gave; a value that it has already is replaced
@@ -81,6 +100,9 @@ std::vector<std::string> entry_texts(const Request& request);
 
 /// The zone of a text such as "2"; nothing for anything but a whole number from 0 to 3.
 std::optional<SnowZone> zone_of(std::string_view text);
+
+/// The layout of the illustrated report of this name; nothing if there is none.
+std::optional<Layout> layout_of(std::string_view text);
 
 /// What is wrong with a request, in Italian: a key of another calculation, a missing one, no whole site, a
 /// zone outside 0 to 3, an unknown unit system. Empty if nothing is. Looks at no file.

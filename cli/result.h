@@ -30,7 +30,9 @@ struct Result {
     std::optional<SnowZone> zone;
     std::optional<double> qsk;  ///< kN/m2
     Calculation calculation;
-    std::string report;  ///< path of the report; empty if none was written
+    std::string report;              ///< path of the report; empty if none was written
+    std::string illustrated_report;  ///< likewise of the illustrated one
+    std::optional<Trace> trace;      ///< if it was asked for
     Messages messages;
     std::vector<std::string> partly_understood;  ///< in Italian, one text an entry
     End end = End::well;

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "calculate/entry_reader.h"
 #include "cli/result.h"
 #include "site/regions.h"
 #include "text/characters.h"
@@ -32,6 +33,34 @@ void append_text_row(std::string& table, std::string_view name, std::string_view
     table += left(name, name_width) + "  " + std::string(text) + '\n';
 }
 
+std::string with_unit(double value, std::string_view unit) {
+    std::string text = shortest_number_text(value);
+    if (!unit.empty()) text.append(" ").append(unit);
+    return text;
+}
+
+/// A line of a step below its symbol.
+void append_step_line(std::string& table, std::string_view before, std::string_view text) {
+    if (!text.empty()) table.append("    ").append(before).append(text).append("\n");
+}
+
+void append_trace(std::string& table, const Trace& trace) {
+    table += "\nDati\n";
+    for (const Datum& datum : trace.data)
+        append_text_row(table, "  " + datum.symbol, with_unit(datum.value, datum.unit));
+    table += "\nPassaggi\n";
+    for (const Step& step : trace.steps) {
+        table.append("  ").append(step.symbol).append(" = ").append(step.formula).append("\n");
+        if (step.numbers != step.formula) append_step_line(table, "= ", step.numbers);
+        append_step_line(table, "",
+                         step.value ? "= " + with_unit(*step.value, step.quantity.unit)
+                                    : "non si può calcolare: " + std::string(fault_text(step.fault)));
+        append_step_line(table, "dove ", step.condition);
+        append_step_line(table, "governa ", step.governs);
+        append_step_line(table, "fonte: ", step.source);
+    }
+}
+
 }  // namespace
 
 std::string to_table(const Result& result) {
@@ -53,6 +82,9 @@ std::string to_table(const Result& result) {
     for (const auto& [cell, value] : result.calculation.results)
         append_row(table, cell->name, fixed_number_text(value, cell->quantity.decimals), cell->quantity.unit);
     if (!result.report.empty()) append_text_row(table, "Relazione", result.report);
+    if (!result.illustrated_report.empty())
+        append_text_row(table, "Relazione illustrata", result.illustrated_report);
+    if (result.trace) append_trace(table, *result.trace);
     return table;
 }
 

@@ -6,6 +6,9 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/files.h"
+#include "site/altitude_file.h"
+#include "site/built_in_altitudes.h"
 #include "site/municipalities.h"
 #include "site/regions.h"
 #include "text/names.h"
@@ -18,7 +21,7 @@ namespace {
 /// in case, accents, apostrophes and blanks alone.
 struct NameSearch {
     std::string found;
-    std::string mistake;  ///< Italian; empty if the name was found
+    std::string error;  ///< Italian; empty if the name was found
 };
 
 NameSearch find_name(std::string_view what, std::string_view typed, std::span<const std::string> names) {
@@ -32,50 +35,63 @@ NameSearch find_name(std::string_view what, std::string_view typed, std::span<co
     if (hits.size() == 1) return {hits.front(), {}};
 
     const auto nearest = hits.empty() ? nearest_names(typed, names, 3) : hits;
-    std::string mistake = std::string(what) + (hits.empty() ? " sconosciut" : " ambigu");
-    mistake += what == "provincia" ? "a" : "o";
-    mistake += ": " + in_quotes(typed);
+    std::string error = std::string(what) + (hits.empty() ? " sconosciut" : " ambigu");
+    error += what == "provincia" ? "a" : "o";
+    error += ": " + in_quotes(typed);
     for (std::size_t i = 0; i < nearest.size(); ++i)
-        mistake += (i == 0 ? "; forse " : ", ") + nearest[i];
-    return {{}, mistake};
+        error += (i == 0 ? "; forse " : ", ") + nearest[i];
+    return {{}, error};
 }
 
-std::vector<std::string> all_provinces() {
-    std::vector<std::string> provinces;
-    for (int region = 0; region < static_cast<int>(regions().size()); ++region)
-        FillProvinces(region, provinces);
-    return provinces;
+/// Ends the request with a message, which says what went wrong.
+std::nullopt_t end_with(Message message, Result& result) {
+    result.fail(End::failed_with_message, message.text);
+    result.messages.push_back(std::move(message));
+    return std::nullopt;
 }
 
-/// Chooses province and municipality as the window does.
+std::nullopt_t end_with_error(std::string error, Result& result) {
+    result.fail(End::failed, std::move(error));
+    return std::nullopt;
+}
+
+Message built_in_answered(const std::string& province) {
+    return {
+        Icon::information, std::string(program_title),
+        "La provincia " + province +
+            " non si legge dal file altitudini.txt:\rvale la tabella del programma. Il file resta com'è."};
+}
+
+/// Chooses province and municipality as the window does, but that an altitudini.txt which does not give them
+/// stays as it is: the built-in table answers in its place.
 /// @return nothing, with the error in the result, where the site cannot be had
-std::optional<Site> choose_site(std::string_view typed_province, std::string_view typed_municipality,
-                                Program& program, Result& result) {
-    static const std::vector<std::string> provinces = all_provinces();
-    const NameSearch province = find_name("provincia", typed_province, provinces);
-    if (!province.mistake.empty()) {
-        result.fail(End::failed, province.mistake);
-        return std::nullopt;
+std::optional<Site> choose_site(const Request& request, const std::string& directory, SiteMemory& memory,
+                                Result& result) {
+    static const std::vector<std::string> all_provinces(provinces().begin(), provinces().end());
+    const NameSearch province = find_name("provincia", *request.value(keys::provincia), all_provinces);
+    if (!province.error.empty()) return end_with_error(province.error, result);
+
+    const AltitudeTable& table = memory.table(directory);
+    if (table.missing) return end_with(altitude_write_error(), result);
+    if (table.failure)
+        return end_with_error("Impossibile leggere il file " +
+                                  find_path(altitude_file_name(directory)).string() + ": " + *table.failure,
+                              result);
+    std::string_view file = table.bytes;
+    auto municipalities = municipalities_in(file, province.found);
+    const bool from_built_in = !municipalities;
+    if (from_built_in) {
+        file = built_in_altitude_file();
+        municipalities = municipalities_in(file, province.found);
+        if (!municipalities) return end_with(altitude_read_error(), result);
+        result.messages.push_back(built_in_answered(province.found));
     }
-    program.cells.zone = ZoneOfProvince(province.found).zone;
-    const auto municipalities =
-        FillMunicipalities(program.directories.ProgramDirectory, province.found, result.messages);
-    if (!municipalities) {
-        result.fail(End::failed_with_message, result.messages.back().text);
-        return std::nullopt;
-    }
-    const NameSearch municipality = find_name("comune", typed_municipality, municipalities->names);
-    if (!municipality.mistake.empty()) {
-        result.fail(End::failed, municipality.mistake);
-        return std::nullopt;
-    }
-    const auto altitude = ReadAltitude(program.directories.ProgramDirectory, province.found,
-                                       municipality.found, result.messages);
-    if (!altitude) {
-        result.fail(End::failed_with_message, result.messages.back().text);
-        return std::nullopt;
-    }
-    return Site{province.found, municipality.found, *altitude, program.cells.zone};
+    const NameSearch municipality = find_name("comune", *request.value(keys::comune), *municipalities);
+    if (!municipality.error.empty()) return end_with_error(municipality.error, result);
+    const auto altitude = altitude_in(file, province.found, municipality.found);
+    if (!altitude) return end_with(altitude_read_error(), result);
+    return Site{province.found, municipality.found, *altitude, ZoneOfProvince(province.found).zone,
+                from_built_in};
 }
 
 }  // namespace
@@ -85,9 +101,12 @@ std::optional<Site> site_by_name(const Request& request, Program& program, SiteM
     const std::string& directory = program.directories.ProgramDirectory;
     const std::string& province = *request.value(keys::provincia);
     const std::string& municipality = *request.value(keys::comune);
-    auto site = memory.recall(directory, province, municipality);
-    if (!site) {
-        site = choose_site(province, municipality, program, result);
+    std::optional<Site> site;
+    if (const Site* const known = memory.recall(directory, province, municipality)) {
+        site = *known;
+        if (site->from_built_in) result.messages.push_back(built_in_answered(site->province));
+    } else {
+        site = choose_site(request, directory, memory, result);
         if (site) memory.keep(directory, province, municipality, *site);
     }
     // An answer without a site still says which one was asked for.

@@ -21,6 +21,7 @@ struct Subject {
     std::string listed_altitude;  ///< m, of the municipality in altitudini.txt; empty without one
     double return_period = 50;    ///< Tr, years, as last typed
     std::optional<double> confirmed_return_period;
+    std::string program;  ///< its version and build
     std::string request;  ///< the request of the command that gives the same, one line of JSON
 };
 
@@ -33,8 +34,8 @@ enum class Layout {
 
 /// What the engineer fills in; what is empty stays a line to write on.
 struct TitleBlock {
-    std::string work, client, place, designer, sheet, revision;
-    std::string date;  ///< as it is to be printed
+    std::string work{}, client{}, place{}, designer{}, sheet{}, revision{};
+    std::string date{};  ///< as it is to be printed
 };
 
 /// The document. The same arguments give the same document.

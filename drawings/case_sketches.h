@@ -10,7 +10,7 @@ Drawing one_pitch_sketch(const Entries& entries, const ProgramCells* loads);
 Drawing two_pitches_sketch(const Entries& entries, const ProgramCells* loads);
 Drawing several_pitches_sketch(const Entries& entries, const ProgramCells* loads);
 Drawing cylindrical_sketch(const Entries& entries, const ProgramCells* loads);
-Drawing level_change_sketch(const Entries& entries, const ProgramCells* loads);
+Drawing level_change_sketch(const Entries& entries, const ProgramCells* loads, bool drift_length_shown);
 Drawing wall_sketch(const Entries& entries, const ProgramCells* loads);
 Drawing snow_guard_sketch(const Entries& entries);
 

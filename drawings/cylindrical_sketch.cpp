@@ -63,6 +63,7 @@ void add_eaves_load(Drawing& drawing, const Vault& vault, bool left, double roof
 
 Drawing cylindrical_sketch(const Entries& entries, const ProgramCells* loads) {
     Drawing drawing;
+    drawing.page.width = wide_page;
     drawing.neutral =
         !is_drawable_length(entries.L) || !is_drawable_length(entries.H) || entries.L / 2 < entries.H;
     const double L = drawing.neutral ? 10 : entries.L;
@@ -70,8 +71,8 @@ Drawing cylindrical_sketch(const Entries& entries, const ProgramCells* loads) {
     const double rise = span * H / L;
     const double half_angle = 2 * std::atan(2 * H / L);
     const double springing = 2400 + 650 * rise / max_rise;
-    const Vault uniform{480, springing, rise, half_angle};
-    const Vault asymmetric{4520, springing, rise, half_angle};
+    const Vault uniform{600, springing, rise, half_angle};
+    const Vault asymmetric{5600, springing, rise, half_angle};
 
     const ProgramCells results =
         loads != nullptr ? *loads : results_of_unit_ground_load({.kind = Kind::cylindrical, .L = L, .H = H});
@@ -99,9 +100,7 @@ Drawing cylindrical_sketch(const Entries& entries, const ProgramCells* loads) {
     add_load(drawing, {{zone2, base}, {zone2 + quarter, top(qs_left)}, {zone2 + 2 * quarter, base}}, base);
     add_load(drawing,
              {{zone2 + 2 * quarter, base}, {zone2 + 3 * quarter, top(qs_right)}, {zone2 + zone, base}}, base);
-    for (int i = 0; i < 4; ++i) {
-        add_horizontal_dimension(drawing, zone2 + i * quarter, zone2 + (i + 1) * quarter, zone_line);
-    }
+    add_horizontal_dimension(drawing, zone2, zone2 + quarter, zone_line, beyond_roof);
     add_eaves_load(drawing, asymmetric, true, qs_left);
     add_eaves_load(drawing, asymmetric, false, qs_right);
 
@@ -120,13 +119,17 @@ Drawing cylindrical_sketch(const Entries& entries, const ProgramCells* loads) {
     constexpr double top_row = 240;
     const double eaves_row = springing + 600;
     add_slot(drawing, "carico_11", {uniform.centre(), top_row}, Align::centre, "qs =", "kN/m²");
-    add_slot(drawing, "carico_12", {7420 - slot_width("", "kN/m²"), top_row}, Align::right, "", "kN/m²");
-    add_slot(drawing, "carico_13", {page_right, top_row}, Align::right, "", "kN/m²");
+    // The triangles stand close together: the labels make room for each other.
+    const double between = slot_width("qs =", "kN/m²") / 2 + 20;
+    add_slot(drawing, "carico_12", {asymmetric.centre() - between, top_row}, Align::centre, "qs =", "kN/m²");
+    add_slot(drawing, "carico_13", {asymmetric.centre() + between, top_row}, Align::centre, "qs =", "kN/m²");
     add_slot(drawing, "L1output", {uniform.centre(), zone_row}, Align::centre, "L1 =", "m");
-    add_slot(drawing, "L2output", {asymmetric.left, zone_row}, Align::left, "L2 =", "");
-    add_slot(drawing, "spor_8", {uniform.left - 400, eaves_row}, Align::left, "qe =", "kN/m");
-    add_slot(drawing, "spor_9", {asymmetric.left + 900, eaves_row}, Align::right, "", "kN/m");
-    add_slot(drawing, "spor_10", {page_right, eaves_row}, Align::right, "", "kN/m");
+    // The quarter is too short for it.
+    add_slot(drawing, "L2output", {zone2 - 140, zone_line}, Align::right, "L2 =", "m");
+    add_slot(drawing, "spor_8", {80, eaves_row}, Align::left, "qe =", "kN/m");
+    add_slot(drawing, "spor_8", {uniform.right() + 190, eaves_row}, Align::centre, "qe =", "kN/m");
+    add_slot(drawing, "spor_9", {asymmetric.left - 80, eaves_row}, Align::centre, "qe =", "kN/m");
+    add_slot(drawing, "spor_10", {asymmetric.right() + 80, eaves_row}, Align::centre, "qe =", "kN/m");
     add_caption(drawing, "0.5µ3 a sinistra, µ3 a destra", {asymmetric.centre(), bottom_row}, 3400);
     return drawing;
 }

@@ -7,7 +7,8 @@
 namespace coltre {
 
 const LabelSlot* Drawing::find_slot(const std::string& name) const {
-    const auto slot = std::ranges::find(label_slots, name, &LabelSlot::name);
+    const auto slot = std::ranges::find_if(
+        label_slots, [&name](const LabelSlot& it) { return it.name == name && !it.repeats; });
     return slot == label_slots.end() ? nullptr : &*slot;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -49,6 +50,9 @@ enum class Role {
     axis,          ///< auxiliary lines
     break_mark,    ///< where a part too long or too short for the scale is cut
     caption,       ///< texts beside the drawing
+    curve,         ///< of a diagram
+    other_curve,   ///< of a diagram, to compare with
+    mark,          ///< this roof on a curve
 };
 
 /// A line of straight pieces, or an area when closed.
@@ -75,25 +79,31 @@ struct Text {
     Align align{};
 };
 
-/// Where a window puts a result label: the number stands centred in the area between the two texts.
+/// Where a window puts a result label: the number stands between the two texts.
 struct LabelSlot {
     std::string name;    ///< name of the label, "carico_1" for instance
     Rect area;           ///< room for the number and the texts beside it
+    Align align{};       ///< where they stand in it
     std::string before;  ///< symbol, "qs =" for instance
     std::string after;   ///< unit
     bool visible = true;
+    bool repeats = false;  ///< a label stands once: here its number is drawn again
 };
+
+/// Texts of result labels by the names of their slots, UTF-8.
+using LabelTexts = std::map<std::string, std::string>;
 
 /// A complete sketch. All that it holds lies within the page.
 struct Drawing {
     Rect page{0, 0, 7500, 4300};
     bool neutral = false;  ///< the entries make no roof: a general shape stands for it, without dimensions
+    bool pending = false;  ///< the numbers of its labels belong to other entries: they are shown in grey
     std::vector<Shape> shapes;
     std::vector<Arrow> arrows;
     std::vector<Text> texts;
     std::vector<LabelSlot> label_slots;
 
-    /// The slot of that name, or null.
+    /// The slot where the label of that name stands, or null.
     [[nodiscard]] const LabelSlot* find_slot(const std::string& name) const;
 };
 

@@ -143,17 +143,24 @@ void add_wall_stub(Drawing& drawing, Point top_left, Point top_right, double low
         add_line(drawing, Role::hatch, from, to);
     add_line(drawing, Role::wall, top_left, section[3]);
     add_line(drawing, Role::wall, top_right, section[2]);
-    add_break(drawing, {(top_left.x + top_right.x) / 2, lower_end}, false);
+    add_break(drawing, {(top_left.x + top_right.x) / 2, lower_end}, lying);
 }
 
-void add_break(Drawing& drawing, Point centre, bool upright) {
-    constexpr std::array<Point, 6> lying{{{-150, 0}, {-40, 0}, {-15, -65}, {15, 65}, {40, 0}, {150, 0}}};
-    Shape zigzag{Role::break_mark, {}, false};
-    for (const Point p : lying) {
-        zigzag.points.push_back(upright ? Point{centre.x + p.y, centre.y + p.x}
-                                        : Point{centre.x + p.x, centre.y + p.y});
+void add_break(Drawing& drawing, Point centre, Point across) {
+    constexpr std::array<Point, 6> zigzag{{{-150, 0}, {-40, 0}, {-15, -65}, {15, 65}, {40, 0}, {150, 0}}};
+    Shape mark{Role::break_mark, {}, false};
+    for (const Point p : zigzag) {
+        mark.points.push_back(
+            {centre.x + p.x * across.x - p.y * across.y, centre.y + p.x * across.y + p.y * across.x});
     }
-    drawing.shapes.push_back(std::move(zigzag));
+    drawing.shapes.push_back(std::move(mark));
+}
+
+void add_slab_break(Drawing& drawing, Point end, Point inner, double thickness) {
+    const double length = std::hypot(inner.x - end.x, inner.y - end.y);
+    Point down{(end.y - inner.y) / length, (inner.x - end.x) / length};
+    if (down.y < 0) down = {-down.x, -down.y};
+    add_break(drawing, {end.x + down.x * thickness / 2, end.y + down.y * thickness / 2}, down);
 }
 
 void add_load(Drawing& drawing, const std::vector<Point>& ordinates, double base, Role line_role) {
@@ -182,7 +189,7 @@ void add_horizontal_dimension(Drawing& drawing, double x0, double x1, double y, 
     add_line(drawing, role, {x0 - overrun, y}, {x1 + overrun, y});
     for (const double x : {x0, x1})
         add_line(drawing, role, {x - tick, y + tick}, {x + tick, y - tick});
-    if (broken) add_break(drawing, {(x0 + x1) / 2, y}, false);
+    if (broken) add_break(drawing, {(x0 + x1) / 2, y}, lying);
 }
 
 void add_vertical_dimension(Drawing& drawing, double x, double y0, double y1, bool broken) {
@@ -190,7 +197,7 @@ void add_vertical_dimension(Drawing& drawing, double x, double y0, double y1, bo
     for (const double y : {y0, y1}) {
         add_line(drawing, Role::dimension, {x - tick, y + tick}, {x + tick, y - tick});
     }
-    if (broken) add_break(drawing, {x, (y0 + y1) / 2}, true);
+    if (broken) add_break(drawing, {x, (y0 + y1) / 2}, upright);
 }
 
 void add_pitch_mark(Drawing& drawing, Point apex, double pitch, int direction, double length) {
@@ -227,11 +234,12 @@ double slot_width(const std::string& before, const std::string& after) {
 
 void add_slot(Drawing& drawing, const std::string& name, Point at, Align align, const std::string& before,
               const std::string& after) {
-    constexpr double margin = 40;
+    constexpr double margin = 20;
     Rect area = box_at(at, align, slot_width(before, after), slot_height);
     const Rect& page = drawing.page;
     area.x = std::clamp(area.x, page.x + margin, page.right() - margin - area.width);
-    drawing.label_slots.push_back({name, area, before, after});
+    const bool repeats = drawing.find_slot(name) != nullptr;
+    drawing.label_slots.push_back({name, area, align, before, after, true, repeats});
 }
 
 }  // namespace coltre

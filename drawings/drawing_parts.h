@@ -10,11 +10,11 @@
 namespace coltre {
 
 // Twips of the page.
+inline constexpr double wide_page = 9660;  ///< of sketches with several roofs side by side
 inline constexpr double page_middle = 3750;
-inline constexpr double page_right = 7460;  ///< where labels at the right end
 inline constexpr double slab_thickness = 110;
-inline constexpr double slot_height = 320;    ///< of every label slot
-inline constexpr double number_width = 1080;  ///< room of the number in a label slot
+inline constexpr double slot_height = 320;   ///< of every label slot
+inline constexpr double number_width = 960;  ///< room of the number in a label slot
 
 double radians(double degrees);
 
@@ -64,8 +64,16 @@ void add_section(Drawing& drawing, Role role, std::vector<Point> outline);
 /// @param top_left, top_right  where the wall meets the slab
 void add_wall_stub(Drawing& drawing, Point top_left, Point top_right, double lower_end);
 
-/// Zigzag across a part that goes on, upright or lying.
-void add_break(Drawing& drawing, Point centre, bool upright);
+/// Zigzag where a part goes on.
+/// @param across  unit vector along the zigzag
+void add_break(Drawing& drawing, Point centre, Point across);
+inline constexpr Point lying{1, 0};
+inline constexpr Point upright{0, 1};
+
+/// Zigzag where a slab goes on, across its section.
+/// @param end    of its upper side
+/// @param inner  the point before it on the upper side
+void add_slab_break(Drawing& drawing, Point end, Point inner, double thickness);
 
 /// A load diagram on a horizontal base: its area, its ordinates, evenly spaced arrows down to the base.
 /// @param ordinates  from left to right; nothing is drawn when all lie on the base
@@ -93,6 +101,7 @@ void add_caption(Drawing& drawing, const std::string& text, Point centre, double
 /// Room of a label slot with its texts.
 double slot_width(const std::string& before, const std::string& after);
 
+/// The slot of a label; of a name that has one already, a place where its number is repeated.
 /// @param at  left end, centre or right end of the slot, halfway up; the slot is kept within the page
 void add_slot(Drawing& drawing, const std::string& name, Point at, Align align, const std::string& before,
               const std::string& after);

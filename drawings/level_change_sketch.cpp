@@ -36,7 +36,7 @@ void fit_to_page(LevelChange& shape, const Rect& page) {
     shape.rise = shape.upper_width.twips * slope;
     // The drawing stands halfway up the page, with its labels and dimensions.
     constexpr double below = 1210;
-    const double above = std::max(room + 420, shape.height.twips + shape.rise + 270);
+    const double above = std::max(room + 420, shape.height.twips + shape.rise + 340);
     shape.lower_level = page.y + (page.height + above - below) / 2;
 }
 
@@ -49,19 +49,20 @@ void add_upper_roof(Drawing& drawing, const Entries& entries, const LevelChange&
     const double slope = std::tan(radians(shape.alfa));
     const double under_slab = slab_thickness / std::cos(radians(shape.alfa)) - slab_thickness * slope;
     add_wall_stub(drawing, {step - slab_thickness, eaves.y + under_slab}, {step, eaves.y},
-                  shape.lower_level + 420);
-    if (shape.upper_width.broken) add_break(drawing, {ridge.x, ridge.y + slab_thickness / 2}, true);
+                  shape.lower_level + 220);
+    if (shape.upper_width.broken) add_slab_break(drawing, ridge, eaves, slab_thickness);
     add_pitch_mark(drawing, ridge, shape.alfa, 1, std::clamp(width, 400.0, 900.0));
     const std::string pitch = pitch_text(drawing, "α", entries.alfa);
     add_text(drawing, Role::dimension, pitch,
-             {std::min(ridge.x + 100 + text_width(pitch), step - 60), ridge.y - 150}, Align::right);
+             {std::min(ridge.x + 100 + text_width(pitch), step - 60), ridge.y - 200}, Align::right);
 }
 
 void add_dimensions(Drawing& drawing, const Entries& entries, const LevelChange& shape) {
     constexpr double height_line = step - 420;
     const double level = shape.lower_level;
     const double eaves = level - shape.height.twips;
-    add_line(drawing, Role::axis, {height_line - 100, level}, {step, level});
+    for (const double y : {eaves, level})
+        add_line(drawing, Role::axis, {height_line - 100, y}, {step, y});
     add_vertical_dimension(drawing, height_line, eaves, level, shape.height.broken);
     // Beside the dimension line, or below it where the step is low.
     const double middle = std::max(level - shape.height.twips / 2, eaves + 450);
@@ -69,6 +70,7 @@ void add_dimensions(Drawing& drawing, const Entries& entries, const LevelChange&
              Align::right);
 
     const double width_row = level + 900;
+    add_line(drawing, Role::axis, {step, level + 300}, {step, width_row + 90});
     const double roof_end = step + shape.lower_width.twips;
     add_horizontal_dimension(drawing, step - shape.upper_width.twips, step, width_row,
                              shape.upper_width.broken);
@@ -81,11 +83,12 @@ void add_dimensions(Drawing& drawing, const Entries& entries, const LevelChange&
 
 }  // namespace
 
-Drawing level_change_sketch(const Entries& entries, const ProgramCells* loads) {
+Drawing level_change_sketch(const Entries& entries, const ProgramCells* loads, bool drift_length_shown) {
     Drawing drawing;
     drawing.neutral = !is_drawable_length(entries.b1) || !is_drawable_length(entries.b2) ||
                       !is_drawable_length(entries.h) || !is_drawable_pitch(entries.alfa);
-    // The label of the drift length follows the entries even where they cannot be drawn.
+    if (loads != nullptr) drift_length_shown = drift_lies_on_roof(entries, *loads);
+    // The drift follows the entries even where they cannot be drawn.
     const bool cut = drift_is_cut(drift_length(Checked(entries.h)).value(), entries.b2);
     LevelChange shape{entries.b1, entries.b2, entries.h, entries.alfa, cut, {}, {}, {}};
     if (drawing.neutral) shape = {3, cut ? 4.0 : 8.0, 2, 10, cut, {}, {}, {}};
@@ -107,10 +110,10 @@ Drawing level_change_sketch(const Entries& entries, const ProgramCells* loads) {
     add_load(drawing, {{step, top2}, {drift_end, top1}}, level, Role::drift_line);
     if (!cut) add_load(drawing, {{drift_end, top1}, {roof_end, top1}}, level);
     add_section(drawing, Role::roof, slab_section({{step, level}, {roof_end, level}}, slab_thickness));
-    if (shape.lower_width.broken) add_break(drawing, {roof_end, level + slab_thickness / 2}, true);
+    if (shape.lower_width.broken) add_slab_break(drawing, {roof_end, level}, {step, level}, slab_thickness);
     add_upper_roof(drawing, entries, shape);
-    const double drift_row = level + 330;
-    if (!cut) {
+    const double drift_row = level + 390;
+    if (drift_length_shown) {
         add_horizontal_dimension(drawing, step, drift_end, drift_row, false, Role::drift_length);
         add_line(drawing, Role::drift_length, {drift_end, level + slab_thickness},
                  {drift_end, drift_row + 90});
@@ -121,10 +124,12 @@ Drawing level_change_sketch(const Entries& entries, const ProgramCells* loads) {
         add_dimensions(drawing, entries, shape);
     }
 
+    const double beside_step = step + 60 + slot_width("qs2 =", "kN/m²") + 20;
     add_slot(drawing, "carico_14", {step + 60, level - room - 260}, Align::left, "qs2 =", "kN/m²");
-    add_slot(drawing, "carico_15", {page_right, top1 - 260}, Align::right, "qs1 =", "kN/m²");
-    add_slot(drawing, "lsoutput", {(step + drift_end) / 2, drift_row + 230}, Align::centre, "ls =", "m");
-    drawing.label_slots.back().visible = !cut;
+    add_slot(drawing, "carico_15", {std::max(drift_end + 60, beside_step), top1 - 260}, Align::left,
+             "qs1 =", "kN/m²");
+    add_slot(drawing, "lsoutput", {(step + drift_end) / 2, drift_row + 210}, Align::centre, "ls =", "m");
+    drawing.label_slots.back().visible = drift_length_shown;
     return drawing;
 }
 

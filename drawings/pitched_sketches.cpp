@@ -11,6 +11,7 @@ namespace coltre {
 namespace {
 
 constexpr double wall_thickness = 120;
+constexpr double wall_end = 300;    // below the eaves
 constexpr double usual_pitch = 20;  // of a neutral sketch
 constexpr double top_row = 240;     // halfway up the labels of the load diagrams
 constexpr double bottom_row = 4150;
@@ -54,7 +55,7 @@ void add_eaves_wall(Drawing& drawing, Point eaves, const Side& side, int inwards
 /// Where the roof carries a load, the snow overhanging its eaves is one too.
 /// @param height  of the diagram of the roof load
 void add_eaves_load(Drawing& drawing, Point eaves, double height) {
-    constexpr double length = 380;
+    constexpr double length = 420;
     if (height > 0) drawing.arrows.push_back({Role::point_load, eaves, {eaves.x, eaves.y + length}});
 }
 
@@ -74,8 +75,8 @@ void add_gable(Drawing& drawing, Point ridge, const Side& side1, const Side& sid
     // Two very steep sides leave no room for the usual slab.
     const double thickness = std::min(80.0, 0.2 * (side1.run + side2.run));
     add_section(drawing, Role::roof, slab_section({eaves1, ridge, eaves2}, thickness));
-    add_eaves_wall(drawing, eaves1, side1, 1, thickness, eaves1.y + 380);
-    add_eaves_wall(drawing, eaves2, side2, -1, thickness, eaves2.y + 380);
+    add_eaves_wall(drawing, eaves1, side1, 1, thickness, eaves1.y + wall_end);
+    add_eaves_wall(drawing, eaves2, side2, -1, thickness, eaves2.y + wall_end);
     constexpr double mark = 520;
     add_pitch_mark(drawing, ridge, side1.pitch, -1, mark);
     add_pitch_mark(drawing, ridge, side2.pitch, 1, mark);
@@ -112,7 +113,7 @@ Drawing one_pitch_sketch(const Entries& entries, const ProgramCells* loads) {
     add_text(drawing, Role::dimension, pitch_text(drawing, "α", entries.alfa), {ridge.x - 80, ridge.y - 150},
              Align::right);
     add_slot(drawing, "carico_1", {centre, top_row}, Align::centre, "qs =", "kN/m²");
-    add_slot(drawing, "spor_1", {eaves.x - 150, eaves.y + 240}, Align::right, "qe =", "kN/m");
+    add_slot(drawing, "spor_1", {eaves.x - 100, eaves.y + 260}, Align::right, "qe =", "kN/m");
     add_caption(drawing, "qs sulla proiezione orizzontale, qe in gronda", {page_middle, bottom_row});
     return drawing;
 }
@@ -120,11 +121,13 @@ Drawing one_pitch_sketch(const Entries& entries, const ProgramCells* loads) {
 Drawing two_pitches_sketch(const Entries& entries, const ProgramCells* loads) {
     Drawing drawing;
     drawing.neutral = !is_drawable_pitch(entries.alfa1) || !is_drawable_pitch(entries.alfa2);
-    constexpr double column = 2500;
+    drawing.page.width = wide_page;
+    constexpr double column = wide_page / 3;
     constexpr double max_fall = 1300;
     constexpr double room = 600;
-    const Side side1 = make_side(drawing.neutral ? usual_pitch : entries.alfa1, 950, max_fall);
-    const Side side2 = make_side(drawing.neutral ? usual_pitch : entries.alfa2, 950, max_fall);
+    constexpr double max_run = 1130;
+    const Side side1 = make_side(drawing.neutral ? usual_pitch : entries.alfa1, max_run, max_fall);
+    const Side side2 = make_side(drawing.neutral ? usual_pitch : entries.alfa2, max_run, max_fall);
     const double ridge_y = 1500 + 0.5 * (max_fall - std::max(side1.fall, side2.fall));
 
     const double full1 = loads != nullptr ? loads->qs_2a : mu1(side1.pitch, 0.0);
@@ -136,42 +139,40 @@ Drawing two_pitches_sketch(const Entries& entries, const ProgramCells* loads) {
     struct Arrangement {
         double qs1, qs2;
         const char *label1, *label2;
-        const char *eaves1, *eaves2;  // the overhang loads that occur here first, or null
-        const char* coefficients;
+        const char *eaves1, *eaves2;
+        const char *mu1, *mu2;
     };
     const std::array<Arrangement, 3> arrangements{{
-        {full1, full2, "carico_2", "carico_3", "spor_2", "spor_4", "µ1(α1)    µ1(α2)"},
-        {half1, full2, "carico_4", "carico_5", "spor_3", nullptr, "0.5µ1(α1)   µ1(α2)"},
-        {full1, half2, "carico_6", "carico_7", nullptr, "spor_5", "µ1(α1)   0.5µ1(α2)"},
+        {full1, full2, "carico_2", "carico_3", "spor_2", "spor_4", "µ1(α1)", "µ1(α2)"},
+        {half1, full2, "carico_4", "carico_5", "spor_3", "spor_4", "0.5µ1(α1)", "µ1(α2)"},
+        {full1, half2, "carico_6", "carico_7", "spor_2", "spor_5", "µ1(α1)", "0.5µ1(α2)"},
     }};
     double left = 0;
     for (const Arrangement& it : arrangements) {
         const Point ridge{left + column / 2, ridge_y};
         add_gable(drawing, ridge, side1, side2, ordinate(it.qs1, largest, room),
                   ordinate(it.qs2, largest, room));
-        constexpr double from_ridge = 640;
-        constexpr double under_eaves = 640;
-        add_slot(drawing, it.label1, {ridge.x - from_ridge, top_row}, Align::centre, "", "");
-        add_slot(drawing, it.label2, {ridge.x + from_ridge, top_row}, Align::centre, "", "");
-        if (it.eaves1 != nullptr) {
-            add_slot(drawing, it.eaves1, {ridge.x - from_ridge, ridge_y + side1.fall + under_eaves},
-                     Align::centre, "", "");
-        }
-        if (it.eaves2 != nullptr) {
-            add_slot(drawing, it.eaves2, {ridge.x + from_ridge, ridge_y + side2.fall + under_eaves},
-                     Align::centre, "", "");
-        }
-        add_text(drawing, Role::caption, it.coefficients, {ridge.x, 3830}, Align::centre, column - 100);
+        // Clear of a side that is almost upright.
+        const double from_ridge = slot_width("qs =", "") / 2 + 90;
+        constexpr double under_eaves = 590;
+        add_slot(drawing, it.label1, {ridge.x - from_ridge, top_row}, Align::centre, "qs =", "");
+        add_slot(drawing, it.label2, {ridge.x + from_ridge, top_row}, Align::centre, "qs =", "");
+        add_slot(drawing, it.eaves1, {ridge.x - from_ridge, ridge_y + side1.fall + under_eaves},
+                 Align::centre, "qe =", "");
+        add_slot(drawing, it.eaves2, {ridge.x + from_ridge, ridge_y + side2.fall + under_eaves},
+                 Align::centre, "qe =", "");
+        add_text(drawing, Role::caption, it.mu1, {ridge.x - from_ridge, 3830}, Align::centre);
+        add_text(drawing, Role::caption, it.mu2, {ridge.x + from_ridge, 3830}, Align::centre);
         left += column;
     }
     const Point first_ridge{column / 2, ridge_y - 150};
-    constexpr double half_column = 1130;
+    constexpr double half_column = column / 2 - 100;
     add_text(drawing, Role::dimension, pitch_text(drawing, "α1", entries.alfa1),
              {first_ridge.x - 60, first_ridge.y}, Align::right, half_column);
     add_text(drawing, Role::dimension, pitch_text(drawing, "α2", entries.alfa2),
              {first_ridge.x + 60, first_ridge.y}, Align::left, half_column);
     add_caption(drawing, "qs in kN/m² sulla proiezione orizzontale, qe in kN/m in gronda",
-                {page_middle, bottom_row});
+                {wide_page / 2, bottom_row});
     return drawing;
 }
 
@@ -210,8 +211,8 @@ Drawing several_pitches_sketch(const Entries& entries, const ProgramCells* loads
     const double thickness = std::min(slab_thickness, 0.2 * (side1.run + side2.run));
     const std::vector<Point> slab = slab_section({end1, ridge1, valley, ridge2, end2}, thickness);
     add_section(drawing, Role::roof, slab);
-    add_break(drawing, {end1.x, end1.y + thickness / 2}, true);
-    add_break(drawing, {end2.x, end2.y + thickness / 2}, true);
+    add_slab_break(drawing, end1, ridge1, thickness);
+    add_slab_break(drawing, end2, ridge2, thickness);
     const double gutter = slab[7].y;  // underneath the valley
     add_wall_stub(drawing, {valley.x - wall_thickness / 2, gutter}, {valley.x + wall_thickness / 2, gutter},
                   gutter + 220);
@@ -223,9 +224,12 @@ Drawing several_pitches_sketch(const Entries& entries, const ProgramCells* loads
              {ridge1.x - 60, ridge1.y - 150}, Align::right);
     add_text(drawing, Role::dimension, pitch_text(drawing, "α2", entries.alfa2),
              {ridge2.x + 60, ridge2.y - 150}, Align::left);
-    add_slot(drawing, "carico_8", {0, top_row}, Align::left, "qs =", "kN/m²");
+    const double beside_valley = slot_width("qs =", "kN/m²") + 20;
+    add_slot(drawing, "carico_8", {std::min((end1.x + ridge1.x) / 2, valley.x - beside_valley), top_row},
+             Align::centre, "qs =", "kN/m²");
     add_slot(drawing, "carico_9", {valley.x, top_row}, Align::centre, "qs =", "kN/m²");
-    add_slot(drawing, "carico_10", {7500, top_row}, Align::right, "qs =", "kN/m²");
+    add_slot(drawing, "carico_10", {std::max((end2.x + ridge2.x) / 2, valley.x + beside_valley), top_row},
+             Align::centre, "qs =", "kN/m²");
     if (drawing.neutral) add_caption(drawing, "", {page_middle, bottom_row});
     return drawing;
 }

@@ -1,10 +1,27 @@
 #include "drawings/sketches.h"
 
+#include <ranges>
+
 #include "drawings/case_sketches.h"
 #include "drawings/drawing_parts.h"
 #include "engine/calculation.h"
+#include "engine/special_loads.h"
 
 namespace coltre {
+
+namespace {
+
+constexpr double note_row = 320;
+
+/// A row of its own above the drawing.
+void add_row_above(Drawing& drawing, const std::string& text) {
+    Rect& page = drawing.page;
+    page.y -= note_row;
+    page.height += note_row;
+    add_text(drawing, Role::caption, text, {page.x + page.width / 2, page.y + note_row / 2}, Align::centre);
+}
+
+}  // namespace
 
 ProgramCells results_of_unit_ground_load(const Entries& entries) {
     ProgramCells cells;
@@ -14,15 +31,21 @@ ProgramCells results_of_unit_ground_load(const Entries& entries) {
 }
 
 void mark_as_pending(Drawing& drawing) {
-    // A row of its own above the drawing, and as much room below, so that the drawing stays where it was.
-    constexpr double row = 320;
-    drawing.page.y -= row;
-    drawing.page.height += 2 * row;
-    add_text(drawing, Role::caption, "numeri dell'ultimo calcolo, non di questi dati",
-             {drawing.page.x + drawing.page.width / 2, drawing.page.y + row / 2}, Align::centre);
+    drawing.pending = true;
+    add_row_above(drawing, "risultati non aggiornati: premere Calcola");
+    drawing.page.height += note_row;  // as much room below, so that the drawing stays where it was
 }
 
-Drawing sketch(const Entries& entries, const ProgramCells* loads) {
+void add_notes(Drawing& drawing, std::span<const std::string> notes) {
+    for (const std::string& note : std::views::reverse(notes))
+        add_row_above(drawing, note);
+}
+
+bool drift_lies_on_roof(const Entries& entries, const ProgramCells& loads) {
+    return !drift_is_cut(loads.level_ls, entries.b2);
+}
+
+Drawing sketch(const Entries& entries, const ProgramCells* loads, bool drift_length_shown) {
     switch (entries.kind) {
         case Kind::one_pitch:
             return one_pitch_sketch(entries, loads);
@@ -33,7 +56,7 @@ Drawing sketch(const Entries& entries, const ProgramCells* loads) {
         case Kind::cylindrical:
             return cylindrical_sketch(entries, loads);
         case Kind::level_change:
-            return level_change_sketch(entries, loads);
+            return level_change_sketch(entries, loads, drift_length_shown);
         case Kind::wall:
             return wall_sketch(entries, loads);
         case Kind::snow_guard:

@@ -32,7 +32,7 @@ Drawing snow_guard_sketch(const Entries& entries) {
     const Point other_side{ridge.x + beyond, ridge.y + beyond * sine / cosine};
     if (beyond > slab_thickness) {
         add_section(drawing, Role::roof, slab_section({eaves, ridge, other_side}, slab_thickness));
-        add_break(drawing, {other_side.x, other_side.y + slab_thickness / 2}, true);
+        add_slab_break(drawing, other_side, ridge, slab_thickness);
     } else {
         add_section(drawing, Role::roof, slab_section({eaves, ridge}, slab_thickness));
     }
@@ -58,7 +58,8 @@ Drawing snow_guard_sketch(const Entries& entries) {
         add_text(drawing, Role::dimension, quantity(drawing, "qs", entries.qs, " kN/m²"), {centre, 330},
                  Align::centre);
     }
-    add_slot(drawing, "Fsoutput", {foot.x - 500, foot.y - 420}, Align::right, "Fs =", "kN/m");
+    add_slot(drawing, "Fsoutput", {on_slope(-100, 300).x - 60, on_slope(-100, 260).y}, Align::right,
+             "Fs =", "kN/m");
     return drawing;
 }
 

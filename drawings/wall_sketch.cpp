@@ -33,11 +33,11 @@ Drawing wall_sketch(const Entries& entries, const ProgramCells* loads) {
     add_load(drawing, {{wall_face, top2}, {drift_end, top1}}, level, Role::drift_line);
     add_load(drawing, {{drift_end, top1}, {roof_end, top1}}, level);
     add_section(drawing, Role::roof, slab_section({{wall_face, level}, {roof_end, level}}, slab_thickness));
-    add_break(drawing, {roof_end, level + slab_thickness / 2}, true);
+    add_slab_break(drawing, {roof_end, level}, {wall_face, level}, slab_thickness);
     add_line(drawing, Role::wall, {wall_face - wall_thickness, level - h.twips},
              {wall_face, level - h.twips});
     add_wall_stub(drawing, {wall_face - wall_thickness, level - h.twips}, {wall_face, level - h.twips},
-                  level + 430);
+                  level + 220);
     if (!drawing.neutral) {
         constexpr double height_line = wall_face - wall_thickness - 200;
         add_vertical_dimension(drawing, height_line, level - h.twips, level, h.broken);
@@ -45,7 +45,8 @@ Drawing wall_sketch(const Entries& entries, const ProgramCells* loads) {
         add_text(drawing, Role::dimension, quantity(drawing, "h", entries.h, " m"),
                  {height_line - 130, level - h.twips / 2}, Align::right, 1080);
     }
-    constexpr double section_row = level + 290;
+    constexpr double section_row = level + 400;
+    add_line(drawing, Role::axis, {wall_face, level + 300}, {wall_face, section_row + 100});
     add_line(drawing, Role::axis, {drift_end, level + slab_thickness}, {drift_end, section_row + 100});
     add_horizontal_dimension(drawing, wall_face, drift_end, section_row);
 
@@ -69,8 +70,8 @@ Drawing wall_sketch(const Entries& entries, const ProgramCells* loads) {
     constexpr double load_row = level - room - 260;
     constexpr double middle = (wall_face + drift_end) / 2;
     add_slot(drawing, "carico_17", {wall_face + 60, load_row}, Align::left, "qs2 =", "kN/m²");
-    add_slot(drawing, "carico_16", {page_right, top1 - 260}, Align::right, "qs1 =", "kN/m²");
-    add_slot(drawing, "ls2outputA", {middle, section_row + 230}, Align::centre, "ls =", "m");
+    add_slot(drawing, "carico_16", {drift_end + 60, top1 - 260}, Align::left, "qs1 =", "kN/m²");
+    add_slot(drawing, "ls2outputA", {middle, section_row + 210}, Align::centre, "ls =", "m");
     add_slot(drawing, "ls2outputB", {middle, plan_row + 230}, Align::centre, "ls =", "m");
     if (drawing.neutral) add_caption(drawing, "", {page_middle, 300});
     add_text(drawing, Role::caption, "sezione", {100, level + 250}, Align::left);

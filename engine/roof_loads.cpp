@@ -16,10 +16,10 @@ auto branches(Run<Number>& run) {
     return [&run](const auto& condition) { return run.holds(condition); };
 }
 
-/// The mu1 cell set for a pitch.
+/// The mu1 cell set for a pitch; of a negative one it is what was there before.
 template <typename Number>
 Number set_mu1(Run<Number>& run, Symbol symbol, const Number& alfa) {
-    const Number before = run.stored(&ProgramCells::mu1, "mu1_precedente");
+    const Number before = alfa.value() < 0 ? run.stored(&ProgramCells::mu1, "mu1_precedente") : Number(0);
     return run.store(&ProgramCells::mu1, symbol, mu1(alfa, before, branches(run)));
 }
 
@@ -100,7 +100,7 @@ void several_pitches(Run<Number>& run, const Entries& entries) {
     constexpr std::string_view valley = "mu2((alfa1+alfa2)/2)";
     const Number mean = run.let("alfa_m", slope, (alfa1 + alfa2) / 2);
     if (run.stops(mean, "mu2")) return;
-    const Number before = run.stored(&ProgramCells::mu2, "mu2_precedente");
+    const Number before = mean.value() < 0 ? run.stored(&ProgramCells::mu2, "mu2_precedente") : Number(0);
     const Number mu_valley = run.store(&ProgramCells::mu2, "mu2", mu2(mean, before, branches(run)));
     run.load_case(valley, mu_valley, set_roof_load(run, valley, qs_3c, mu_valley));
 }

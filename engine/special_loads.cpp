@@ -27,9 +27,8 @@ void level_change(Run<Number>& run, const Entries& entries) {
     // Deliberate: above 15 degrees mu1(alfa) is evaluated for its cell alone. The part of the snow that
     // slides off the upper roof is half of a value that is always 0, so mu2 is mu_w for every slope.
     if (entries.alfa > 15) {
-        const Number before = run.stored(&ProgramCells::mu1, "mu1_precedente");
         run.store(&ProgramCells::mu1, "mu1",
-                  mu1(alfa, before, [&run](const auto& condition) { return run.holds(condition); }));
+                  mu1(alfa, Number(0), [&run](const auto& condition) { return run.holds(condition); }));
     }
     const Number mu_s = run.let("mu_s", coefficient, Number(0));
 

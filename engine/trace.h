@@ -25,16 +25,16 @@ struct Datum {
 
 /// One quantity of a calculation: how it came about.
 struct Step {
-    std::string symbol;           ///< once in a trace
-    std::string formula;          ///< in symbols: of data or of earlier steps
-    std::string numbers;          ///< the same with their values, in the shortest digits that give them back
+    std::string symbol{};         ///< once in a trace
+    std::string formula{};        ///< in symbols: of data or of earlier steps
+    std::string numbers{};        ///< the same with their values, in the shortest digits that give them back
     std::optional<double> value;  ///< nothing: it could not be computed, and no step follows
     Fault fault = Fault::none;    ///< why not
-    std::string condition;        ///< that chose this formula among others; empty where there is one alone
-    std::string condition_numbers;  ///< the same with values
-    std::string governs;            ///< the operand of a min or max that gave the value; empty without one
+    std::string condition{};      ///< that chose this formula among others; empty where there is one alone
+    std::string condition_numbers{};  ///< the same with values
+    std::string governs{};            ///< the operand of a min or max that gave the value; empty without one
     Quantity quantity{};
-    std::string_view source;  ///< where the formula comes from
+    std::string_view source{};  ///< where the formula comes from
 };
 
 /// How a calculation came about: what it started from and its steps, in their order.

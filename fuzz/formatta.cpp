@@ -10,8 +10,8 @@
 #include "fuzz/input.h"
 #include "fuzz/require.h"
 #include "fuzz/shown_number.h"
+#include "platform/messages.h"
 #include "report/formatta_cond.h"
-#include "tests/support/fake_doors.h"
 #include "text/characters.h"
 #include "text/number_reading.h"
 
@@ -93,14 +93,21 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto value = input.finite();
     const auto factor = input.finite();
     if (!value || !factor) return 0;
-    FakeDoors user;
-    const std::string result = formatta(*value, input.rest(), *factor, user);
+    Messages messages;
+    const std::optional<std::string> text = formatta(*value, input.rest(), *factor, messages);
 
-    const auto faults = std::ranges::count_if(user.shown, [](const Message& message) {
-        return message.text != "Stringa di conversione unità di misura non riconosciuta.";
-    });
-    require(faults <= 1 && user.shown.size() - static_cast<std::size_t>(faults) <= 1, "each is told once");
-    require(result.empty() == (faults == 1), "the result is empty after a told fault and only then");
+    const bool unknown_unit =
+        !messages.empty() &&
+        messages.front().text == "Stringa di conversione unità di misura non riconosciuta.";
+    const std::size_t refusals = messages.size() - (unknown_unit ? 1 : 0);
+    if (!std::isfinite(*value * *factor)) require(!text && messages.empty(), "an overflow gives nothing");
+    if (!text) {
+        require(refusals == 0, "an overflow is no wrong directive");
+        return 0;
+    }
+    const std::string& result = *text;
+    require(refusals <= 1, "one wrong directive ends the steps");
+    require(result.empty() == (refusals == 1), "the result is empty after a wrong directive and only then");
     const Directives directives(input.rest());
     if (result.empty() || input.rest().empty() || !directives.are_apart()) return 0;
 

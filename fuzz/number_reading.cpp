@@ -42,9 +42,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool beyond_range = std::isinf(reference.value);
     const LenientNumber lenient = read_leniently(text);
     require(lenient.value == (beyond_range ? 0 : reference.value), "the number at the front is read");
-    require(lenient.beyond_range == beyond_range, "a number beyond the range is told");
+    require(lenient.beyond_range == beyond_range, "a number beyond the range is known as such");
     require(lenient.wholly_understood == (reference.length > 0 && reference.length == trimmed.size()),
-            "what is left over is told");
+            "what is left over is known");
 
     for (const char separator : {'.', ','}) {
         std::string pointed(trimmed);

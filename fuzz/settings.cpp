@@ -8,8 +8,8 @@
 #include "fuzz/input.h"
 #include "fuzz/require.h"
 #include "platform/code_page.h"
+#include "platform/messages.h"
 #include "startup/direttori_cond.h"
-#include "tests/support/fake_doors.h"
 #include "tests/support/suite_tree.h"
 #include "text/characters.h"
 
@@ -25,6 +25,12 @@ std::string setting(std::string_view file) {
     return std::string(trim_blanks(file.substr(0, file.find_first_of("\r\n"))));
 }
 
+/// The jobs directory without the separator that may end it.
+std::string_view without_end(std::string_view jobs) {
+    if (jobs.ends_with('\\') || jobs.ends_with('/')) jobs.remove_suffix(1);
+    return jobs;
+}
+
 bool ends_with_lavori(std::string_view jobs) {
     constexpr std::string_view name = "lavori\\";
     if (jobs.size() < name.size()) return false;
@@ -32,10 +38,10 @@ bool ends_with_lavori(std::string_view jobs) {
                               [](unsigned char c) { return std::tolower(c); });
 }
 
-/// What of the settings files the user is told; empty if nothing is wrong.
+/// What is reported of the settings files; empty if nothing is wrong.
 std::string_view expected_message(std::string_view jobs, std::string_view job) {
     if (jobs.size() < 9) return "dirlav errato o mancante.";
-    if (!ends_with_lavori(std::string(jobs) + (jobs.ends_with('\\') ? "" : "\\")))
+    if (!ends_with_lavori(std::string(without_end(jobs)) + "\\"))
         return "Il direttorio dei lavori deve terminare con < ...\\lavori >.";
     if (job.size() != 6) return "lavoro errato o mancante.";
     return {};
@@ -51,21 +57,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     suite.write_setting("DirLav", jobs_file);
     suite.write_setting("LAVORO", job_file);
 
-    FakeDoors user;
+    Messages messages;
     Directories directories;
-    const bool goes_on = check_directories(suite.command_line(), "", "", directories, user.doors());
+    const bool goes_on = check_directories(suite.command_line(), "", "", directories, messages);
 
     const std::string jobs = setting(jobs_file);
     const std::string job = setting(job_file);
     const std::string_view message = expected_message(jobs, job);
     require(goes_on == message.empty(), "the settings files are judged");
-    require(user.shown.size() == (goes_on ? 0U : 1U), "a fault is told once");
-    require(user.ended == (goes_on ? 0 : 1), "a fault ends the program");
+    require(messages.size() == (goes_on ? 0U : 1U), "a fault is reported once");
     if (goes_on) {
-        const std::string directory = jobs + (jobs.ends_with('\\') ? "" : "\\") + job;
+        const std::string directory = std::string(without_end(jobs)) + "\\" + job;
         require(directories.WorkDirectory == from_code_page(directory), "the directory of the job");
     } else {
-        require(user.shown.front().text.ends_with(message), "the fault is told by its text");
+        require(messages.front().text.ends_with(message), "the fault is reported by its text");
     }
     return 0;
 }

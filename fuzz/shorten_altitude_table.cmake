@@ -1,5 +1,5 @@
 # Writes the municipality table with a few municipalities a province: cmake -DTABLE=<txt> -DSHORT=<txt> -P
-# shorten_altitude_table.cmake. Kept of each block are its first lines and those that no reader gets past, and the
+# shorten_altitude_table.cmake. Kept of each block are its first two lines and those that no reader gets past, and the
 # absence of an empty line behind the last block.
 cmake_policy(VERSION 3.25)
 file(READ "${TABLE}" text)
@@ -11,7 +11,7 @@ foreach(block IN LISTS blocks)
     set(count 0)
     foreach(line IN LISTS lines)
         math(EXPR count "${count} + 1")
-        if(count LESS_EQUAL 3 OR NOT line MATCHES " ")
+        if(count LESS_EQUAL 2 OR NOT line MATCHES " ")
             list(APPEND kept "${line}")
         endif()
     endforeach()

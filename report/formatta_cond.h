@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,12 +17,14 @@ namespace coltre {
 /// @param value       finite
 /// @param directives  directive string; empty for the plain number text
 /// @param factor      scale factor, finite; also fixes the decimal shift where no unit is converted
-/// @return the empty text after a wrong directive or an overflow, which is told; asterisks
-///         for a number that does not fit its field
-std::string formatta(double value, std::string_view directives, double factor, Messages& messages);
+/// @param messages    takes the error message of a wrong directive
+/// @return nothing at an overflow, which ends the calculation as a numeric error; the empty text after a
+///         wrong directive; asterisks for a number that does not fit its field
+std::optional<std::string> formatta(double value, std::string_view directives, double factor,
+                                    Messages& messages);
 
 /// Converts the value by the unit command of the directive string. A command that names one unit twice keeps
-/// the value; one that is not in the table is told and keeps it too.
+/// the value; one that is not in the table keeps it too, with a message.
 /// @param value          multiplied in place; kept at an overflow
 /// @param decimal_shift  out: the command's decimal shift, 0 where the value was kept
 /// @return Fault::numeric_error at an overflow
@@ -31,8 +34,5 @@ Fault converti_unita(double& value, std::string_view directives, std::int16_t& d
 /// Position of the decimal point in a number text; where there is none one is appended. -1 for the exponent
 /// form.
 int decimal_point_position(std::string& text);
-
-/// Appends what stands after the first "(sc_" up to the next ")"; nothing if there is no such directive.
-void append_separator(std::string& text, std::string_view directives);
 
 }  // namespace coltre

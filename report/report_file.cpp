@@ -1,5 +1,6 @@
 #include "report/report_file.h"
 
+#include "platform/files.h"
 #include "report/formatta_cond.h"
 #include "report/unit_systems.h"
 #include "text/characters.h"
@@ -30,7 +31,7 @@ ReportFile::ReportFile(std::string_view suite_path, Messages& messages)
     : m_name(suite_path), m_file(find_path(suite_path)), m_messages(messages) {}
 
 void ReportFile::line(std::string_view utf8) {
-    m_file.write(file_line(utf8));
+    if (m_fault == Fault::none) m_file.write(file_line(utf8));
 }
 
 void ReportFile::heading(const ReportHeading& heading) {
@@ -41,18 +42,17 @@ void ReportFile::heading(const ReportHeading& heading) {
     line("Altitudine [m]:" + display_number_text(heading.altitude));
     line(next_zone("Periodo di Ritorno [anni]:") + display_number_text(heading.return_period));
     blank_line();
-    line(std::string("qsk (carico neve al suolo) = ").append(heading.qsk));
-    blank_line();
 }
 
 std::string ReportFile::failure() const {
-    if (m_file.good()) return {};
-    return "Impossibile scrivere il file " + m_name + ": " + m_file.reason() + ".";
+    if (!m_file.failure()) return {};
+    return "Impossibile scrivere il file " + m_name + ": " + *m_file.failure() + ".";
 }
 
-std::string ReportFile::formatted(double value, std::string_view directives,
-                                  std::string_view conversion) const {
-    return formatta(value, std::string(directives).append(conversion), 1.0, m_messages);
+std::string ReportFile::formatted(double value, std::string_view directives, std::string_view conversion) {
+    const auto text = formatta(value, std::string(directives).append(conversion), 1.0, m_messages);
+    if (!text) m_fault = Fault::numeric_error;
+    return text.value_or(std::string());
 }
 
 }  // namespace coltre

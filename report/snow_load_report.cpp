@@ -61,8 +61,9 @@ void write_snow_load_heading(ReportFile& report, const ReportData& data, const P
                     .unit_system = cells.unit_system,
                     .zone = cells.zone,
                     .altitude = data.altitude,
-                    .return_period = cells.return_period,
-                    .qsk = report.formatted(cells.qsk, "(FD_08)(DV_04)", area_load)});
+                    .return_period = cells.return_period});
+    report.line("qsk (carico neve al suolo) = " + report.formatted(cells.qsk, "(FD_08)(DV_04)", area_load));
+    report.blank_line();
 }
 
 void write_roof(ReportFile& report, const ReportData& data, const ProgramCells& cells, const Entries& entries,

@@ -31,8 +31,9 @@ void write_special_cases_heading(ReportFile& report, const ReportData& data, con
                     .unit_system = cells.unit_system,
                     .zone = cells.zone,
                     .altitude = data.altitude,
-                    .return_period = cells.return_period,
-                    .qsk = report.formatted(cells.qsk, load)});
+                    .return_period = cells.return_period});
+    report.line("qsk (carico neve al suolo) = " + report.formatted(cells.qsk, load));
+    report.blank_line();
 }
 
 void write_special_case(ReportFile& report, const ReportData& data, const ProgramCells& cells,

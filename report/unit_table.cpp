@@ -1,10 +1,11 @@
 #include "report/unit_table.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <string>
+#include <unordered_map>
 
-#include "report/directives.h"
+#include "text/characters.h"
 
 namespace coltre {
 
@@ -328,28 +329,16 @@ constexpr std::array<UnitCommand, 300> table{{
 }};
 // clang-format on
 
-/// The rows in the alphabetical order of their commands, so that a row at the table's end is found as fast as
-/// one at its beginning; of rows with the same command the first comes first.
-constexpr auto rows_by_command = [] {
-    std::array<std::size_t, table.size()> rows{};
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        rows[i] = i;
-    std::ranges::sort(rows, [](std::size_t a, std::size_t b) {
-        const int order = compare_ignoring_case(table[a].command, table[b].command);
-        return order != 0 ? order < 0 : a < b;
-    });
-    return rows;
-}();
-
-/// Row of exactly this command, table.size() if there is none.
-std::size_t row_of(std::string_view command) {
-    const auto found = std::ranges::lower_bound(
-        rows_by_command, command,
-        [](std::string_view a, std::string_view b) { return compare_ignoring_case(a, b) < 0; },
-        [](std::size_t row) { return table[row].command; });
-    if (found == rows_by_command.end() || compare_ignoring_case(table[*found].command, command) != 0)
-        return table.size();
-    return *found;
+/// The row of each command, in lower case: one at the table's end is found as fast as one at its beginning.
+/// Of rows with the same command the first.
+const std::unordered_map<std::string, const UnitCommand*>& rows_by_command() {
+    static const auto rows_by_command = [] {
+        std::unordered_map<std::string, const UnitCommand*> rows;
+        for (const UnitCommand& row : table)
+            rows.emplace(lower_case(row.command), &row);
+        return rows;
+    }();
+    return rows_by_command;
 }
 
 }  // namespace
@@ -361,15 +350,16 @@ std::span<const UnitCommand> unit_table() {
 const UnitCommand* find_unit_command(std::string_view directives) {
     // A command holds one "(", at its start, and one ")", at its end: what stands from a "(cu_" to the next
     // ")" is the only command that can start there.
-    std::size_t first_row = table.size();
-    std::size_t start = find_directive(directives, "(cu_");
-    while (start != std::string_view::npos) {
-        const std::size_t end = directives.find(')', start);
-        if (end == std::string_view::npos) break;
-        first_row = std::min(first_row, row_of(directives.substr(start, end - start + 1)));
-        start = find_directive(directives, "(cu_", start + 1);
+    const std::string lower = lower_case(directives);
+    const UnitCommand* first = nullptr;
+    for (std::size_t open = lower.find("(cu_"); open != std::string::npos;
+         open = lower.find("(cu_", open + 1)) {
+        const std::size_t end = lower.find(')', open);
+        if (end == std::string::npos) break;
+        const auto row = rows_by_command().find(lower.substr(open, end - open + 1));
+        if (row != rows_by_command().end() && (first == nullptr || row->second < first)) first = row->second;
     }
-    return first_row < table.size() ? &table[first_row] : nullptr;
+    return first;
 }
 
 }  // namespace coltre

@@ -1,17 +1,26 @@
 #include "site/ScriviAltitudini_cond.h"
 
-#include <string>
-
 #include "site/altitude_file.h"
 #include "site/built_in_altitudes.h"
 
 namespace coltre {
 
-bool WriteAltitudeFile(std::string_view ProgramDirectory, Messages& messages) {
-    if (replace_altitude_file(ProgramDirectory, built_in_altitude_file()).empty()) return true;
-    messages.push_back(
-        {Icon::error, std::string(program_title), "Errore di scrittura del file altitudini.txt ."});
-    return false;
+bool WriteAltitudeFile(std::string_view ProgramDirectory, AltitudeNotices& notices) {
+    const TableReplacement replaced = replace_altitude_file(ProgramDirectory, built_in_altitude_file());
+    if (replaced.failure) {
+        notices.messages.push_back(altitude_write_error());
+        return false;
+    }
+    if (!replaced.kept_name.empty())
+        notices.note =
+            "Il file altitudini.txt è stato riscritto dalla tabella del programma; quello di prima "
+            "resta come " +
+            replaced.kept_name + ".";
+    return true;
+}
+
+Message altitude_write_error() {
+    return {Icon::error, std::string(program_title), "Errore di scrittura del file altitudini.txt ."};
 }
 
 }  // namespace coltre

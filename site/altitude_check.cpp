@@ -1,9 +1,7 @@
 #include "site/altitude_check.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <optional>
-#include <system_error>
 #include <unordered_set>
 #include <utility>
 
@@ -14,6 +12,7 @@
 #include "site/altitude_line.h"
 #include "site/built_in_altitudes.h"
 #include "site/built_in_blocks.h"
+#include "text/characters.h"
 
 namespace coltre {
 
@@ -46,7 +45,6 @@ class Inspection {
     void put(std::string_view bytes);
     void put_field();
 
-    const BuiltInBlocks& m_built_in = BuiltInBlocks::instance();
     FieldReader m_reader;
     std::size_t m_line = 1;
     bool m_after_comma = false;    ///< the field follows a comma in its line
@@ -79,7 +77,7 @@ Inspection::Inspection(std::string_view file) : m_reader(file) {
 }
 
 void Inspection::outside() {
-    const AltitudeBlock* const block = m_built_in.find(m_reader.field());
+    const AltitudeBlock* const block = find_built_in_block(m_reader.field());
     if (block != nullptr) {
         leave();
         if (m_seen.insert(block).second) {
@@ -101,7 +99,7 @@ void Inspection::outside() {
 
 void Inspection::inside() {
     const std::string_view field = m_reader.field();
-    const AltitudeBlock* const header = m_built_in.find(field);
+    const AltitudeBlock* const header = find_built_in_block(field);
     if (header != nullptr && header != m_block) {
         report("manca la riga vuota prima della provincia che segue");
         close();
@@ -121,11 +119,13 @@ void Inspection::inside() {
 void Inspection::municipality() {
     const std::string_view field = m_reader.field();
     const std::string_view end = m_reader.ending() == "," ? line_end : m_reader.ending();
-    std::string line(m_reader.raw());
+    std::string_view line = m_reader.raw();
+    std::optional<std::string> reshaped;
     if (const std::string_view fault = line_fault(field); !fault.empty()) {
         if (m_line != m_comma_line) report(fault);
-        if (std::optional<std::string> reshaped = reshaped_line(field)) {
-            line = std::move(*reshaped);
+        reshaped = reshaped_line(field);
+        if (reshaped) {
+            line = *reshaped;
         } else {
             // The header once more would bring the chief town, which often has its name, before its own line.
             const auto known = m_block->line_of.find(first_word(field));
@@ -177,7 +177,7 @@ void Inspection::finish() {
         put(line_end);
     }
     leave();
-    for (const AltitudeBlock& block : m_built_in.all()) {
+    for (const AltitudeBlock& block : built_in_blocks()) {
         if (m_seen.contains(&block)) continue;
         faults.push_back({0, block.province, "manca la riga con il nome della provincia"});
         put(block.header);
@@ -217,43 +217,46 @@ void Inspection::put_field() {
 /// The file in Windows-1252 if it is in UTF-8, as many editors save it.
 std::optional<std::string> from_utf8(std::string_view file) {
     constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
-    const std::string_view text =
-        file.starts_with(byte_order_mark) ? file.substr(byte_order_mark.size()) : file;
+    const bool has_mark = file.starts_with(byte_order_mark);
+    const std::string_view text = has_mark ? file.substr(byte_order_mark.size()) : file;
+    const auto is_accent = [](char c) { return (static_cast<unsigned char>(c) & 0x80U) != 0; };
+    auto accent = std::ranges::find_if(text, is_accent);
+    if (accent == text.end() && !has_mark) return std::nullopt;
+    while (accent != text.end()) {
+        const std::size_t size = first_character({accent, text.end()}).size();
+        if (size == 1) return std::nullopt;  // no UTF-8: as a rule, an accent of the code page
+        accent = std::find_if(accent + static_cast<std::ptrdiff_t>(size), text.end(), is_accent);
+    }
     std::string bytes = to_code_page(text);
-    if (bytes.size() == file.size() || from_code_page(bytes) != text) return std::nullopt;
+    if (from_code_page(bytes) != text) return std::nullopt;
     return bytes;
 }
 
 }  // namespace
 
-std::vector<AltitudeFault> check_altitudes(std::string_view file) {
+AltitudeInspection inspect_altitudes(std::string_view file) {
     const std::optional<std::string> converted = from_utf8(file);
-    std::vector<AltitudeFault> faults = Inspection(converted ? *converted : file).faults;
-    if (converted) faults.push_back({0, {}, "il file è scritto in UTF-8 e non in Windows-1252"});
-    return faults;
-}
-
-std::string repair_altitudes(std::string_view file) {
-    const std::optional<std::string> converted = from_utf8(file);
-    return Inspection(converted ? *converted : file).repaired;
+    Inspection inspection(converted ? *converted : file);
+    if (converted) inspection.faults.push_back({0, {}, "il file è scritto in UTF-8 e non in Windows-1252"});
+    return {std::move(inspection.faults), std::move(inspection.repaired)};
 }
 
 AltitudeFileCheck check_altitude_file(std::string_view ProgramDirectory) {
-    const std::optional<std::string> bytes = read_file(altitude_file_name(ProgramDirectory));
-    if (!bytes) return {{}, "il file manca o non si può leggere"};
-    return {check_altitudes(*bytes), {}};
+    const FileContent file = read_content_at_rest(altitude_file_name(ProgramDirectory));
+    if (file.end == ReadEnd::disturbed) return {file.reason, {}, {}};
+    if (file.end != ReadEnd::read) return {"il file manca o non si può leggere", {}, {}};
+    return {{}, inspect_altitudes(file.bytes).faults, {}};
 }
 
 AltitudeFileCheck repair_altitude_file(std::string_view ProgramDirectory) {
-    const std::string name = altitude_file_name(ProgramDirectory);
-    std::optional<std::string> bytes = read_file(name);
-    std::error_code error;
-    if (!bytes && !std::filesystem::exists(find_path(name), error)) bytes = built_in_altitude_file();
-    if (!bytes) return {{}, "il file non si può leggere"};
-    AltitudeFileCheck check{check_altitudes(*bytes), {}};
-    if (!check.faults.empty())
-        check.failure = replace_altitude_file(ProgramDirectory, repair_altitudes(*bytes));
-    return check;
+    const FileContent file = read_content_at_rest(altitude_file_name(ProgramDirectory));
+    if (file.end == ReadEnd::disturbed) return {file.reason, {}, {}};
+    if (file.end == ReadEnd::unreadable) return {"il file non si può leggere", {}, {}};
+    const bool missing = file.end == ReadEnd::missing;
+    AltitudeInspection inspection = inspect_altitudes(missing ? built_in_altitude_file() : file.bytes);
+    if (inspection.faults.empty()) return {};
+    TableReplacement replaced = replace_altitude_file(ProgramDirectory, inspection.repaired);
+    return {std::move(replaced.failure), std::move(inspection.faults), std::move(replaced.kept_name)};
 }
 
 }  // namespace coltre

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/failure.h"
+
 // What in an altitude file would make a reader fail or take something else than was meant.
 //
 // Faults are: a province without its header, without municipalities, or not closed by an empty line; in the
@@ -24,20 +26,25 @@ struct AltitudeFault {
     std::string_view reason;    ///< in Italian, as part of a sentence
 };
 
-/// The faults of an altitude file, those with a line first, in the order of the lines.
-/// The built-in table has two: the line "33543" in Vicenza, and Oristano's block that nothing closes.
-/// @param file  its bytes, any bytes at all
-std::vector<AltitudeFault> check_altitudes(std::string_view file);
+/// What came of going through an altitude file.
+struct AltitudeInspection {
+    /// Those with a line first, in the order of the lines. The built-in table has two: the line "33543" in
+    /// Vicenza, and Oristano's block that nothing closes.
+    std::vector<AltitudeFault> faults;
+    /// The file without its faults: in it there are none. All other lines stay byte for byte. A faulty line
+    /// is brought into shape if its altitude can be told, else it takes the built-in altitude of its
+    /// municipality, else it is dropped. A province without header or municipalities gets its built-in block.
+    std::string repaired;
+};
 
-/// The file without its faults: check_altitudes() finds none in it. All other lines stay byte for byte. A
-/// faulty line is brought into shape if its altitude can be told, else it takes the built-in altitude of its
-/// municipality, else it is dropped. A province without header or municipalities gets its built-in block.
-std::string repair_altitudes(std::string_view file);
+/// @param file  its bytes, any bytes at all
+AltitudeInspection inspect_altitudes(std::string_view file);
 
 /// What became of the check or the repair of altitudini.txt.
 struct AltitudeFileCheck {
+    Failure failure;                    ///< why the file could not be read or replaced
     std::vector<AltitudeFault> faults;  ///< found; after a repair they are gone
-    std::string failure;                ///< why the file could not be read or replaced, in Italian; or empty
+    std::string kept_name;  ///< of the file as it was before the repair; empty if none was replaced
 };
 
 /// Checks altitudini.txt.

@@ -8,9 +8,8 @@ namespace coltre {
 
 namespace {
 
-bool ends_field(char c) {
-    return c == ',' || c == '\r' || c == '\n';
-}
+/// An object, not a function, so that the search for one is compiled as one loop.
+constexpr auto ends_field = [](char c) { return c == ',' || c == '\r' || c == '\n'; };
 
 /// Whether a field begins at the position, or only blanks lie between its beginning and the position.
 bool is_field_start(std::string_view bytes, std::size_t position) {

@@ -10,6 +10,6 @@ namespace coltre {
 std::string_view built_in_table();
 
 /// The table as altitudini.txt holds it: Windows-1252, each line, the last one too, with CR LF at its end.
-std::string built_in_altitude_file();
+const std::string& built_in_altitude_file();
 
 }  // namespace coltre

@@ -27,26 +27,28 @@ AltitudeBlock read_block(std::string_view province, FieldReader reader) {
 
 }  // namespace
 
-const BuiltInBlocks& BuiltInBlocks::instance() {
-    static const BuiltInBlocks blocks;
-    return blocks;
-}
-
-BuiltInBlocks::BuiltInBlocks() : m_bytes(built_in_altitude_file()) {
-    for (const Region& region : regions()) {
-        for (const std::string_view province : region.provinces) {
-            const std::optional<FieldReader> reader = find_field(m_bytes, to_code_page(province));
-            if (reader) m_blocks.push_back(read_block(province, *reader));
+const std::vector<AltitudeBlock>& built_in_blocks() {
+    static const std::vector<AltitudeBlock> all = [] {
+        std::vector<AltitudeBlock> blocks;
+        for (const std::string_view province : provinces()) {
+            const auto reader = find_field(built_in_altitude_file(), to_code_page(province));
+            if (reader) blocks.push_back(read_block(province, *reader));
         }
-    }
-    std::ranges::sort(m_blocks, {}, [](const AltitudeBlock& block) { return block.header.data(); });
-    for (const AltitudeBlock& block : m_blocks)
-        m_by_header.emplace(block.header, &block);
+        std::ranges::sort(blocks, {}, [](const AltitudeBlock& block) { return block.header.data(); });
+        return blocks;
+    }();
+    return all;
 }
 
-const AltitudeBlock* BuiltInBlocks::find(std::string_view header) const {
-    const auto found = m_by_header.find(header);
-    return found == m_by_header.end() ? nullptr : found->second;
+const AltitudeBlock* find_built_in_block(std::string_view header) {
+    static const auto by_header = [] {
+        std::unordered_map<std::string_view, const AltitudeBlock*> blocks;
+        for (const AltitudeBlock& block : built_in_blocks())
+            blocks.emplace(block.header, &block);
+        return blocks;
+    }();
+    const auto found = by_header.find(header);
+    return found == by_header.end() ? nullptr : found->second;
 }
 
 }  // namespace coltre

@@ -1,10 +1,7 @@
 #include "site/municipalities.h"
 
-#include <utility>
-
 #include "platform/code_page.h"
 #include "platform/files.h"
-#include "site/ScriviAltitudini_cond.h"
 #include "site/altitude_fields.h"
 #include "site/altitude_file.h"
 
@@ -19,8 +16,31 @@ std::string name_in_file(std::string_view name) {
     return from_code_page(bytes) == name ? bytes : "\n";
 }
 
-std::optional<std::vector<std::string>> municipalities(std::string_view bytes, std::string_view province) {
-    std::optional<FieldReader> reader = find_field(bytes, province);
+/// Runs a read of the file as the windows do.
+/// @param read  takes the file's bytes; gives an optional, empty on failure
+template <typename Read>
+auto read_or_write_anew(std::string_view ProgramDirectory, AltitudeNotices& notices, Read read)
+    -> decltype(read(std::string_view())) {
+    const std::string name = altitude_file_name(ProgramDirectory);
+    enum class Try { as_it_is, at_rest, written_anew };
+    for (const Try it : {Try::as_it_is, Try::at_rest, Try::written_anew}) {
+        if (it == Try::written_anew && !WriteAltitudeFile(ProgramDirectory, notices)) return std::nullopt;
+        const FileContent file = it == Try::at_rest ? read_content_at_rest(name) : read_content(name);
+        if (file.end == ReadEnd::disturbed) {
+            notices.note = "Impossibile leggere il file altitudini.txt: " + file.reason + ".";
+            break;
+        }
+        if (file.end != ReadEnd::read) continue;
+        if (auto result = read(std::string_view(file.bytes))) return result;
+    }
+    notices.messages.push_back(altitude_read_error());
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::vector<std::string>> municipalities_in(std::string_view file, std::string_view province) {
+    std::optional<FieldReader> reader = find_field(file, name_in_file(province));
     if (!reader) return std::nullopt;
     std::vector<std::string> names;
     while (reader->next()) {
@@ -36,56 +56,36 @@ std::optional<std::vector<std::string>> municipalities(std::string_view bytes, s
     return std::nullopt;
 }
 
-std::optional<std::string> altitude(std::string_view bytes, std::string_view province,
-                                    std::string_view municipality) {
-    std::optional<FieldReader> reader = find_field(bytes, province);
+std::optional<std::string> altitude_in(std::string_view file, std::string_view province,
+                                       std::string_view municipality) {
+    std::optional<FieldReader> reader = find_field(file, name_in_file(province));
     if (!reader) return std::nullopt;
+    const std::string wanted = name_in_file(municipality);
     while (reader->next()) {
         const std::optional<std::string_view> name = municipality_of(reader->field());
         if (!name) return std::nullopt;
-        if (*name == municipality || reader->at_end()) return from_code_page(altitude_of(reader->field()));
+        if (*name == wanted || reader->at_end()) return from_code_page(altitude_of(reader->field()));
     }
     return std::nullopt;
 }
 
-/// Runs the read, after a failure once more on the file written anew.
-/// @param read  takes the file's bytes; gives an optional, empty on failure
-template <typename Read>
-auto read_with_retry(std::string_view ProgramDirectory, Messages& messages, Read read)
-    -> decltype(read(std::string_view())) {
-    for (bool retried = false;; retried = true) {
-        if (const std::optional<std::string> bytes = read_file(altitude_file_name(ProgramDirectory))) {
-            if (auto result = read(std::string_view(*bytes))) return result;
-        }
-        if (retried) break;
-        if (!WriteAltitudeFile(ProgramDirectory, messages)) return std::nullopt;
-    }
-    // Deliberate: the message names "altitudine.txt".
-    messages.push_back(
-        {Icon::error, std::string(program_title), "Errore in lettura del file altitudine.txt ."});
-    return std::nullopt;
-}
-
-}  // namespace
-
-std::optional<MunicipalityList> FillMunicipalities(std::string_view ProgramDirectory,
-                                                   std::string_view province, Messages& messages) {
-    const std::string header = name_in_file(province);
-    std::optional<std::vector<std::string>> names = read_with_retry(
-        ProgramDirectory, messages, [&](std::string_view bytes) { return municipalities(bytes, header); });
-    if (!names) return std::nullopt;
-    std::optional<std::string> first_altitude =
-        ReadAltitude(ProgramDirectory, province, names->front(), messages);
-    if (!first_altitude) return std::nullopt;
-    return MunicipalityList{std::move(*names), std::move(*first_altitude)};
+std::optional<std::vector<std::string>> FillMunicipalities(std::string_view ProgramDirectory,
+                                                           std::string_view province,
+                                                           AltitudeNotices& notices) {
+    return read_or_write_anew(ProgramDirectory, notices,
+                              [&](std::string_view file) { return municipalities_in(file, province); });
 }
 
 std::optional<std::string> ReadAltitude(std::string_view ProgramDirectory, std::string_view province,
-                                        std::string_view municipality, Messages& messages) {
-    const std::string header = name_in_file(province);
-    const std::string name = name_in_file(municipality);
-    return read_with_retry(ProgramDirectory, messages,
-                           [&](std::string_view bytes) { return altitude(bytes, header, name); });
+                                        std::string_view municipality, AltitudeNotices& notices) {
+    return read_or_write_anew(ProgramDirectory, notices, [&](std::string_view file) {
+        return altitude_in(file, province, municipality);
+    });
+}
+
+Message altitude_read_error() {
+    // Deliberate: the message names "altitudine.txt".
+    return {Icon::error, std::string(program_title), "Errore in lettura del file altitudine.txt ."};
 }
 
 }  // namespace coltre

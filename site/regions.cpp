@@ -103,6 +103,16 @@ std::span<const Region> regions() {
     return region_table;
 }
 
+std::span<const Name> provinces() {
+    static const std::vector<Name> all = [] {
+        std::vector<Name> names;
+        for (const Region& region : regions())
+            names.insert(names.end(), region.provinces.begin(), region.provinces.end());
+        return names;
+    }();
+    return all;
+}
+
 void FillProvinces(int region_code, std::vector<std::string>& Provinciainput) {
     if (region_code < 0 || static_cast<std::size_t>(region_code) >= regions().size()) return;
     for (const Name province : regions()[static_cast<std::size_t>(region_code)].provinces)

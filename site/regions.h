@@ -20,6 +20,9 @@ struct Region {
 /// headers of the altitude file, character for character.
 std::span<const Region> regions();
 
+/// The provinces of all regions, in the order of the regions and of their lists.
+std::span<const std::string_view> provinces();
+
 /// Appends the provinces of a region to the list, which is not cleared before.
 /// @param region_code  position in regions(); any other appends nothing
 void FillProvinces(int region_code, std::vector<std::string>& Provinciainput);

@@ -57,7 +57,12 @@ Tail split_tail(std::string_view text, std::size_t count) {
     return {text.substr(0, cut), text.substr(cut)};
 }
 
-/// Tells the fault. Always false: what check_directories() returns when the program must end.
+/// Paths are accepted with the separator of either system.
+bool ends_with_separator(std::string_view path) {
+    return path.ends_with('\\') || path.ends_with('/');
+}
+
+/// Reports the fault. Always false: what check_directories() returns when the program must end.
 bool end_program(Messages& messages, std::string_view title, std::string text) {
     messages.push_back({Icon::error, std::string(title), std::move(text)});
     return false;
@@ -114,7 +119,7 @@ bool check_directories(std::string_view command_line, std::string_view process_c
     }
     // Too short for a root ("c:"): no path was built from it, so the message lists them empty. Deliberate.
     if (character_count(root) < 3) return end_for_missing_directories(messages, directories);
-    if (root.ends_with('\\')) root.pop_back();
+    if (ends_with_separator(root)) root.pop_back();
     directories.SettingsDirectory = joined(root, settings_name);
 
     const std::string jobs_file = directories.SettingsDirectory + "\\dirlav";
@@ -122,7 +127,8 @@ bool check_directories(std::string_view command_line, std::string_view process_c
     // The shortest jobs directory is "c:\lavori".
     if (character_count(directories.JobsDirectory) < 9)
         return end_program(messages, suite_error_title, jobs_file + " errato o mancante.");
-    if (!directories.JobsDirectory.ends_with('\\')) directories.JobsDirectory += '\\';
+    if (ends_with_separator(directories.JobsDirectory)) directories.JobsDirectory.pop_back();
+    directories.JobsDirectory += '\\';
     if (lower_case(split_tail(directories.JobsDirectory, 7).characters) != "lavori\\") {
         return end_program(messages, suite_error_title,
                            "Il direttorio dei lavori deve terminare con < ...\\lavori >.");

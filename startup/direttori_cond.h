@@ -44,7 +44,8 @@ bool directories_missing(const Directories& directories);
 std::string missing_directory_list(const Directories& directories);
 
 /// Sets every directory value from the suite's root and its settings files and verifies that the standard
-/// directories exist. A fault is told and the program must end; the values set before it stay.
+/// directories exist. Root and jobs directory may end with a separator, "\" or "/". A fault is reported and
+/// the program must end; the values set before it stay.
 /// @param command_line          as parse_suite_root() reads it; empty: the process's own is used
 /// @param process_command_line  the command line that the process was started with
 /// @param own_directory         the directory that holds the program; without a root on the command line it

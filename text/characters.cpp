@@ -12,10 +12,9 @@ bool is_continuation(char byte) {
 
 /// Bytes that the lead byte announces; 1 for a byte that leads nothing.
 std::size_t announced_length(unsigned char lead) {
-    if (lead >= 0xC2 && lead < 0xE0) return 2;
-    if (lead >= 0xE0 && lead < 0xF0) return 3;
-    if (lead >= 0xF0 && lead < 0xF5) return 4;
-    return 1;
+    if (lead < 0xC2 || lead > 0xF4) return 1;
+    if (lead < 0xE0) return 2;
+    return lead < 0xF0 ? 3 : 4;
 }
 
 /// Whether the two bytes can start a character: no longer form than needed, no surrogate, none beyond

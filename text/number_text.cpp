@@ -7,7 +7,6 @@
 #include <limits>
 #include <string_view>
 #include <system_error>
-#include <utility>
 
 namespace coltre {
 
@@ -31,35 +30,6 @@ struct GeneralText {
         }
     }
     [[nodiscard]] std::string_view text() const { return {buffer.data(), length}; }
-};
-
-/// From 2^52 on a double has no decimals.
-bool has_no_decimals(double value) {
-    return std::fabs(value) >= 4503599627370496.0;
-}
-
-/// Below, the plain number text takes the exponent form.
-constexpr double smallest_without_exponent = 0.0001;
-
-/// A value below 2^52 with a fixed number of decimals, 0 to 99, an exact tie rounded to the even neighbour.
-class FixedText {
-  public:
-    FixedText(double value, int decimals) {
-        const auto [end, error] = std::to_chars(m_buffer.data(), m_buffer.data() + m_buffer.size(), value,
-                                                std::chars_format::fixed, decimals);
-        m_length = static_cast<std::size_t>(end - m_buffer.data());
-    }
-    [[nodiscard]] std::string_view text() const { return {m_buffer.data(), m_length}; }
-    /// The text read back; 0 for negative zero.
-    [[nodiscard]] double value() const {
-        double rounded = 0;
-        std::from_chars(m_buffer.data(), m_buffer.data() + m_length, rounded);
-        return rounded == 0 ? 0.0 : rounded;
-    }
-
-  private:
-    std::array<char, 128> m_buffer;
-    std::size_t m_length;
 };
 
 /// A decimal number 0.d1d2d3... x 10^exponent, d1 not 0; no digits at all for 0.
@@ -159,31 +129,13 @@ std::string fixed_number_text(double value, int decimals) {
 }
 
 double round_half_even(double value, int decimals) {
-    if (has_no_decimals(value)) return value;
-    return FixedText(value, decimals).value();
-}
-
-RoundedNumber round_to_text(double value, int decimals) {
-    if (has_no_decimals(value)) return {value, plain_number_text(value)};
-    const FixedText fixed(value, decimals);
-    const double rounded = fixed.value();
-    // A decimal of up to 15 digits is the 15-digit text of the double that it reads back to.
-    std::string_view digits = fixed.text();
-    if (digits.size() > significant_digits || std::fabs(rounded) < smallest_without_exponent) {
-        return {rounded, plain_number_text(rounded)};
-    }
-    if (digits.find('.') != std::string_view::npos) {
-        digits = digits.substr(0, digits.find_last_not_of('0') + 1);
-        if (digits.ends_with('.')) digits.remove_suffix(1);
-    }
-    std::string text;
-    if (digits.starts_with('-')) {
-        text = '-';
-        digits.remove_prefix(1);
-    }
-    if (digits.starts_with("0.")) digits.remove_prefix(1);
-    text += digits;
-    return {rounded, std::move(text)};
+    if (std::fabs(value) >= 4503599627370496.0) return value;  // from 2^52 on a double has no decimals
+    std::array<char, 128> buffer;
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                            std::chars_format::fixed, decimals);
+    double rounded = 0;
+    std::from_chars(buffer.data(), end, rounded);
+    return rounded == 0 ? 0.0 : rounded;  // never negative zero
 }
 
 double round_significant(double value, int n) {

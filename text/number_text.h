@@ -17,7 +17,7 @@ std::string plain_number_text(double value);
 /// @param value  finite
 std::string display_number_text(double value);
 
-/// The fewest digits that read back to the same double: 0.1 -> "0.1", 239 -> "239", 1e22 -> "1e+22".
+/// The shortest text that reads back to the same double: 0.1 -> "0.1", 239 -> "239", 1e22 -> "1e+22".
 /// @param value  finite
 std::string shortest_number_text(double value);
 
@@ -32,13 +32,6 @@ std::string fixed_number_text(double value, int decimals);
 /// @param decimals  0 to 99
 double round_half_even(double value, int decimals);
 
-/// round_half_even() with the plain_number_text() of its result, at the cost of one of them.
-struct RoundedNumber {
-    double value;
-    std::string text;
-};
-RoundedNumber round_to_text(double value, int decimals);
-
 /// The value rounded to n significant digits, half away from zero, from its 15-digit decimal text.
 /// 1234.5 with n = 3 -> 1230. With n above 15 the 15 digits stay.
 /// @param value  finite
@@ -46,17 +39,20 @@ RoundedNumber round_to_text(double value, int decimals);
 /// @return infinite where the rounding leaves the range of a double
 double round_significant(double value, int n);
 
-/// Display picture of `whole_places` optional digits, a point and `decimals` optional digits ("##.###"):
-/// rounds half away from zero, drops zeros at the end, keeps the point, writes no zero before it. 1234.5678
-/// with 3 decimals -> "1234.568", 2 with 3 decimals -> "2.". More whole digits are all written.
+/// Display picture of optional digits, a point and `decimals` optional digits ("##.###"): rounds half away
+/// from zero, drops zeros at the end, keeps the point, writes no zero before it. 1234.5678 with 3 decimals ->
+/// "1234.568", 2 with 3 decimals -> "2.".
+/// @param value  finite
 std::string fixed_picture(double value, int decimals);
 
-/// Display picture of optional digits without a point: the value rounded half away from zero. 12.5 -> "13".
+/// Display picture of optional digits without a point: the value rounded half away from zero. 12.5 -> "13",
+/// 0.4 -> "".
+/// @param value  finite
 std::string whole_picture(double value);
 
 /// Exponent picture: a point, up to n digits, "E", "-" for a negative exponent, the exponent. The mantissa
-/// lies in [0.1, 1). 123456789 with n = 5 -> ".12346E9", 1.5e-7 with n = 2 -> ".15E-6".
-/// @param value  finite, not 0
+/// lies in [0.1, 1). 123456789 with n = 5 -> ".12346E9", 1.5e-7 with n = 2 -> ".15E-6"; 0 -> ".E0".
+/// @param value  finite
 /// @param n      at least 1
 std::string exponent_picture(double value, int n);
 

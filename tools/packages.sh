@@ -1,15 +1,15 @@
 # Debian packages that the scripts install where they are missing. Sourced, not run.
 
 # To build and run the program.
-program_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev qt6-translations-l10n
+program_packages=(g++ cmake ninja-build libcli11-dev rapidjson-dev qt6-base-dev qt6-translations-l10n
     cmark-gfm)
 
 # To run all checks besides.
-check_packages=(libgtest-dev libgmock-dev libbenchmark-dev locales clang-format xvfb xdotool imagemagick git
-    desktop-file-utils appstream mandoc)
+check_packages=(libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev locales clang-format xvfb xdotool
+    imagemagick git desktop-file-utils appstream mandoc)
 
 # For tools/fuzz, besides those of the program.
-fuzz_packages=(clang libclang-rt-14-dev)
+fuzz_packages=(clang libclang-rt-14-dev nlohmann-json3-dev)
 
 # For tools/benchmark, besides those of the program: speedcrunch is what the windows are compared with.
-bench_packages=(libbenchmark-dev python3 libx11-6 xvfb speedcrunch)
+bench_packages=(libbenchmark-dev nlohmann-json3-dev python3 libx11-6 xvfb speedcrunch)

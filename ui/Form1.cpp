@@ -42,11 +42,14 @@ Form1::Form1(Program& program, UserDialogs& dialogs, QWidget* parent)
     m_Timer1.setObjectName("Timer1");
     m_Timer1.setInterval(800);
     m_hints = std::make_unique<Hints>(*m_ui->Label25, m_Timer1);
+    tell_roles_to_screen_readers();
+    fill(*m_ui->udmcombo, unit_items);
+    fill(*m_ui->ComboEsp, exposure_items);
+    QWidget& ground = let_contents_scroll(*this);
     leave_lists_to_clicks_and_keys(*this);
     answer_mnemonics_at_once(*this);
-    fit_to_screen(*this);
     m_tabs = make_tabs(Window::main, *this, m_dialogs);
-    set_up_hints();
+    set_up_hints(ground);
     connect_controls();
 }
 
@@ -79,18 +82,19 @@ CalculationTab& Form1::open_tab() const {
 }
 
 Inputs Form1::inputs(const CalculationTab& tab) const {
-    Fields fields = site_fields();
-    fields.kind = tab.kind();
-    fields.entries = tab.texts();
-    return {std::move(fields), m_program.cells.zone, m_program.cells.return_period_factor};
+    Inputs inputs = site();
+    inputs.fields.kind = tab.kind();
+    inputs.fields.entries = tab.texts();
+    return inputs;
 }
 
 void Form1::follow_inputs() {
     for (const auto& tab : m_tabs)
         tab->follow(inputs(*tab));
+    m_ui->caricosuolo->set_stale(m_ground_load_of && *m_ground_load_of != site());
 }
 
-void Form1::set_up_hints() {
+void Form1::set_up_hints(QWidget& ground) {
     m_hints->show_over(*m_ui->asinput,
                        tr("Quota del suolo sul livello del mare nel sito di realizzazione dell' edificio, "
                           "ininfluente se minore di 200 m."));
@@ -104,7 +108,7 @@ void Form1::set_up_hints() {
                                           "considerato in caso di copertura aggettante sulle pareti "
                                           "perimetrali."));
     }
-    m_hints->hide_over(*this);
+    m_hints->hide_over(ground);
     m_hints->hide_over(*m_ui->Frame1);
     m_hints->hide_over(*m_ui->Label32);
     m_hints->hide_over(*m_ui->SSTab1);
@@ -123,8 +127,8 @@ bool Form1::load(std::string_view command_line, std::string_view own_directory) 
         return false;
     }
     if (start.caption) setWindowTitle(QString::fromStdString(*start.caption));
-    fill(*m_ui->udmcombo, unit_items, start.unit_item);
-    fill(*m_ui->ComboEsp, exposure_items, start.exposure_item);
+    m_ui->udmcombo->setCurrentIndex(start.unit_item);
+    m_ui->ComboEsp->setCurrentIndex(start.exposure_item);
     report_switched();
 
     std::vector<std::string> names;
@@ -134,25 +138,39 @@ bool Form1::load(std::string_view command_line, std::string_view own_directory) 
     m_ui->regione->setCurrentIndex(start.region_item);
     m_ui->OutputPerRit->setText(qt(display_number_text(m_program.cells.return_period)).trimmed());
     show_return_period_factor();
+    m_menus.add_to(*this, [this]() -> CalculationTab& { return open_tab(); });
     return true;
 }
 
-Fields Form1::site_fields() const {
-    Fields fields;
-    fields.asinput = m_ui->asinput->utf8();
-    fields.ComboEsp = m_ui->ComboEsp->currentText().toStdString();
-    fields.TextCTermico = m_ui->TextCTermico->utf8();
-    return fields;
+Inputs Form1::site() const {
+    Inputs site;
+    site.fields.asinput = m_ui->asinput->utf8();
+    site.fields.ComboEsp = m_ui->ComboEsp->currentText().toStdString();
+    site.fields.TextCTermico = m_ui->TextCTermico->utf8();
+    site.zone = m_program.cells.zone;
+    site.return_period_factor = m_program.cells.return_period_factor;
+
+    if (m_ui->Provinciainput->currentIndex() < 0) {
+        std::string_view zone = zone_caption(site.zone);  // in parentheses
+        zone.remove_prefix(1);
+        zone.remove_suffix(1);
+        site.site_notes.push_back("sito non scelto: " + std::string(zone));
+    }
+    if (m_ui->asinput->is_marked())
+        site.site_notes.push_back("altitudine: " + m_ui->asinput->reading().toStdString());
+    if (m_ui->TextCTermico->is_marked())
+        site.site_notes.push_back("Ct " + m_ui->TextCTermico->reading().toStdString());
+    return site;
 }
 
-void Form1::show_ground_load() {
+void Form1::show_ground_load(const Inputs& of) {
     m_ui->caricosuolo->show_number(m_program.cells.qsk, quantities::area_load.decimals);
+    m_ground_load_of = of;
+    follow_inputs();
 }
 
 void Form1::show_return_period_factor() {
-    const double factor = round_half_even(m_program.cells.return_period_factor, 4);
-    m_ui->OutputPerRit->setToolTip(tr("coefficiente del periodo di ritorno:") +
-                                   qt(display_number_text(factor)));
+    m_ui->factor_in_force->setText(return_period_factor_line(m_program.cells));
 }
 
 void Form1::keyPressEvent(QKeyEvent* event) {
@@ -169,6 +187,7 @@ void Form1::region_chosen(int index) {
     // The municipalities still shown belong to no province that is chosen: choosing one would look for it in
     // vain.
     m_ui->comuneinput->setEnabled(false);
+    emit site_changed();
 }
 
 void Form1::province_chosen() {
@@ -178,23 +197,23 @@ void Form1::province_chosen() {
     m_ui->Zonalabel->setText(qt(zone.caption));
     emit site_changed();
     m_ui->comuneinput->fill({});
-    Messages messages;
-    const auto municipalities =
-        FillMunicipalities(m_program.directories.ProgramDirectory, province, messages);
-    m_dialogs.show(messages);
+    AltitudeNotices notices;
+    const auto municipalities = FillMunicipalities(m_program.directories.ProgramDirectory, province, notices);
+    m_dialogs.show(notices.messages);
     if (!municipalities) return m_dialogs.end();
     m_ui->comuneinput->setEnabled(true);
-    m_ui->comuneinput->fill(municipalities->names);
+    m_ui->comuneinput->fill(*municipalities);
     m_ui->comuneinput->setCurrentIndex(0);
 }
 
 void Form1::municipality_chosen() {
-    Messages messages;
+    AltitudeNotices notices;
     const std::optional<std::string> altitude =
         ReadAltitude(m_program.directories.ProgramDirectory, m_ui->Provinciainput->utf8(),
-                     m_ui->comuneinput->utf8(), messages);
-    m_dialogs.show(messages);
+                     m_ui->comuneinput->utf8(), notices);
+    m_dialogs.show(notices.messages);
     if (!altitude) return m_dialogs.end();
+    m_listed_altitude = *altitude;
     m_ui->asinput->setText(QString::fromStdString(*altitude));
 }
 
@@ -208,6 +227,7 @@ void Form1::return_period_clicked() {
     connect(dialog, &PeriododiRitorno::confirmed, m_ui->OutputPerRit, &ResultLabel::setText);
     connect(dialog, &PeriododiRitorno::confirmed, this, &Form1::show_return_period_factor);
     connect(dialog, &PeriododiRitorno::confirmed, this, &Form1::site_changed);
+    connect(dialog, &PeriododiRitorno::confirmed, m_ui->Calcola, qOverload<>(&QWidget::setFocus));
     m_return_period = dialog;
     dialog->show();
 }
@@ -219,18 +239,22 @@ void Form1::exposure_table_clicked() {
 void Form1::special_cases_clicked() {
     if (raise_open(m_special_cases)) return;
     auto* window = new casipart(
-        m_program, m_dialogs, [this] { return site_fields(); }, [this] { show_ground_load(); }, this);
+        m_program, m_dialogs, [this] { return site(); }, [this] { show_ground_load(site()); }, this);
     connect(this, &Form1::site_changed, window, &casipart::follow_inputs);
+    connect(window, &casipart::calculated, this, &Form1::keep);
+    m_menus.add_to(*window, [window]() -> CalculationTab& { return window->open_tab(); });
     m_special_cases = window;
     window->show();
 }
 
 void Form1::calculate_clicked() {
     CalculationTab& tab = open_tab();
+    const Inputs calculated_site = site();
     const Inputs calculated = inputs(tab);
     Fields fields = calculated.fields;
     fields.udmcombo = m_ui->udmcombo->currentText().toStdString();
     fields.Check1Box = m_ui->Check1Box->isChecked();
+    fields.traced = true;
     if (const auto notice = altitude_notice(fields)) {
         m_dialogs.show(notice->message);
         m_ui->asinput->setText(QString::fromStdString(notice->asinput));
@@ -239,18 +263,33 @@ void Form1::calculate_clicked() {
     const WidthLabels widths = width_labels(outcome.calculation);
     if (widths.L1output) m_ui->L1output->setText(QString::fromStdString(*widths.L1output));
     if (widths.L2output) m_ui->L2output->setText(QString::fromStdString(*widths.L2output));
+    keep(fields, outcome);
     m_dialogs.show(outcome.messages);
     if (!outcome.complete) return;
-    show_ground_load();
-    tab.show_results(m_program.cells, calculated);
-    follow_inputs();  // the altitude field may hold another altitude than the one that counted
+    tab.show_results(outcome.calculation, m_program.cells, calculated);
+    show_ground_load(calculated_site);
+    follow_inputs();  // the altitude field may hold another altitude by now
+}
+
+void Form1::keep(const Fields& fields, const Outcome& outcome) {
+    m_menus.remember_report(outcome.report);
+    Subject subject;
+    subject.fields = fields;
+    subject.outcome = outcome;
+    subject.zone = m_program.cells.zone;
+    subject.return_period = m_program.cells.return_period;
+    subject.confirmed_return_period = m_program.cells.confirmed_return_period;
+    subject.province = m_ui->Provinciainput->utf8();
+    subject.zone_of_province = !subject.province.empty();
+    if (subject.zone_of_province) {
+        subject.municipality = m_ui->comuneinput->utf8();
+        subject.listed_altitude = m_listed_altitude;
+    }
+    m_last_calculation.keep(std::move(subject));
 }
 
 void Form1::information_clicked() {
-    std::string text;
-    for (const std::string_view line : maker_lines)
-        text.append(text.empty() ? "" : "\r").append(line);
-    m_dialogs.show({Icon::information, std::string(program_title), text});
+    m_dialogs.show({Icon::information, std::string(program_title), maker_text()});
 }
 
 }  // namespace coltre

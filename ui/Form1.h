@@ -10,6 +10,8 @@
 #include "startup/program.h"
 #include "ui/calculation_tab.h"
 #include "ui/hints.h"
+#include "ui/last_calculation.h"
+#include "ui/menus.h"
 #include "ui/user_dialogs.h"
 
 namespace coltre {
@@ -35,11 +37,12 @@ class Form1 : public QWidget {
     /// @return false if the program was ended
     bool load(std::string_view command_line, std::string_view own_directory);
 
-    /// The site and the coefficients, which both windows calculate with.
-    [[nodiscard]] Fields site_fields() const;
+    /// The site, the coefficients and the return period, which both windows calculate with.
+    [[nodiscard]] Inputs site() const;
 
     /// `caricosuolo` shows the qsk cell.
-    void show_ground_load();
+    /// @param of  what it was calculated from
+    void show_ground_load(const Inputs& of);
 
   signals:
     /// The site, a coefficient or the return period is another one: numbers shown so far belong to the old
@@ -51,16 +54,20 @@ class Form1 : public QWidget {
 
   private:
     void connect_controls();
-    void set_up_hints();
+    /// @param ground  of the window, under its controls
+    void set_up_hints(QWidget& ground);
 
     [[nodiscard]] CalculationTab& open_tab() const;
     [[nodiscard]] Inputs inputs(const CalculationTab& tab) const;
-    /// All sketches for what is typed and chosen now.
+    /// All sketches, and the ground load, for what is typed and chosen now.
     void follow_inputs();
 
-    /// The factor in force shows over the return period: at the start it is 1, which the 50 years do not
+    /// The factor in force stands under the return period: at the start it is 1, which the 50 years do not
     /// tell.
     void show_return_period_factor();
+
+    /// Keeps a calculation of either window for its documents.
+    void keep(const Fields& fields, const Outcome& outcome);
 
     // One handler a control and event.
     void region_chosen(int index);
@@ -77,6 +84,10 @@ class Form1 : public QWidget {
     UserDialogs& m_dialogs;
     std::unique_ptr<Ui::Form1> m_ui;
     std::vector<std::unique_ptr<CalculationTab>> m_tabs;
+    LastCalculation m_last_calculation{*this, m_dialogs};
+    Menus m_menus{*this, m_program, m_last_calculation, m_dialogs};
+    std::string m_listed_altitude;           // of the municipality that was chosen last
+    std::optional<Inputs> m_ground_load_of;  // nothing before it is shown for the first time
     QTimer m_Timer1{this};
     std::unique_ptr<Hints> m_hints;
     QPointer<QWidget> m_return_period;  // one at a time

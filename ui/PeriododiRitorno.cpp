@@ -1,9 +1,16 @@
 #include "ui/PeriododiRitorno.h"
 
 #include "calculate/return_period.h"
+#include "text/number_text.h"
 #include "ui_PeriododiRitorno.h"
 
 namespace coltre {
+
+QString return_period_factor_line(const ProgramCells& cells) {
+    const double factor = round_half_even(cells.return_period_factor, 4);
+    const QString text = QObject::tr("coefficiente") + QString::fromStdString(display_number_text(factor));
+    return cells.confirmed_return_period ? text : text + QObject::tr(", non confermato");
+}
 
 PeriododiRitorno::PeriododiRitorno(ProgramCells& cells, UserDialogs& dialogs, const QString& in_force,
                                    QWidget* parent)
@@ -12,11 +19,20 @@ PeriododiRitorno::PeriododiRitorno(ProgramCells& cells, UserDialogs& dialogs, co
     setAttribute(Qt::WA_DeleteOnClose);
     m_ui->InputPerRIT->setText(in_force);
     m_ui->InputPerRIT->selectAll();
+    connect(m_ui->InputPerRIT, &QLineEdit::textChanged, this, &PeriododiRitorno::show_factor);
+    show_factor();
     connect(m_ui->OkPerRit, &QPushButton::clicked, this, &PeriododiRitorno::confirm_clicked);
     connect(m_ui->AnnPerRit, &QPushButton::clicked, this, &PeriododiRitorno::close);
 }
 
 PeriododiRitorno::~PeriododiRitorno() = default;
+
+void PeriododiRitorno::show_factor() {
+    ProgramCells trial = m_cells;
+    const ReturnPeriodOutcome outcome = confirm_return_period(m_ui->InputPerRIT->utf8(), trial);
+    m_ui->typed_factor->setText(outcome.OutputPerRit ? return_period_factor_line(trial)
+                                                     : tr("coefficiente –"));
+}
 
 void PeriododiRitorno::confirm_clicked() {
     const ReturnPeriodOutcome outcome = confirm_return_period(m_ui->InputPerRIT->utf8(), m_cells);

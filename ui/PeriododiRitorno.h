@@ -12,6 +12,9 @@ namespace Ui {
 class PeriododiRitorno;
 }
 
+/// What is said of the factor in force: "coefficiente 0.8056", or "coefficiente 1, non confermato".
+QString return_period_factor_line(const ProgramCells& cells);
+
 /// The dialog of the return period. It is not modal, and gone when it is closed.
 class PeriododiRitorno : public QDialog {
     Q_OBJECT
@@ -28,6 +31,8 @@ class PeriododiRitorno : public QDialog {
 
   private:
     void confirm_clicked();
+    /// Says which factor the typed return period gives.
+    void show_factor();
 
     ProgramCells& m_cells;
     UserDialogs& m_dialogs;

@@ -3,12 +3,13 @@
 #include <QApplication>
 #include <QIcon>
 #include <QLibraryInfo>
+#include <QSettings>
 #include <QTranslator>
 #include <cstdlib>
 #include <iostream>
 #include <string>
 
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "ui/Form1.h"
 #include "ui/pictures.h"
 #include "ui/qt_dialogs.h"
@@ -69,13 +70,16 @@ int run(int argc, char** argv) {
         qWarning().noquote() << message;
 
     QApplication::setApplicationName("coltre");
+    // Nothing is kept between runs: file dialogs would leave the files last saved in
+    // ~/.config/QtProject.conf.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     // Menus of text fields and file dialogs in Italian, whatever the locale. Where Qt's translations are not
     // installed these stay English; the message boxes bring their own words.
     QTranslator italian;
     if (italian.load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&italian);
     load_pictures();
-    QApplication::setWindowIcon(QIcon(":/images/coltre.svg"));
+    QApplication::setWindowIcon(QIcon(":/images/coltre.png"));
 
     Program program;
     QtDialogs dialogs;

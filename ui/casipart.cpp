@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "calculate/Calcola2.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "report/unit_systems.h"
 #include "text/number_reading.h"
 #include "ui/window_setup.h"
@@ -22,15 +22,18 @@ int first_unit_item(const Program& program) {
 
 }  // namespace
 
-casipart::casipart(Program& program, UserDialogs& dialogs, std::function<Fields()> site_fields,
+casipart::casipart(Program& program, UserDialogs& dialogs, std::function<Inputs()> site,
                    std::function<void()> show_ground_load, QWidget* parent)
     : QWidget(parent, Qt::Window),
       m_program(program),
       m_dialogs(dialogs),
-      m_site_fields(std::move(site_fields)),
+      m_site(std::move(site)),
       m_show_ground_load(std::move(show_ground_load)),
       m_ui(std::make_unique<Ui::casipart>()) {
     m_ui->setupUi(this);
+    fill(*m_ui->udmcombo, unit_items);
+    m_ui->udmcombo->setCurrentIndex(first_unit_item(program));
+    let_contents_scroll(*this);
     leave_lists_to_clicks_and_keys(*this);
     answer_mnemonics_at_once(*this);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -40,8 +43,6 @@ casipart::casipart(Program& program, UserDialogs& dialogs, std::function<Fields(
     note_policy.setRetainSizeWhenHidden(true);
     m_ui->Label78->setSizePolicy(note_policy);
     m_ui->Label78->setMinimumHeight(3 * fontMetrics().lineSpacing());
-
-    fill(*m_ui->udmcombo, unit_items, first_unit_item(program));
 
     m_tabs = make_tabs(Window::special_cases, *this, m_dialogs);
     for (const auto& tab : m_tabs)
@@ -66,16 +67,10 @@ CalculationTab& casipart::open_tab() const {
 
 Inputs casipart::inputs(const CalculationTab& tab) const {
     Inputs inputs;
+    if (describe(tab.kind()).needs_ground_load) inputs = m_site();
     inputs.fields.kind = tab.kind();
     inputs.fields.entries = tab.texts();
     inputs.fields.decimal_separator = user_decimal_separator();
-    if (!describe(tab.kind()).needs_ground_load) return inputs;
-    const Fields site = m_site_fields();
-    inputs.fields.asinput = site.asinput;
-    inputs.fields.ComboEsp = site.ComboEsp;
-    inputs.fields.TextCTermico = site.TextCTermico;
-    inputs.zone = m_program.cells.zone;
-    inputs.return_period_factor = m_program.cells.return_period_factor;
     return inputs;
 }
 
@@ -115,18 +110,20 @@ void casipart::report_switched() {
 
 void casipart::calculate_clicked() {
     CalculationTab& tab = open_tab();
-    Fields fields = m_site_fields();
+    Fields fields = m_site().fields;
     fields.kind = tab.kind();
     fields.entries = tab.texts();
     fields.decimal_separator = user_decimal_separator();
     fields.udmcombo = m_ui->udmcombo->currentText().toStdString();
     fields.Check1Box = m_ui->Check1Box->isChecked();
+    fields.traced = true;
     const Outcome outcome = Calcola2(fields, m_program);
     // The labels are refreshed before the message about the report.
     if (outcome.complete) {
         m_show_ground_load();
-        tab.show_results(m_program.cells, inputs(tab));
+        tab.show_results(outcome.calculation, m_program.cells, inputs(tab));
     }
+    emit calculated(fields, outcome);
     m_dialogs.show(outcome.messages);
 }
 

@@ -22,15 +22,21 @@ class casipart : public QWidget {
 
   public:
     /// Program and dialogs must live as long as the window.
-    /// @param site_fields       the main window's fields as they are at the moment of the call
+    /// @param site              the main window's inputs as they are at the moment of the call
     /// @param show_ground_load  has the main window show the qsk cell, in which this window leaves its own
     ///                          ground load; called whenever results are shown
-    explicit casipart(Program& program, UserDialogs& dialogs, std::function<Fields()> site_fields,
+    explicit casipart(Program& program, UserDialogs& dialogs, std::function<Inputs()> site,
                       std::function<void()> show_ground_load, QWidget* parent = nullptr);
     ~casipart() override;
 
     /// All sketches for what is typed here and chosen in the main window now.
     void follow_inputs();
+
+    [[nodiscard]] CalculationTab& open_tab() const;
+
+  signals:
+    /// A calculation ended.
+    void calculated(const Fields& fields, const Outcome& outcome);
 
   protected:
     /// Enter calculates, wherever the focus is but on a button.
@@ -41,12 +47,11 @@ class casipart : public QWidget {
     void report_switched();
     void calculate_clicked();
 
-    [[nodiscard]] CalculationTab& open_tab() const;
     [[nodiscard]] Inputs inputs(const CalculationTab& tab) const;
 
     Program& m_program;
     UserDialogs& m_dialogs;
-    std::function<Fields()> m_site_fields;
+    std::function<Inputs()> m_site;
     std::function<void()> m_show_ground_load;
     std::unique_ptr<Ui::casipart> m_ui;
     std::vector<std::unique_ptr<CalculationTab>> m_tabs;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace coltre {
@@ -16,5 +17,13 @@ inline constexpr std::array<std::string_view, 7> maker_lines{
     "www.example.com",
     "info@example.com",
 };
+
+/// The same as the text of a message.
+inline std::string maker_text() {
+    std::string text;
+    for (const std::string_view line : maker_lines)
+        text.append(text.empty() ? "" : "\r").append(line);
+    return text;
+}
 
 }  // namespace coltre

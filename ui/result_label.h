@@ -15,6 +15,11 @@ class ResultLabel : public QLabel {
     /// sign: " 0.576".
     void show_number(double value, int decimals);
 
+    /// Grey while the number belongs to other entries than those on show.
+    void set_stale(bool stale) {
+        setForegroundRole(stale ? QPalette::PlaceholderText : QPalette::WindowText);
+    }
+
   protected:
     /// Selects the text when the keyboard comes to it, so that it is seen where the focus is.
     void focusInEvent(QFocusEvent* event) override;

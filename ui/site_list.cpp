@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QListView>
+#include <QProxyStyle>
 #include <QSignalBlocker>
 
 #include "text/names.h"
@@ -9,6 +10,16 @@
 namespace coltre {
 
 namespace {
+
+/// Opens a list under its box, as high as its `maxVisibleItems`, with a scroll bar. The style's own way, over
+/// the whole height of the screen and without one, suits a menu of ten entries.
+class BoundedListStyle : public QProxyStyle {
+  public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* answer) const override {
+        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+};
 
 /// The list's view. The closed list searches through it as well.
 class SearchedView : public QListView {
@@ -52,6 +63,11 @@ class SearchedView : public QListView {
 }  // namespace
 
 SiteList::SiteList(QWidget* parent) : QComboBox(parent) {
+    // First of all: the view's scroll bar depends on it.
+    auto* style = new BoundedListStyle;
+    style->setParent(this);
+    setStyle(style);
+    setMaxVisibleItems(16);
     auto* view = new SearchedView(this);
     view->setUniformItemSizes(true);
     view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -5,10 +5,10 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSvgGenerator>
 #include <QtMath>
 
-#include "platform/files.h"
+#include "drawings/svg.h"
+#include "platform/file_replacement.h"
 #include "ui/sketch_painter.h"
 
 namespace coltre {
@@ -16,8 +16,7 @@ namespace coltre {
 namespace {
 
 constexpr double twips_an_inch = 1440;
-constexpr int screen_dpi = 96;
-constexpr int image_dpi = 2 * screen_dpi;
+constexpr int image_dpi = 192;
 constexpr int pdf_dpi = 1440;
 
 QPalette report_palette() {
@@ -33,37 +32,20 @@ QSize dots(const Drawing& drawing, int dpi) {
             qCeil(drawing.page.height * dpi / twips_an_inch)};
 }
 
-void paint_report(QPainter& painter, const QRectF& target, const Drawing& drawing, const SlotTexts& labels,
+void paint_report(QPainter& painter, const QRectF& target, const Drawing& drawing, const LabelTexts& labels,
                   const QFont& font) {
     const SketchPainter sketch(drawing, target, {report_palette(), font});
     sketch.paint(painter);
     for (const LabelSlot& slot : drawing.label_slots) {
         const auto label = labels.find(slot.name);
         // Without a number the symbol and the unit beside it say nothing.
-        if (!slot.visible || label == labels.end() || label->second.trimmed().isEmpty()) continue;
-        const QString number = label->second.trimmed();
-        const QFontMetricsF metrics(sketch.text_font(), painter.device());
-        const QRectF place = sketch.number_rect(slot, {metrics.horizontalAdvance(number), metrics.height()});
-        sketch.paint_slot(painter, slot, place);
-        painter.drawText(place, static_cast<int>(Qt::AlignCenter) | Qt::TextDontClip, number);
+        if (!slot.visible || label == labels.end()) continue;
+        const QString number = QString::fromStdString(label->second).trimmed();
+        if (!number.isEmpty()) sketch.paint_number(painter, slot, number);
     }
 }
 
-bool paint_svg(QBuffer& buffer, const Drawing& drawing, const SlotTexts& labels, const QFont& font) {
-    const QSize size = dots(drawing, screen_dpi);
-    QSvgGenerator generator;
-    generator.setOutputDevice(&buffer);
-    generator.setResolution(screen_dpi);
-    generator.setSize(size);
-    generator.setViewBox(QRect({}, size));
-    generator.setTitle(QStringLiteral("Coltre"));
-    QPainter painter;
-    if (!painter.begin(&generator)) return false;
-    paint_report(painter, QRectF({}, size), drawing, labels, font);
-    return painter.end();
-}
-
-bool paint_pdf(QBuffer& buffer, const Drawing& drawing, const SlotTexts& labels, const QFont& font) {
+bool paint_pdf(QBuffer& buffer, const Drawing& drawing, const LabelTexts& labels, const QFont& font) {
     QPdfWriter writer(&buffer);
     writer.setResolution(pdf_dpi);
     writer.setCreator(QStringLiteral("Coltre"));
@@ -79,7 +61,7 @@ bool paint_pdf(QBuffer& buffer, const Drawing& drawing, const SlotTexts& labels,
 
 }  // namespace
 
-QImage sketch_image(const Drawing& drawing, const SlotTexts& labels, const QFont& font) {
+QImage sketch_image(const Drawing& drawing, const LabelTexts& labels, const QFont& font) {
     QImage image(dots(drawing, image_dpi), QImage::Format_RGB32);
     if (image.isNull()) return image;
     image.fill(Qt::white);
@@ -91,7 +73,7 @@ QImage sketch_image(const Drawing& drawing, const SlotTexts& labels, const QFont
     return image;
 }
 
-QByteArray sketch_picture(const Drawing& drawing, const SlotTexts& labels, const QFont& font,
+QByteArray sketch_picture(const Drawing& drawing, const LabelTexts& labels, const QFont& font,
                           PictureFormat format) {
     QByteArray content;
     QBuffer buffer(&content);
@@ -99,7 +81,7 @@ QByteArray sketch_picture(const Drawing& drawing, const SlotTexts& labels, const
     bool made = false;
     switch (format) {
         case PictureFormat::svg:
-            made = paint_svg(buffer, drawing, labels, font);
+            made = buffer.write(QByteArray::fromStdString(to_svg(drawing, {labels, "Coltre"}))) > 0;
             break;
         case PictureFormat::png:
             made = sketch_image(drawing, labels, font).save(&buffer, "PNG");
@@ -115,8 +97,7 @@ QString replace_file(const QString& path, const QByteArray& content) {
     if (content.isEmpty()) return QStringLiteral("l'immagine non è stata creata");
     FileReplacement file(QFile::encodeName(path).toStdString(), Outlives::power_failure);
     file.write({content.constData(), static_cast<std::size_t>(content.size())});
-    file.commit();
-    return QString::fromStdString(file.reason());
+    return QString::fromStdString(file.commit().value_or(""));
 }
 
 }  // namespace coltre

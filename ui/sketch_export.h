@@ -4,8 +4,6 @@
 #include <QFont>
 #include <QImage>
 #include <QString>
-#include <map>
-#include <string>
 
 #include "drawings/drawing.h"
 
@@ -15,14 +13,11 @@ namespace coltre {
 
 enum class PictureFormat { svg, png, pdf };
 
-/// Texts of the result labels by the names of their slots.
-using SlotTexts = std::map<std::string, QString>;
-
 /// The picture at 192 dots an inch, twice the resolution of a usual screen.
-QImage sketch_image(const Drawing& drawing, const SlotTexts& labels, const QFont& font);
+QImage sketch_image(const Drawing& drawing, const LabelTexts& labels, const QFont& font);
 
 /// The complete content of a picture file; empty if it could not be made.
-QByteArray sketch_picture(const Drawing& drawing, const SlotTexts& labels, const QFont& font,
+QByteArray sketch_picture(const Drawing& drawing, const LabelTexts& labels, const QFont& font,
                           PictureFormat format);
 
 /// Writes a file anew in one step: whatever happens, there is the complete new file or the old one.

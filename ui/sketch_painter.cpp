@@ -4,85 +4,37 @@
 #include <QList>
 #include <QPolygonF>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace coltre {
 
 namespace {
 
-constexpr double natural_scale = 96.0 / 1440;  // pixels a twip where the sketch has its printed size
-
-QColor blend(const QColor& over, const QColor& under, double part) {
-    const auto mix = [part](float a, float b) { return static_cast<float>(a * part + b * (1 - part)); };
-    return QColor::fromRgbF(mix(over.redF(), under.redF()), mix(over.greenF(), under.greenF()),
-                            mix(over.blueF(), under.blueF()));
+Colour colour_of(const QColor& colour) {
+    return {colour.redF(), colour.greenF(), colour.blueF()};
 }
 
-QColor colour(Role role, const QPalette& palette) {
-    const QColor ink = palette.color(QPalette::Text);
-    const QColor paper = palette.color(QPalette::Base);
-    const bool dark = paper.lightness() < 128;
-    const QColor snow = dark ? QColor(120, 180, 245) : QColor(20, 95, 175);
-    const QColor force = dark ? QColor(255, 140, 105) : QColor(185, 50, 15);
-    switch (role) {
-        case Role::roof:
-        case Role::wall:
-        case Role::break_mark:
-            return ink;
-        case Role::hatch:
-        case Role::axis:
-            return blend(ink, paper, 0.5);
-        case Role::load_area:
-        case Role::snow:
-            return blend(snow, paper, 0.2);
-        case Role::load_line:
-        case Role::load_arrow:
-        case Role::drift_line:
-            return snow;
-        case Role::point_load:
-            return force;
-        case Role::dimension:
-        case Role::drift_length:
-            return blend(ink, paper, 0.85);
-        case Role::caption:
-            return blend(ink, paper, 0.7);
-    }
-    return ink;
-}
-
-/// Width of the pen in pixels where the sketch has its printed size; 0: no outline.
-double pen_width(Role role) {
-    switch (role) {
-        case Role::roof:
-        case Role::wall:
-        case Role::point_load:
-            return 1.6;
-        case Role::drift_line:
-            return 1.5;
-        case Role::load_line:
-            return 1.2;
-        case Role::load_area:
-        case Role::snow:
-            return 0;
-        case Role::hatch:
-        case Role::axis:
-            return 0.7;
-        default:
-            return 0.9;
-    }
+QColor qt(const Colour& colour) {
+    return QColor::fromRgbF(static_cast<float>(colour.red), static_cast<float>(colour.green),
+                            static_cast<float>(colour.blue));
 }
 
 }  // namespace
 
 SketchPainter::SketchPainter(const Drawing& drawing, const QRectF& target, SketchStyle style)
-    : m_drawing(drawing), m_style(std::move(style)) {
+    : m_drawing(drawing),
+      m_style(std::move(style)),
+      m_inks{colour_of(m_style.palette.color(QPalette::Text)),
+             colour_of(m_style.palette.color(QPalette::Base))} {
     const Rect& page = drawing.page;
     m_scale = std::max(0.0, std::min(target.width() / page.width, target.height() / page.height));
+    m_small =
+        m_style.largest_letters > 0 ? std::min(m_scale, m_style.largest_letters / text_height) : m_scale;
     m_origin = target.center() - m_scale * QPointF(page.x + page.width / 2, page.y + page.height / 2);
 }
 
 void SketchPainter::paint(QPainter& painter) const {
+    if (m_scale <= 0) return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     for (const Shape& shape : m_drawing.shapes)
@@ -95,10 +47,8 @@ void SketchPainter::paint(QPainter& painter) const {
 }
 
 QFont SketchPainter::text_font() const {
-    double letters = text_height * m_scale;
-    if (m_style.largest_letters > 0) letters = std::min(letters, m_style.largest_letters);
     QFont font = m_style.font;
-    font.setPixelSize(std::max(1, static_cast<int>(letters)));
+    font.setPixelSize(std::max(1, static_cast<int>(text_height * m_small)));
     return font;
 }
 
@@ -111,18 +61,14 @@ QPointF SketchPainter::to_pixels(Point p) const {
 }
 
 double SketchPainter::gap() const {
-    return text_font().pixelSize() * 0.3;
+    return text_font().pixelSize() * symbol_gap;
 }
 
 QPen SketchPainter::pen(Role role) const {
-    double growth = m_scale / natural_scale;
-    if (m_style.largest_letters > 0) {
-        growth = std::min(growth, m_style.largest_letters / (text_height * natural_scale));
-    }
-    QPen pen(colour(role, m_style.palette), pen_width(role) * growth);
+    QPen pen(qt(colour(role, m_inks)), line_width(role) * m_small);
     pen.setCapStyle(Qt::FlatCap);
     pen.setJoinStyle(Qt::RoundJoin);
-    if (role == Role::axis) pen.setDashPattern({9, 4, 2, 4});
+    if (role == Role::axis) pen.setDashPattern({axis_dashes.begin(), axis_dashes.end()});
     return pen;
 }
 
@@ -130,17 +76,16 @@ void SketchPainter::paint_shape(QPainter& painter, const Shape& shape) const {
     QPolygonF points;
     for (const Point p : shape.points)
         points << to_pixels(p);
-    if (shape.role == Role::break_mark && points.size() > 2) {
-        // The line that is broken off stops at the zigzag.
+    if (shape.role == Role::break_mark) {
         QPen gap = pen(shape.role);
-        gap.setColor(m_style.palette.color(QPalette::Base));
-        gap.setWidthF(3 * gap.widthF());
+        gap.setColor(qt(m_inks.paper));
+        gap.setWidthF(break_gap * gap.widthF());
         painter.setPen(gap);
         painter.drawLine(points[1], points[points.size() - 2]);
     }
-    const bool filled = shape.role == Role::load_area || shape.role == Role::snow;
+    const bool filled = is_filled(shape.role);
     painter.setPen(filled ? QPen(Qt::NoPen) : pen(shape.role));
-    painter.setBrush(filled ? QBrush(colour(shape.role, m_style.palette)) : QBrush(Qt::NoBrush));
+    painter.setBrush(filled ? QBrush(qt(colour(shape.role, m_inks))) : QBrush(Qt::NoBrush));
     if (shape.closed) {
         painter.drawPolygon(points);
     } else {
@@ -149,19 +94,14 @@ void SketchPainter::paint_shape(QPainter& painter, const Shape& shape) const {
 }
 
 void SketchPainter::paint_arrow(QPainter& painter, const Arrow& arrow) const {
-    const double head = arrow.role == Role::point_load ? 130 : 85;  // twips
-    const double length = std::hypot(arrow.to.x - arrow.from.x, arrow.to.y - arrow.from.y);
-    if (length <= 0) return;
-    const Point along{(arrow.to.x - arrow.from.x) / length, (arrow.to.y - arrow.from.y) / length};
-    const Point neck{arrow.to.x - along.x * head, arrow.to.y - along.y * head};
-    const double half = head / 3;
+    QPolygonF head;
+    for (const Point p : arrow_head(arrow, m_small / m_scale))
+        head << to_pixels(p);
     painter.setPen(pen(arrow.role));
-    painter.drawLine(to_pixels(arrow.from), to_pixels(neck));
+    painter.drawLine(to_pixels(arrow.from), (head[1] + head[2]) / 2);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(colour(arrow.role, m_style.palette));
-    painter.drawPolygon(QPolygonF{to_pixels(arrow.to),
-                                  to_pixels(Point{neck.x - along.y * half, neck.y + along.x * half}),
-                                  to_pixels(Point{neck.x + along.y * half, neck.y - along.x * half})});
+    painter.setBrush(qt(colour(arrow.role, m_inks)));
+    painter.drawPolygon(head);
 }
 
 void SketchPainter::paint_text(QPainter& painter, const Text& text) const {
@@ -176,7 +116,7 @@ void SketchPainter::paint_text(QPainter& painter, const Text& text) const {
                                  : text.align == Align::right ? Qt::AlignRight
                                                               : Qt::AlignHCenter;
     painter.setFont(font);
-    painter.setPen(colour(text.role, m_style.palette));
+    painter.setPen(qt(colour(text.role, m_inks)));
     painter.drawText(box, static_cast<int>(across | Qt::AlignVCenter) | Qt::TextDontClip, words);
 }
 
@@ -187,20 +127,33 @@ QRectF SketchPainter::number_rect(const LabelSlot& slot, const QSizeF& number) c
     };
     const double before = room_beside(slot.before);
     const double after = room_beside(slot.after);
-    const QPointF centre = to_pixels(slot.area).center();
-    const double left = centre.x() - (before + number.width() + after) / 2 + before;
-    return {{left, centre.y() - number.height() / 2}, number};
+    const QRectF area = to_pixels(slot.area);
+    const double spare = area.width() - (before + number.width() + after);
+    const double left = slot.align == Align::left ? 0 : slot.align == Align::right ? spare : spare / 2;
+    return {{area.left() + left + before, area.center().y() - number.height() / 2}, number};
 }
 
 void SketchPainter::paint_slot(QPainter& painter, const LabelSlot& slot, const QRectF& number) const {
     constexpr double far = 1000;  // the texts end at the number and at nothing else
     const int upright = static_cast<int>(Qt::AlignVCenter) | Qt::TextDontClip;
     painter.setFont(text_font());
-    painter.setPen(colour(Role::dimension, m_style.palette));
+    painter.setPen(qt(symbol_colour(m_drawing, m_inks)));
     painter.drawText(QRectF(number.left() - gap() - far, number.top(), far, number.height()),
                      upright | Qt::AlignRight, QString::fromStdString(slot.before));
     painter.drawText(QRectF(number.right() + gap(), number.top(), far, number.height()),
                      upright | Qt::AlignLeft, QString::fromStdString(slot.after));
+}
+
+QColor SketchPainter::number_colour() const {
+    return qt(coltre::number_colour(m_drawing, m_inks));
+}
+
+void SketchPainter::paint_number(QPainter& painter, const LabelSlot& slot, const QString& number) const {
+    const QFontMetricsF metrics(text_font(), painter.device());
+    const QRectF place = number_rect(slot, {metrics.horizontalAdvance(number), metrics.height()});
+    paint_slot(painter, slot, place);
+    painter.setPen(number_colour());
+    painter.drawText(place, static_cast<int>(Qt::AlignCenter) | Qt::TextDontClip, number);
 }
 
 }  // namespace coltre

@@ -6,6 +6,7 @@
 #include <QRectF>
 
 #include "drawings/drawing.h"
+#include "drawings/look.h"
 
 namespace coltre {
 
@@ -13,7 +14,7 @@ namespace coltre {
 struct SketchStyle {
     QPalette palette;  ///< text on base; the other colours are derived, light or dark alike
     QFont font;
-    /// Letters and lines grow with the picture up to this letter size, pixels; 0: without limit.
+    /// Letters, lines and arrowheads grow with the picture up to this letter size, pixels; 0: without limit.
     double largest_letters = 0;
 };
 
@@ -31,7 +32,13 @@ class SketchPainter {
     /// @param number  where the number stands, as number_rect() gave it
     void paint_slot(QPainter& painter, const LabelSlot& slot, const QRectF& number) const;
 
-    /// Where a number of this size stands, so that it is centred in the slot together with its texts.
+    /// Paints a number in its slot, with the texts beside it.
+    void paint_number(QPainter& painter, const LabelSlot& slot, const QString& number) const;
+
+    /// The colour of the numbers.
+    [[nodiscard]] QColor number_colour() const;
+
+    /// Where a number of this size stands, so that it is aligned in the slot together with its texts.
     [[nodiscard]] QRectF number_rect(const LabelSlot& slot, const QSizeF& number) const;
 
     /// The font of the drawing's texts at this size.
@@ -49,7 +56,9 @@ class SketchPainter {
 
     const Drawing& m_drawing;
     SketchStyle m_style;
+    Inks m_inks;
     double m_scale;  // pixels a twip
+    double m_small;  // the same for what the largest letters limit
     QPointF m_origin;
 };
 

@@ -69,17 +69,24 @@ void SketchWidget::redraw() {
 }
 
 SketchPainter SketchWidget::painter_of_size() const {
-    const double letters = QFontInfo(font()).pixelSize();
-    return {m_drawing, QRectF(rect()), {palette(), font(), letters}};
+    constexpr double largest = 1.75;  // of the letters around the sketch
+    return {m_drawing, QRectF(rect()), {palette(), font(), largest * QFontInfo(font()).pixelSize()}};
 }
 
 void SketchWidget::place_labels() {
     const SketchPainter sketch = painter_of_size();
+    QFont letters = sketch.text_font();
+    if (letters.pixelSize() < QFontInfo(font()).pixelSize()) letters = font();
+    QPalette numbers = palette();
+    numbers.setColor(QPalette::WindowText, sketch.number_colour());
+    numbers.setColor(QPalette::Text, sketch.number_colour());
     std::erase_if(m_labels, [](const HostedLabel& it) { return it.label.isNull(); });
     for (const HostedLabel& it : m_labels) {
         const LabelSlot* slot = m_drawing.find_slot(it.slot);
         const bool shown = slot != nullptr && slot->visible;
         if (shown) {
+            it.label->setFont(letters);
+            it.label->setPalette(numbers);
             QRect place = sketch.number_rect(*slot, it.label->sizeHint()).toRect();
             // A number wider than its slot stays in sight.
             place.moveLeft(std::clamp(place.left(), 0, std::max(0, width() - place.width())));
@@ -122,10 +129,14 @@ void SketchWidget::paintEvent(QPaintEvent* /*event*/) {
     }
     QPainter painter(this);
     painter.drawPixmap(0, 0, m_picture);
-    for (const HostedLabel& it : m_labels) {
-        const LabelSlot* slot = m_drawing.find_slot(it.slot);
-        if (it.label && slot != nullptr && slot->visible)
-            sketch.paint_slot(painter, *slot, it.label->geometry());
+    for (const LabelSlot& slot : m_drawing.label_slots) {
+        const auto hosted = std::ranges::find(m_labels, slot.name, &HostedLabel::slot);
+        if (hosted == m_labels.end() || !hosted->label || !slot.visible) continue;
+        if (slot.repeats) {
+            sketch.paint_number(painter, slot, hosted->label->text());
+        } else {
+            sketch.paint_slot(painter, slot, hosted->label->geometry());
+        }
     }
     if (hasFocus()) {
         // The style's own frame would tint the whole drawing.
@@ -152,10 +163,10 @@ bool SketchWidget::shows_numbers() const {
     return !label_texts().empty();
 }
 
-SlotTexts SketchWidget::label_texts() const {
-    SlotTexts texts;
+LabelTexts SketchWidget::label_texts() const {
+    LabelTexts texts;
     for (const HostedLabel& it : m_labels)
-        if (it.label && it.label->text() != no_number) texts[it.slot] = it.label->text();
+        if (it.label && it.label->text() != no_number) texts[it.slot] = it.label->text().toStdString();
     return texts;
 }
 

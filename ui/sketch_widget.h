@@ -72,7 +72,7 @@ class SketchWidget : public QWidget {
                          const QString& filter, const QString& suffix);
     [[nodiscard]] SketchPainter painter_of_size() const;
     [[nodiscard]] QSize size_for_letters(double part) const;
-    [[nodiscard]] SlotTexts label_texts() const;
+    [[nodiscard]] LabelTexts label_texts() const;
     void place_labels();
     void redraw();
 

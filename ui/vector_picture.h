@@ -1,25 +1,27 @@
 #pragma once
 
-#include <QSvgRenderer>
 #include <QWidget>
+
+#include "drawings/drawing.h"
 
 namespace coltre {
 
-/// Shows an SVG picture at its own size, sharp at any scaling.
+/// Shows a drawing with letters of the size of those around it, in the colours of the palette, sharp at any
+/// scaling.
 class VectorPicture : public QWidget {
     Q_OBJECT
 
   public:
     explicit VectorPicture(QWidget* parent = nullptr);
 
-    void load(const QString& file);
+    void set_drawing(Drawing drawing);
     [[nodiscard]] QSize sizeHint() const override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    QSvgRenderer m_renderer;
+    Drawing m_drawing;
 };
 
 }  // namespace coltre

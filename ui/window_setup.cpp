@@ -1,9 +1,13 @@
 #include "ui/window_setup.h"
 
 #include <QAbstractButton>
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcutEvent>
+#include <QVBoxLayout>
 
 namespace coltre {
 
@@ -33,11 +37,52 @@ class MnemonicFilter : public QObject {
     }
 };
 
+struct Role {
+    const char* class_name;
+    QAccessible::Role role;
+};
+constexpr Role roles[] = {{"coltre::Form1", QAccessible::Window},
+                          {"coltre::casipart", QAccessible::Window},
+                          {"coltre::SketchWidget", QAccessible::Graphic},
+                          {"coltre::VectorPicture", QAccessible::Graphic}};
+
+QAccessibleInterface* with_role(const QString& class_name, QObject* object) {
+    for (const Role& it : roles)
+        if (class_name == it.class_name) return new QAccessibleWidget(static_cast<QWidget*>(object), it.role);
+    return nullptr;
+}
+
 }  // namespace
 
+QWidget& let_contents_scroll(QWidget& window) {
+    // In the window from the beginning: the controls keep their order for the Tab key.
+    auto* const area = new QScrollArea(&window);
+    auto* const contents = new QWidget;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    area->setWidget(contents);
+    contents->setLayout(window.layout());
+    auto* const layout = new QVBoxLayout(&window);
+    layout->setContentsMargins({});
+    layout->addWidget(area);
+    return *contents;
+}
+
 void fit_to_screen(QWidget& window) {
-    constexpr QSize frame(16, 48);  // of the window manager: it is not known before the window is shown
-    window.resize(window.size().boundedTo(window.screen()->availableSize() - frame));
+    const auto& area = *window.findChild<QScrollArea*>();
+    constexpr QSize frame(10, 48);  // of the window manager: it is not known before the window is shown
+    const QSize room = window.screen()->availableSize() - frame;
+    QSize wanted = window.size().expandedTo(area.widget()->minimumSizeHint());
+    // A scroll bar takes room from the other direction.
+    const bool too_high = wanted.height() > room.height();
+    if (wanted.width() > room.width()) wanted.rheight() += area.horizontalScrollBar()->sizeHint().height();
+    if (too_high) wanted.rwidth() += area.verticalScrollBar()->sizeHint().width();
+    window.resize(wanted.boundedTo(room));
+}
+
+void tell_roles_to_screen_readers() {
+    QAccessible::installFactory(with_role);
 }
 
 void answer_mnemonics_at_once(QWidget& window) {
@@ -46,10 +91,9 @@ void answer_mnemonics_at_once(QWidget& window) {
         button->installEventFilter(filter);
 }
 
-void fill(QComboBox& list, std::span<const std::string_view> items, int selected) {
+void fill(QComboBox& list, std::span<const std::string_view> items) {
     for (const std::string_view item : items)
         list.addItem(QString::fromUtf8(item.data(), static_cast<qsizetype>(item.size())));
-    list.setCurrentIndex(selected);
 }
 
 void leave_lists_to_clicks_and_keys(QWidget& window) {

@@ -8,18 +8,27 @@ namespace coltre {
 
 // What the windows have in common.
 
-/// Makes the window no larger than its screen has room for, as far as its contents allow: its buttons are to
-/// be within reach.
+/// Puts the contents of a window into a scroll area: where the screen is too small for them scroll bars come,
+/// and nothing is out of reach.
+/// @return what is scrolled: the ground under the controls
+QWidget& let_contents_scroll(QWidget& window);
+
+/// Gives a window whose contents scroll the size that it was designed with, or more where its contents need
+/// it, but no more than its screen has room for.
 void fit_to_screen(QWidget& window);
+
+/// Tells screen readers which of the widgets are windows and pictures: by itself either is a box without
+/// meaning.
+void tell_roles_to_screen_readers();
 
 /// Has buttons and check boxes answer to their mnemonics at once. By themselves they do so a tenth of a
 /// second later, when the next key may have been pressed already: Alt+R, Enter would calculate without the
 /// report.
 void answer_mnemonics_at_once(QWidget& window);
 
-/// Fills an empty list and selects one of its items.
-/// @param selected  from 0
-void fill(QComboBox& list, std::span<const std::string_view> items, int selected);
+/// Fills an empty list. Before its window is laid out: a list keeps the least width that it had when it was
+/// first measured.
+void fill(QComboBox& list, std::span<const std::string_view> items);
 
 /// Keeps the mouse wheel from choosing entries of the closed lists of a window: a turn over a list that
 /// happens to lie under the pointer would change the site or a coefficient unseen.

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 
 #include "calculate/Calcola2.h"
+#include "platform/files.h"
+#include "tests/support/temporary_directory.h"
 
 namespace coltre {
 namespace {
@@ -82,6 +84,31 @@ TEST_F(MainCalculation, StopsSayWhy) {
         }
         ASSERT_EQ(outcome.messages.size(), 1U) << c.text;
         EXPECT_EQ(outcome.messages.front().text, std::string("Calcolo interrotto: ") + c.text);
+    }
+}
+
+// 1e307 kN/m2 are more kgf/m2 than a number holds: the heading ends before its ground load.
+TEST_F(MainCalculation, NumberTooLargeForTheReportStopsAtItsLine) {
+    const TemporaryDirectory directory;
+    program.directories.WorkDirectory = directory.text();
+    fields.TextCTermico = "1e307";
+    fields.udmcombo = "Kgf , m";
+    fields.Check1Box = true;
+    for (const bool roof : {true, false}) {
+        fields.kind = roof ? Kind::cylindrical : Kind::wall;
+        fields.entries = {"10", "2"};
+        const Outcome outcome = roof ? Calcola(fields, program) : Calcola2(fields, program);
+        if (!roof) {
+            EXPECT_TRUE(outcome.complete) << "its numbers stay in kN";
+            continue;
+        }
+        EXPECT_EQ(outcome.fault, Fault::numeric_error);
+        ASSERT_EQ(outcome.messages.size(), 1U);
+        EXPECT_EQ(outcome.messages.front().text,
+                  "Calcolo interrotto: errore numerico.\rUn valore della relazione è troppo grande.");
+        EXPECT_TRUE(outcome.calculation.results.empty());
+        const std::string report = read_file(outcome.report).value_or("");
+        EXPECT_THAT(report, testing::EndsWith("Periodo di Ritorno [anni]:   50\r\n\r\n"));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <streambuf>
 
+#include "text/json_text.h"
 #include "tests/cli/run_command.h"
 #include "tests/support/temporary_directory.h"
 
@@ -11,6 +12,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
+using namespace std::string_literals;
 
 /// A request for the roof of this site, with further members.
 std::string request(const std::string& site, const std::string& more = R"("alfa":15)") {
@@ -19,30 +21,81 @@ std::string request(const std::string& site, const std::string& more = R"("alfa"
 
 const std::string by_number = R"("zona":0,"altitudine":100)";
 
+std::string error_of(const Json& result) {
+    return result["errore"].is_null() ? "" : result["errore"].get<std::string>();
+}
+
 TEST(Batch, GoesOnAfterALineThatIsNoRequest) {
     const std::vector<std::string> lines{"",
                                          R"({"calcolo":"una-falda","id":[1,)",
-                                         request(by_number, R"("alfa":1e400)"),
+                                         request(by_number, R"("alfa":1e400,"ce":)" + std::string(400, '9')),
                                          "[" + request(by_number) + "]",
                                          "15",
                                          std::string(2'000'000, ' '),
-                                         request(by_number)};
+                                         "\xEF\xBB\xBF" + request(by_number) + "\r"};
     const CommandRun run = run_command({"lotto"}, lines);
     EXPECT_EQ(run.status, failed);
     std::vector<std::string> errors;
     for (const Json& result : run.results())
-        errors.push_back(result["errore"].is_null() ? "" : result["errore"].get<std::string>());
+        errors.push_back(error_of(result));
     const std::string no_object = "la richiesta deve essere un oggetto JSON";
     EXPECT_THAT(errors, ElementsAre("riga vuota", HasSubstr("JSON illeggibile"), "errore numerico", no_object,
                                     no_object, HasSubstr("più lunga"), ""));
 }
 
+TEST(Batch, NamesTheFirstCharacterThatCannotStandWhereItIs) {
+    const std::vector<std::pair<std::string, int>> cases{
+        {R"({"id": 18)", 10},  // cut
+        {R"({"a":"b)", 8},         {R"({"a" "b"})", 6},
+        {R"({"a":1,})", 8},        {R"([1,])", 4},
+        {R"({} {})", 4},           {"{}\0"s, 3},
+        {R"({"a":tru})", 9},       {R"({"a":01})", 7},
+        {R"({"a":1.})", 8},        {R"({"è":+1})", 6},  // characters, no bytes
+        {"{\"a\":\"b\xC3(\"}", 8},                      // no UTF-8
+        {R"({"a":"b\q"})", 8},     {R"({"a":"b\ud800"})", 8},
+        {R"({"a":"\udc00"})", 14},  // known behind the text alone
+        {R"({"\udc00":1})", 10},
+    };
+    for (const auto& [line, position] : cases)
+        EXPECT_EQ(error_of(run_command({"lotto"}, {line}).results().at(0)),
+                  "JSON illeggibile al carattere " + std::to_string(position))
+            << line;
+}
+
 TEST(Batch, IdComesBackWhateverItIs) {
-    for (const std::string id :
-         {"1", "null", "false", R"("è \"x\"\n")", R"([1,{"a":[]},"b"])", R"({"c":{"d":-2.5e3}})"}) {
+    const std::string deep = std::string(50'000, '[') + std::string(50'000, ']');
+    for (const std::string& id :
+         {"1"s, "-0.50"s, "18446744073709551616"s, "null"s, "false"s, R"("è \"\u00e8\"\n")"s,
+          R"([1, {"a":[]} ,"b"])"s, R"({"id":{"d":-2.5e3}})"s, deep}) {
         for (const std::string& line :
-             {request(by_number, R"("alfa":15,"id":)" + id), R"({"id":)" + id + R"(,"alfa":{}})"})
-            EXPECT_EQ(run_command({"lotto"}, {line}).results().at(0)["id"], Json::parse(id)) << line;
+             {request(by_number, R"("alfa":15,"id":)" + id), R"({"id" : )" + id + R"( ,"alfa":{"id":2}})"})
+            EXPECT_THAT(run_command({"lotto"}, {line}).out, StartsWith(R"({"id": )" + id + ", "))
+                << line.substr(0, 80);
+    }
+}
+
+TEST(Batch, IdThatIsNotWholeStaysAway) {
+    const std::vector<std::pair<std::string, Json>> cases{
+        {R"({"id": 18)", nullptr},  // may have been 188
+        {R"({"id": 18"x")", nullptr},   {R"({"id": 18, "calc)", 18},
+        {R"({"id": "18")", "18"},       {R"({"id": "18)", nullptr},
+        {R"({"id": [1, [2])", nullptr}, {R"({"id": 1, "id": {"id": 2)", nullptr},
+        {R"([{"id": 1}])", nullptr},
+    };
+    for (const auto& [line, id] : cases)
+        EXPECT_EQ(run_command({"lotto"}, {line}).results().at(0).value("id", Json()), id) << line;
+}
+
+TEST(Batch, TextsAreEscapedAndBrokenUtf8IsReplaced) {
+    std::string ascii;
+    for (char c = 0; c < 0x7F; ++c)
+        ascii += c;
+    for (const std::string& text :
+         {ascii + "\x7F", "è€😀"s, "a\xC3"s, "\xC3("s, "\xE2\x82\xE2\x82\xAC\xE2"s, "\xED\xA0\x80"s,
+          "\xF0\x9F\x98z\xF0\x9F"s, "\xF4\x90\x80\x80"s, "\xC0\x80\xFF"s, "\xE0\x80\x80"s}) {
+        std::string json;
+        append_json_string(json, text);
+        EXPECT_EQ(json, Json(text).dump(-1, ' ', false, Json::error_handler_t::replace));
     }
 }
 
@@ -87,7 +140,7 @@ struct StepwiseInput : std::streambuf {
     std::string line;
 };
 
-TEST_F(BatchByName, FileThatChangesMeanwhileCountsAtOnce) {
+TEST_F(BatchByName, FileThatChangesMeanwhileCountsFromTheNextRun) {
     StepwiseInput lines([this, line = 0]() mutable {
         if (++line == 3) directory.put("altitudini.txt", "Torino\r\nTorino   777\r\n\r\n");
         if (line == 4) directory.put("altitudini.txt", "Torino\r\nTorino   778\r\n\r\n");
@@ -97,7 +150,8 @@ TEST_F(BatchByName, FileThatChangesMeanwhileCountsAtOnce) {
     std::vector<double> altitudes;
     for (const Json& result : run_command({"lotto"}, in).results())
         altitudes.push_back(result["altitudine"]);
-    EXPECT_THAT(altitudes, ElementsAre(239, 239, 777, 778));
+    EXPECT_THAT(altitudes, ElementsAre(239, 239, 239, 239));
+    EXPECT_EQ(run_command({"lotto"}, {place("Torino", "Torino")}).results().at(0)["altitudine"], 778);
 }
 
 }  // namespace

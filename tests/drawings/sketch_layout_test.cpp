@@ -5,6 +5,8 @@
 #include <random>
 
 #include "calculate/calculations.h"
+#include "drawings/diagrams.h"
+#include "drawings/exposure_table.h"
 #include "drawings/sketches.h"
 
 namespace coltre {
@@ -52,8 +54,13 @@ void check(const Entries& entries, double load) {
     cells.qs_1 = cells.qs_2a = cells.qs_2c = cells.qs_3a = cells.qs_3c = cells.qs_4c = load;
     cells.level_qs1 = cells.wall_qs2 = load;
     cells.qs_2b = cells.qs_3b = cells.qs_4b = cells.level_qs2 = cells.wall_qs1 = load / 2;
-    for (const ProgramCells* loads : {static_cast<const ProgramCells*>(nullptr), &std::as_const(cells)})
-        ASSERT_NO_FATAL_FAILURE(check(sketch(entries, loads)));
+    for (const bool drift_length_shown : {false, true}) {
+        Drawing drawing = sketch(entries, nullptr, drift_length_shown);
+        mark_as_pending(drawing);
+        add_notes(drawing, std::array<std::string, 2>{"α letto come 22", std::string(200, 'W')});
+        ASSERT_NO_FATAL_FAILURE(check(drawing));
+    }
+    ASSERT_NO_FATAL_FAILURE(check(sketch(entries, &cells)));
 }
 
 }  // namespace
@@ -77,6 +84,10 @@ TEST(SketchLayout, HoldsForAllPitchesAndVaults) {
     }
     for (const double by_width : {0.5, 0.45, 0.25, 0.1, 0.01, 0.001, 0.51})
         ASSERT_NO_FATAL_FAILURE(check({.kind = Kind::cylindrical, .L = 123.45, .H = 123.45 * by_width}, 1.2));
+}
+
+TEST(SketchLayout, HoldsForTheExposureTable) {
+    check(exposure_table());
 }
 
 TEST(SketchLayout, HoldsForAllStepsAndWalls) {
@@ -107,7 +118,12 @@ TEST(SketchLayout, HoldsForWhateverIsTyped) {
             for (const Entry& entry : calculation.entries)
                 entries.*entry.number = any();
             ASSERT_NO_FATAL_FAILURE(check(entries, any()));
+            ASSERT_NO_FATAL_FAILURE(check(shape_coefficients_over_slope(entries)));
         }
+        const auto coefficient = [&] { return random() % 4 > 0 ? 1 : any(); };
+        SCOPED_TRACE(i);
+        ASSERT_NO_FATAL_FAILURE(check(ground_load_over_altitude(static_cast<SnowZone>(i % 4), coefficient(),
+                                                                coefficient(), coefficient(), any())));
     }
 }
 

@@ -78,6 +78,25 @@ TEST(TwoPitchesSketch, ShowsTheThreeArrangementsInOneScale) {
     }
 }
 
+TEST(TwoPitchesSketch, EveryEavesArrowHasItsNumber) {
+    const Drawing drawing = pitched(Kind::two_pitches, 20, 40);
+    std::vector<Arrow> eaves;
+    std::ranges::copy_if(drawing.arrows, std::back_inserter(eaves),
+                         [](const Arrow& arrow) { return arrow.role == Role::point_load; });
+    std::vector<LabelSlot> slots;
+    std::ranges::copy_if(drawing.label_slots, std::back_inserter(slots),
+                         [](const LabelSlot& slot) { return slot.before == "qe ="; });
+    const std::vector<std::string> labels{"spor_2", "spor_4", "spor_3", "spor_4", "spor_2", "spor_5"};
+    ASSERT_EQ(eaves.size(), labels.size());
+    ASSERT_EQ(slots.size(), labels.size());
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        EXPECT_EQ(slots[i].name, labels[i]);
+        EXPECT_EQ(slots[i].repeats, i == 3 || i == 4) << i;
+        const Point below{eaves[i].to.x, eaves[i].to.y + 100};
+        EXPECT_TRUE(slots[i].area.contains(below)) << i;
+    }
+}
+
 TEST(SeveralPitchesSketch, LoadGrowsInAStraightLineIntoTheValley) {
     ProgramCells loads;
     std::tie(loads.qs_3a, loads.qs_3b, loads.qs_3c) = std::tuple(1.2, 0.8, 2.4);
@@ -91,7 +110,7 @@ TEST(SeveralPitchesSketch, LoadGrowsInAStraightLineIntoTheValley) {
     EXPECT_NEAR((base - area[3].y) / (base - area[2].y), 1.0 / 3, 1e-9);
 }
 
-// L1 = 2 R cos 30: of a half circle 0.866 L; of L = 10, H = 2 wider than the roof and drawn as wide.
+// L1 = 2 R cos 30: of a half circle 0.866 L; of L = 10, H = 2 wider than the roof, drawn as wide and broken.
 TEST(CylindricalSketch, HasTheProportionsOfTheRoofAndItsLoadedZone) {
     for (const auto& [H, width] : {std::pair{5.0, 0.8660254}, std::pair{2.0, 1.0}}) {
         const Drawing drawing = sketch({.kind = Kind::cylindrical, .L = 10, .H = H}, nullptr);
@@ -109,6 +128,8 @@ TEST(CylindricalSketch, HasTheProportionsOfTheRoofAndItsLoadedZone) {
         EXPECT_NEAR(extent(areas[0]).width, width * 2500, 1e-3);
         EXPECT_NEAR(extent(areas[1]).width, width * 1250, 1e-3);
         EXPECT_NEAR(extent(areas[2]).height, 2 * extent(areas[1]).height, 1e-6) << "mu3 and its half";
+        const std::size_t walls = 4;
+        EXPECT_EQ(shapes_of(drawing, Role::break_mark).size(), walls + (width < 1 ? 0 : 2)) << "L1 and L2";
     }
 }
 
@@ -118,12 +139,19 @@ TEST(LevelChangeSketch, DriftIsWholeOrCut) {
          {std::tuple(2., 5., true), std::tuple(2., 5.01, false), std::tuple(4., 8., true),
           std::tuple(4., 8.01, false), std::tuple(100., 15., true), std::tuple(100., 15.01, false),
           std::tuple(4., -1., true), std::tuple(-2., 6., false)}) {
-        const Drawing drawing = level_change(3, b2, h, 10);
-        SCOPED_TRACE(testing::Message() << h << " " << b2);
-        EXPECT_EQ(drawing.find_slot("lsoutput")->visible, !cut);
-        EXPECT_EQ(shapes_of(drawing, Role::drift_length).size(), cut ? 0U : 4U);
-        const std::vector<Shape> drift = shapes_of(drawing, Role::drift_line);
-        EXPECT_DOUBLE_EQ(drift[0].points.back().x, cut ? 5160 : 4680);
+        const Entries entries{.kind = Kind::level_change, .alfa = 10, .b1 = 3, .b2 = b2, .h = h};
+        ProgramCells loads;
+        loads.qsk = 1;
+        ASSERT_FALSE(calculate(loads, entries).end.stopped());
+        // Before a calculation the length of the drift stays as it was.
+        for (const auto& [drawing, shown] :
+             {std::pair(sketch(entries, &loads, cut), !cut), std::pair(sketch(entries, nullptr, true), true),
+              std::pair(sketch(entries, nullptr, false), false)}) {
+            SCOPED_TRACE(testing::Message() << h << " " << b2 << " " << shown);
+            EXPECT_EQ(drawing.find_slot("lsoutput")->visible, shown);
+            EXPECT_EQ(shapes_of(drawing, Role::drift_length).size(), shown ? 4U : 0U);
+            EXPECT_DOUBLE_EQ(shapes_of(drawing, Role::drift_line)[0].points.back().x, cut ? 5160 : 4680);
+        }
     }
 }
 

@@ -21,60 +21,25 @@ TEST(StoppedCalculation, SetsTheCellsBeforeTheFaultAlone) {
         const ResultCell* cell;
         const char* set;  ///< cells set, in their order
     };
-    for (const Case& c : {
-             Case{1, {.kind = Kind::one_pitch, .alfa = 60}, by_zero, "qe_1", &qe_1, "qs_1 "},
-             Case{1,
-                  {.kind = Kind::two_pitches, .alfa1 = 70, .alfa2 = 20},
-                  by_zero,
-                  "qe_2a",
-                  &qe_2a,
-                  "qs_2a qs_2b "},
-             Case{1,
-                  {.kind = Kind::two_pitches, .alfa1 = 20, .alfa2 = 70},
-                  by_zero,
-                  "qe_2c",
-                  &qe_2c,
-                  "qs_2a qs_2b qe_2a qe_2b qs_2c qs_2d "},
-             Case{1.5e308,
-                  {.kind = Kind::several_pitches, .alfa1 = 20, .alfa2 = 40},
-                  numeric,
-                  "qs_3c",
-                  &qs_3c,
-                  "qs_3a qs_3b "},
-             Case{1,
-                  {.kind = Kind::several_pitches, .alfa1 = 1e308, .alfa2 = 1e308},
-                  numeric,
-                  "mu2",
-                  nullptr,
-                  "qs_3a qs_3b "},
-             Case{1,
-                  {.kind = Kind::cylindrical, .L = 10, .H = -0.2},
-                  by_zero,
-                  "qe_4b",
-                  &qe_4b,
-                  "L1 L2 qs_4a qs_4b qs_4c qe_4a "},
-             Case{1,
-                  {.kind = Kind::cylindrical, .L = 4, .H = 2.0001},
-                  Fault::incongruent_dimensions,
-                  "",
-                  nullptr,
-                  ""},
-             Case{1,
-                  {.kind = Kind::level_change, .alfa = 45, .b1 = 10, .b2 = 4},
-                  by_zero,
-                  "mu2",
-                  &level_mu2,
-                  ""},
-             // Inside the cut: the load at the end of a roof that ends behind its beginning.
-             Case{10,
-                  {.kind = Kind::level_change, .b1 = 1.7e308, .b2 = -1e308, .h = 20},
-                  numeric,
-                  "qs1",
-                  &level_qs1,
-                  "mu2 qs2 qs1 ls "},
-             Case{0, {.kind = Kind::wall, .h = 2}, by_zero, "mu2", &wall_mu2, "qs1 "},
-             Case{1, {.kind = Kind::snow_guard, .alfa = 30, .qs = 1e200, .b = 1e200}, numeric, "Fs", &Fs, ""},
-         }) {
+    using enum Kind;
+    // clang-format off
+    const Case cases[] = {
+        {1, {.kind = one_pitch, .alfa = 60}, by_zero, "qe_1", &qe_1, "qs_1 "},
+        {1, {.kind = two_pitches, .alfa1 = 70, .alfa2 = 20}, by_zero, "qe_2a", &qe_2a, "qs_2a qs_2b "},
+        {1, {.kind = two_pitches, .alfa1 = 20, .alfa2 = 70}, by_zero, "qe_2c", &qe_2c,
+         "qs_2a qs_2b qe_2a qe_2b qs_2c qs_2d "},
+        {1.5e308, {.kind = several_pitches, .alfa1 = 20, .alfa2 = 40}, numeric, "qs_3c", &qs_3c, "qs_3a qs_3b "},
+        {1, {.kind = several_pitches, .alfa1 = 1e308, .alfa2 = 1e308}, numeric, "mu2", nullptr, "qs_3a qs_3b "},
+        {1, {.kind = cylindrical, .L = 10, .H = -0.2}, by_zero, "qe_4b", &qe_4b, "L1 L2 qs_4a qs_4b qs_4c qe_4a "},
+        {1, {.kind = cylindrical, .L = 4, .H = 2.0001}, Fault::incongruent_dimensions, "", nullptr, ""},
+        {1, {.kind = level_change, .alfa = 45, .b1 = 10, .b2 = 4}, by_zero, "mu2", &level_mu2, ""},
+        // Inside the cut: the load at the end of a roof that ends behind its beginning.
+        {10, {.kind = level_change, .b1 = 1.7e308, .b2 = -1e308, .h = 20}, numeric, "qs1", &level_qs1, "mu2 qs2 qs1 ls "},
+        {0, {.kind = wall, .h = 2}, by_zero, "mu2", &wall_mu2, "qs1 "},
+        {1, {.kind = snow_guard, .alfa = 30, .qs = 1e200, .b = 1e200}, numeric, "Fs", &Fs, ""},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
         ProgramCells cells;
         for (const ResultCell* cell : results::all)
             cells.*cell->cell = untouched;
@@ -88,7 +53,7 @@ TEST(StoppedCalculation, SetsTheCellsBeforeTheFaultAlone) {
             names += std::string(it.cell->name) + " ";
         EXPECT_EQ(names, c.set);
         for (const ResultCell* cell : results::all) {
-            if (cell == &wall_mu2 && c.entries.kind != Kind::wall) continue;  // the roofs set it too
+            if (cell == &wall_mu2 && c.entries.kind != wall) continue;  // the roofs set it too
             EXPECT_EQ(cells.*cell->cell != untouched,
                       std::ranges::count(calculation.results, cell, &Result::cell) == 1)
                 << cell->name;

@@ -1,9 +1,15 @@
 #include "platform/files.h"
 
 #include <gmock/gmock.h>
+#include <unistd.h>
 
+#include <atomic>
+#include <cerrno>
+#include <chrono>
 #include <filesystem>
+#include <thread>
 
+#include "platform/file_replacement.h"
 #include "tests/support/temporary_directory.h"
 
 namespace coltre {
@@ -48,7 +54,14 @@ TEST_F(Files, AreReadWhole) {
     const std::string bytes("\0\xFF\r\n\x1A", 5);
     directory.put("bytes", bytes);
     EXPECT_EQ(read_file(suite_path("bytes")), bytes);
-    EXPECT_TRUE(read_file("\\proc\\self\\status").value_or("").size() > 100);  // its size is told as 0
+    directory.put("saved", "half");
+    std::thread editor([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        directory.put("saved", "half and half");
+    });
+    EXPECT_EQ(read_content_at_rest(suite_path("saved")).bytes, "half and half");
+    editor.join();
+    EXPECT_TRUE(read_file("\\proc\\self\\status").value_or("").size() > 100);  // its size is given as 0
 }
 
 TEST_F(Files, GiveTheirFirstLine) {
@@ -81,13 +94,57 @@ TEST_F(Replacement, KeepsTheOldFileUntilTheCommit) {
             EXPECT_EQ(file.target(), at("Coltre.txt"));
             file.write("ne");
             file.write("w");
-            EXPECT_TRUE(file.complete());
+            EXPECT_EQ(file.complete(), std::nullopt);
             EXPECT_EQ(directory.content("Coltre.txt"), "old");
-            EXPECT_TRUE(!committed || file.commit());
+            EXPECT_FALSE(committed && file.commit());
         }
         expect_left(committed ? "new" : "old");
     }
     EXPECT_EQ(fs::status(at("Coltre.txt")).permissions(), fs::perms{0640});
+}
+
+TEST_F(Replacement, WaitsItsTurnInADirectory) {
+    auto first = std::make_optional<DirectoryLock>(directory.path());
+    std::atomic<bool> held = true;
+    std::thread other([&] {
+        const DirectoryLock second(directory.path());
+        EXPECT_FALSE(held);
+    });
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    held = false;
+    first.reset();
+    other.join();
+}
+
+TEST_F(Replacement, FollowsNoLinkThatSomebodyElsePutIntoADirectoryOpenToEverybody) {
+    fs::create_symlink("Coltre.txt", at("link"));
+    if (::lchown(at("link").c_str(), 65534, 65534) != 0) GTEST_SKIP() << "only the administrator can try";
+    for (const auto& [mode, refused] : {std::pair{0777U, true}, {01777U, true}, {0775U, false}}) {
+        fs::permissions(directory.path(), fs::perms{mode});
+        EXPECT_EQ(FileReplacement(at("link")).failure().has_value(), refused) << mode;
+    }
+}
+
+TEST_F(Replacement, OfNothingLeavesWhatHasAppearedMeanwhile) {
+    fs::remove(at("Coltre.txt"));
+    FileReplacement late(at("Coltre.txt"));
+    directory.put("Coltre.txt", "of another program");
+    late.write("late");
+    EXPECT_TRUE(late.commit_as_new());
+    expect_left("of another program");
+    fs::remove(at("Coltre.txt"));
+    EXPECT_EQ(FileReplacement(at("Coltre.txt")).commit_as_new(), std::nullopt);
+    expect_left("");
+}
+
+TEST(SystemFailure, SaysTheReasonInItalian) {
+    EXPECT_EQ(system_failure(0), std::nullopt);
+    for (const auto& [error, reason] : {std::pair{EDQUOT, "lo spazio concesso all'utente è esaurito"},
+                                        {EIO, "il disco segnala un errore"},
+                                        {EMFILE, "troppi file sono aperti"},
+                                        {ESTALE, "la cartella di rete non risponde"},
+                                        {EXDEV, "errore di sistema 18"}})
+        EXPECT_EQ(system_failure(error), reason);
 }
 
 TEST_F(Replacement, WritesTwoAtATimeAndThroughALink) {
@@ -96,9 +153,9 @@ TEST_F(Replacement, WritesTwoAtATimeAndThroughALink) {
     FileReplacement second(find_path(suite_path("Coltre.txt")));
     first.write("first");
     second.write("second");
-    EXPECT_TRUE(first.commit());
+    EXPECT_EQ(first.commit(), std::nullopt);
     EXPECT_EQ(directory.content("Coltre.txt"), "first");
-    EXPECT_TRUE(second.commit());
+    EXPECT_EQ(second.commit(), std::nullopt);
     EXPECT_TRUE(fs::is_symlink(at("link")));
     EXPECT_EQ(directory.content("link"), "second");
 }

@@ -19,15 +19,19 @@ using testing::IsEmpty;
 /// "line province: reason" of each fault.
 std::vector<std::string> faults_of(std::string_view file) {
     std::vector<std::string> texts;
-    for (const AltitudeFault& it : check_altitudes(file))
+    for (const AltitudeFault& it : inspect_altitudes(file).faults)
         texts.push_back(std::to_string(it.line) + " " + std::string(it.province) + ": " +
                         std::string(it.reason));
     return texts;
 }
 
+std::string mended(std::string_view file) {
+    return inspect_altitudes(file).repaired;
+}
+
 /// A sound file of the built-in table.
 std::string sound_file() {
-    return repair_altitudes(built_in_altitude_file());
+    return mended(built_in_altitude_file());
 }
 
 /// The sound file with Torino's block replaced by these lines.
@@ -45,8 +49,8 @@ TEST(AltitudeCheck, BuiltInTableHasItsTwoFaults) {
     EXPECT_EQ(sound_file(), expected);
 }
 
-// Each fault is told once, at its line, and mended without touching anything else. Airasca is a municipality
-// of Torino, Ala and Bo are none.
+// Each fault is reported once, at its line, and mended without touching anything else. Airasca is a
+// municipality of Torino, Ala and Bo are none.
 TEST(AltitudeCheck, FaultsAreToldAndMended) {
     const std::string ala = "Ala                            12\r\n", end = "\r\n";
     const std::string airasca = "Airasca                        257\r\n";
@@ -68,6 +72,8 @@ TEST(AltitudeCheck, FaultsAreToldAndMended) {
           Row{"Ala     12,\r\n" + bo + end, 2, comma, "Ala     12\r\n" + bo + end},
           Row{"Ala     12\rBo\n\n", 3, blank, "Ala     12\r\n\n"},
           Row{"Ala 12\r\nBo 123\r\n\r\n", 2, place, ala + "Bo 123\r\n\r\n"},
+          Row{"\tAirasca\r\n\r\n", 2, "una tabulazione sta al posto degli spazi", airasca + end},
+          Row{"  Ala     12\r\n\r\nAla     12\r\n\r\n", 0, "", "  Ala     12\r\n\r\nAla     12\r\n\r\n"},
           Row{"Airasca   12345\r\n\r\n", 2, place, airasca + end},
           Row{"Airasca   alta\r\n" + ala + end, 2, "l'altitudine non è un numero", airasca + ala + end},
           Row{"Al a    12\r\n\r\n", 2, "la riga non contiene soltanto nome e altitudine", ala + end},
@@ -81,7 +87,7 @@ TEST(AltitudeCheck, FaultsAreToldAndMended) {
         std::vector<std::string> faults;
         if (line > 0) faults.push_back(std::to_string(line) + " Torino: " + fault);
         EXPECT_EQ(faults_of(file), faults);
-        EXPECT_TRUE(repair_altitudes(file) == with_torino("Torino\r\n" + repaired));
+        EXPECT_TRUE(mended(file) == with_torino("Torino\r\n" + repaired));
     }
 }
 
@@ -90,19 +96,19 @@ TEST(AltitudeCheck, MissingAndEmptyProvincesGetTheirBlock) {
     const std::string block = file.substr(0, file.find("Biella\r\n"));
     file.insert(0, "T");  // a wrong letter hides the whole block
     EXPECT_THAT(faults_of(file), ElementsAre("0 Torino: manca la riga con il nome della provincia"));
-    EXPECT_EQ(repair_altitudes(file), file + block);
+    EXPECT_EQ(mended(file), file + block);
 
     const std::string empty = with_torino("Torino\r\n\r\n");
     EXPECT_THAT(faults_of(empty), ElementsAre("1 Torino: la provincia non contiene comuni"));
-    EXPECT_EQ(repair_altitudes(empty), sound_file());
-    EXPECT_EQ(check_altitudes("").size(), 103U);
+    EXPECT_EQ(mended(empty), sound_file());
+    EXPECT_EQ(faults_of("").size(), 103U);
 }
 
 TEST(AltitudeCheck, FileSavedInUtf8IsConverted) {
     for (const std::string mark : {"", "\xEF\xBB\xBF"}) {
         const std::string file = mark + from_code_page(sound_file());
         EXPECT_THAT(faults_of(file), ElementsAre("0 : il file è scritto in UTF-8 e non in Windows-1252"));
-        EXPECT_EQ(repair_altitudes(file), sound_file());
+        EXPECT_EQ(mended(file), sound_file());
     }
 }
 
@@ -119,37 +125,35 @@ std::string mutated(std::string file, std::mt19937& random) {
     return file;
 }
 
-using RepairOfFile = AltitudeDirectory;
-
-TEST_F(RepairOfFile, LeavesNothingToStumbleOnWhateverTheFile) {
+TEST(RepairOfFile, LeavesNothingToStumbleOnWhateverTheFile) {
     std::mt19937 random(1996);
     for (int run = 0; run < 60 && !HasFailure(); ++run) {
         SCOPED_TRACE(run);
         std::string file = run == 0 ? built_in_altitude_file() : mutated(built_in_altitude_file(), random);
         if (run % 3 == 1) std::erase(file, '\n');
         if (run % 3 == 2) file.resize(file.size() / 2);
-        const std::string repaired = repair_altitudes(file);
-        EXPECT_THAT(faults_of(repaired), IsEmpty());
-        EXPECT_TRUE(repair_altitudes(repaired) == repaired);
-        put("altitudini.txt", repaired);
-        for (const Region& region : regions()) {
-            for (const std::string_view province : region.provinces)
-                EXPECT_TRUE(FillMunicipalities(text(), province, told)) << province;
-        }
-        EXPECT_TRUE(content("altitudini.txt") == repaired) << "a reader had it written anew";
+        const std::string sound = mended(file);
+        EXPECT_THAT(faults_of(sound), IsEmpty());
+        EXPECT_TRUE(mended(sound) == sound);
+        for (const std::string_view province : provinces())
+            EXPECT_TRUE(municipalities_in(sound, province)) << province;
     }
 }
 
-TEST_F(RepairOfFile, MakesAMissingOneAndLeavesASoundOne) {
-    EXPECT_FALSE(check_altitude_file(text()).failure.empty());
-    EXPECT_EQ(repair_altitude_file(text()).failure, "");
+using RepairOnDisk = AltitudeDirectory;
+
+TEST_F(RepairOnDisk, MakesAMissingOneAndLeavesASoundOne) {
+    EXPECT_TRUE(check_altitude_file(text()).failure);
+    EXPECT_EQ(repair_altitude_file(text()).failure, std::nullopt);
     EXPECT_EQ(content("altitudini.txt"), sound_file());
     EXPECT_THAT(repair_altitude_file(text()).faults, IsEmpty());
     EXPECT_THAT(files(), ElementsAre("altitudini.txt"));
     put("altitudini.txt", built_in_altitude_file());
-    EXPECT_EQ(repair_altitude_file(text()).faults.size(), 2U);
+    const AltitudeFileCheck repair = repair_altitude_file(text());
+    EXPECT_EQ(repair.faults.size(), 2U);
+    EXPECT_EQ(repair.kept_name, "altitudini.bak");
     EXPECT_EQ(content("altitudini.bak"), built_in_altitude_file());
-    EXPECT_EQ(FillMunicipalities(text(), "Vicenza", told)->names.size(), 121U);
+    EXPECT_EQ(FillMunicipalities(text(), "Vicenza", notices)->size(), 121U);
 }
 
 }  // namespace

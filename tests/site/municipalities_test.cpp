@@ -1,5 +1,9 @@
 #include "site/municipalities.h"
 
+#include <chrono>
+#include <fstream>
+#include <thread>
+
 #include "site/ScriviAltitudini_cond.h"
 #include "site/built_in_altitudes.h"
 #include "tests/site/altitude_directory.h"
@@ -11,11 +15,11 @@ using testing::ElementsAre;
 
 class AltitudeFile : public AltitudeDirectory {
   protected:
-    std::optional<MunicipalityList> fill(std::string_view province) {
-        return FillMunicipalities(text(), province, told);
+    std::optional<std::vector<std::string>> fill(std::string_view province) {
+        return FillMunicipalities(text(), province, notices);
     }
     std::optional<std::string> read(std::string_view province, std::string_view municipality) {
-        return ReadAltitude(text(), province, municipality, told);
+        return ReadAltitude(text(), province, municipality, notices);
     }
     const std::string read_error = "Errore in lettura del file altitudine.txt .";
 };
@@ -23,15 +27,15 @@ class AltitudeFile : public AltitudeDirectory {
 TEST_F(AltitudeFile, IsWrittenWhenItIsMissingAndSearchedInTheLastBlockToItsEnd) {
     const auto list = fill("Torino");
     ASSERT_TRUE(list);
-    EXPECT_EQ(list->names.size(), 315U);
-    EXPECT_EQ(list->altitude, "239");
+    EXPECT_EQ(list->size(), 315U);
+    EXPECT_EQ(read("Torino", "Torino"), "239");
     EXPECT_EQ(content("altitudini.txt"), built_in_altitude_file());
     EXPECT_THAT(files(), ElementsAre("altitudini.txt")) << "no backup of nothing";
     EXPECT_EQ(read("Forlì", "Forlì"), "34");
     EXPECT_EQ(read("Trento", "Samone"), "673") << "not its namesake in Torino";
-    EXPECT_THAT(fill("Aosta")->names, testing::Contains("Châtillon"));
+    EXPECT_THAT(*fill("Aosta"), testing::Contains("Châtillon"));
     EXPECT_EQ(read("Oristano", "Torino"), "15") << "the file's last line";
-    EXPECT_TRUE(told.empty());
+    EXPECT_TRUE(notices.messages.empty());
     EXPECT_FALSE(read("Sassari", "Zerfaliu")) << "the empty line behind Sassari has no blank";
     expect_ended_with(read_error);
 }
@@ -49,8 +53,8 @@ TEST_F(AltitudeFile, FirstOfTwoLinesAndOfTwoBlocksCounts) {
     put("altitudini.txt", "Varese\r\nVarese   400\r\nVarese   401\r\n\r\nVarese\r\nBo   500\r\n\r\n");
     const auto list = fill("Varese");
     ASSERT_TRUE(list);
-    EXPECT_THAT(list->names, ElementsAre("Varese", "Varese"));
-    EXPECT_EQ(list->altitude, "400");
+    EXPECT_THAT(*list, ElementsAre("Varese", "Varese"));
+    EXPECT_EQ(read("Varese", "Varese"), "400");
     put("altitudini.txt", "Varese\r\nFo? 77\r\nVarese 239\r\n");
     EXPECT_EQ(read("Varese", "Foś"), "239") << "a name outside the code page is no question mark";
 }
@@ -68,7 +72,7 @@ TEST_F(AltitudeFile, EditedFileIsReadByItsLastFourCharactersAndLeftAlone) {
              {"Torino\r\nAla" + std::string(1 << 20, ' ') + "12\r\n\r\n", "12"}}) {
         SCOPED_TRACE(file.substr(0, 60));
         put("altitudini.txt", file);
-        EXPECT_THAT(fill("Torino").value().names, testing::Contains("Ala"));
+        EXPECT_THAT(fill("Torino").value(), testing::Contains("Ala"));
         EXPECT_EQ(read("Torino", "Ala"), altitude);
         EXPECT_EQ(content("altitudini.txt"), file);
     }
@@ -81,19 +85,51 @@ TEST_F(AltitudeFile, DamagedFileRepairsItselfAndTheOldOneSurvives) {
           std::string(100000, '\0')}) {
         SCOPED_TRACE(file.substr(0, 60));
         put("altitudini.txt", file);
-        EXPECT_EQ(fill("Torino").value().names.size(), 315U);
+        EXPECT_EQ(fill("Torino").value().size(), 315U);
         EXPECT_EQ(content("altitudini.txt"), built_in_altitude_file());
         EXPECT_EQ(content("altitudini.bak"), file);
     }
 }
 
+TEST_F(AltitudeFile, ThatIsBeingSavedIsWaitedFor) {
+    const std::string saved = "Torino\r\nTorino   240\r\n\r\nCuneo\r\nCuneo   999\r\n\r\n";
+    put("altitudini.txt", saved.substr(0, 20));
+    std::thread editor([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        put("altitudini.txt", saved);
+    });
+    EXPECT_EQ(read("Cuneo", "Cuneo"), "999");
+    editor.join();
+    EXPECT_EQ(content("altitudini.txt"), saved);
+    EXPECT_THAT(files(), ElementsAre("altitudini.txt"));
+    EXPECT_EQ(notices.note, "");
+}
+
+// As if it was not waited for long enough.
+TEST_F(AltitudeFile, ThatIsWrittenAnewIsKeptWithWhatItsEditorStillWrites) {
+    for (const std::string_view backup : {"", "first", "half of"}) {
+        std::ofstream editor(path() / "altitudini.txt", std::ios::binary);
+        editor << "half of" << std::flush;
+        if (!backup.empty()) put("altitudini.bak", backup);
+        EXPECT_TRUE(WriteAltitudeFile(text(), notices));
+        EXPECT_EQ(std::exchange(notices.note, ""),
+                  "Il file altitudini.txt è stato riscritto dalla tabella del programma; quello di prima "
+                  "resta come "
+                  "altitudini.bak.");
+        editor << " an own table" << std::flush;
+        EXPECT_EQ(content("altitudini.bak"), "half of an own table");
+        EXPECT_EQ(content("altitudini.txt"), built_in_altitude_file());
+    }
+    EXPECT_EQ(content("altitudini.bak1"), "first");
+}
+
 TEST_F(AltitudeFile, WrittenAnewLosesNoBackup) {
     for (const std::string_view own : {"first", "second", "third", "third"}) {
         put("altitudini.txt", own);
-        EXPECT_TRUE(WriteAltitudeFile(text(), told));
+        EXPECT_TRUE(WriteAltitudeFile(text(), notices));
         EXPECT_EQ(content("altitudini.bak"), own);
     }
-    EXPECT_TRUE(WriteAltitudeFile(text(), told));
+    EXPECT_TRUE(WriteAltitudeFile(text(), notices));
     EXPECT_EQ(content("altitudini.bak"), "third") << "the built-in table itself needs no backup";
     EXPECT_EQ(content("altitudini.bak1"), "first");
     EXPECT_EQ(content("altitudini.bak2"), "second");

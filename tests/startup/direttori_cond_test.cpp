@@ -19,13 +19,13 @@ class CheckDirectories : public testing::Test {
     /// Title and text of the message that ended the program.
     std::string fault(const std::string& command_line, const std::string& process_command_line = "",
                       const std::string& own_directory = "") {
-        Messages told;
+        Messages messages;
         const bool goes_on =
-            check_directories(command_line, process_command_line, own_directory, directories, told);
-        EXPECT_EQ(told.size(), goes_on ? 0U : 1U);
-        if (told.empty()) return no_fault;
-        EXPECT_EQ(told[0].icon, Icon::error);
-        return told[0].title + ": " + told[0].text;
+            check_directories(command_line, process_command_line, own_directory, directories, messages);
+        EXPECT_EQ(messages.size(), goes_on ? 0U : 1U);
+        if (messages.empty()) return no_fault;
+        EXPECT_EQ(messages[0].icon, Icon::error);
+        return messages[0].title + ": " + messages[0].text;
     }
     std::string fault() { return fault(suite.command_line()); }
 
@@ -54,6 +54,8 @@ TEST_F(CheckDirectories, TakesTheRootFromACommandLineOrTheProgramsOwnDirectory) 
     EXPECT_EQ(fault("", suite.command_line()), no_fault);
     EXPECT_EQ(fault("|diroot=" + suite.root() + "\\|", "|diroot=c:\\elsewhere|"), no_fault);
     EXPECT_EQ(directories.SuiteRoot, root);
+    EXPECT_EQ(fault("|diroot=" + suite.disk_root().string() + "/|"), no_fault);
+    EXPECT_EQ(directories.SettingsDirectory, lower_case(suite.disk_root().string()) + "\\impostazioni");
     EXPECT_EQ(fault("|diroot=|autonomo=1|", "", "  " + suite.root() + "\\PROGRA "), no_fault);
     EXPECT_EQ(directories.SuiteRoot, suite.root());
     for (const std::string own : {"c:\\suite\\progra\\", "c:\\laprogra", ""})
@@ -84,8 +86,8 @@ TEST_F(CheckDirectories, AcceptsSettingsOrEnds) {
              Case{"  D:\\DATI\\LAVORI\\ \r\n", "  job 01  \r\n", no_fault},
              Case{":\\lavori\nd:\\lavori", "job001", no_jobs},
              Case{"\r\nd:\\dati\\lavori", "job001", no_jobs}, Case{"D:\\dati\\lavoro\\", "job001", not_jobs},
-             Case{"D:\\dati\\lavori\\\\", "job001", not_jobs}, Case{"D:\\lavori", "job01\r\n", no_job},
-             Case{"D:\\lavori", "job0001", no_job},
+             Case{"/srv/dati/lavori/", "job001", no_fault}, Case{"D:\\dati\\lavori\\\\", "job001", not_jobs},
+             Case{"D:\\lavori", "job01\r\n", no_job}, Case{"D:\\lavori", "job0001", no_job},
              Case{"D:\\lavori", "citt\xE0\x80", no_fault},  // Windows-1252: six characters
          }) {
         suite.write_setting("DirLav", c.jobs);

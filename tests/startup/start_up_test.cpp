@@ -11,11 +11,11 @@ namespace {
 class StartOfProgram : public testing::Test {
   protected:
     StartUp start(const std::string& command_line, const std::string& own_directory) {
-        return start_up(command_line, own_directory, program, told);
+        return start_up(command_line, own_directory, program, messages);
     }
 
     SuiteTree suite;
-    Messages told;
+    Messages messages;
     Program program;
 };
 
@@ -32,7 +32,7 @@ TEST_F(StartOfProgram, StandAloneLivesInTheProgramsOwnDirectory) {
                                    set.DriverDirectory, set.CustomDirectory, set.HelpDirectory})
         EXPECT_EQ(own, "d:\\programmi\\neve");
     EXPECT_EQ(set.SettingsDirectory + set.TempDirectory + set.JobsDirectory + set.JobName, "");
-    EXPECT_TRUE(told.empty());
+    EXPECT_TRUE(messages.empty());
 }
 
 TEST_F(StartOfProgram, OnlyTheRootDecidesTheMode) {

@@ -34,7 +34,7 @@ TEST(ReadNumber, TakesTheLeadingNumberOrStrictlyTheWholeText) {
           ReadingCase{".", 0, other}, ReadingCase{"-", 0, other}, ReadingCase{"+-5", 0, other},
           ReadingCase{"- 5", 0, other}, ReadingCase{".e5", 0, other}, ReadingCase{"\t5", 0, other},
           ReadingCase{"nan", 0, other}, ReadingCase{"-inf", 0, other},
-          // Too large is told; too small is 0, from half of the smallest double on.
+          // Too large is beyond the range; too small is 0, from half of the smallest double on.
           ReadingCase{"1.7976931348623157e308", DBL_MAX}, ReadingCase{"1.8e308", 0, beyond},
           ReadingCase{"1" + zeros, 0, beyond}, ReadingCase{"-1" + zeros + ".5", 0, beyond},
           ReadingCase{"0." + zeros + "1e999", 0, beyond}, ReadingCase{"0." + zeros + "1", 0},

@@ -73,17 +73,6 @@ TEST(RoundHalfEven, DecidesOnTheExactBinaryValue) {
     }
 }
 
-TEST(RoundToText, IsTheRoundingAndItsPlainText) {
-    std::mt19937_64 random(5);
-    for (int i = 0; i < 20000; ++i) {
-        const double digits = static_cast<double>(random() % 2000) - 1000;
-        const double value = std::ldexp(digits, static_cast<int>(random() % 200) - 100);
-        const RoundedNumber rounded = round_to_text(value, i % 9);
-        ASSERT_EQ(rounded.value, round_half_even(value, i % 9));
-        ASSERT_EQ(rounded.text, plain_number_text(rounded.value)) << printed("%.17g", value);
-    }
-}
-
 TEST(RoundSignificant, RoundsTheFifteenDigitsAwayFromZero) {
     // 2.675 is below the half in binary, on it in fifteen digits.
     for (const RoundingCase& c :

@@ -1,3 +1,4 @@
+#include "calculate/Calcola.h"
 #include "tests/ui/window_test.h"
 
 namespace coltre {
@@ -10,11 +11,8 @@ using testing::ElementsAre;
 class MainCalculation : public MainWindowTest {
   protected:
     /// Whether the sketch says that its numbers belong to other entries.
-    bool is_pending(const char* sketch) {
-        return std::ranges::any_of(get<SketchWidget>(sketch).drawing().texts, [](const Text& text) {
-            return text.text == "numeri dell'ultimo calcolo, non di questi dati";
-        });
-    }
+    bool is_pending(const char* sketch) { return get<SketchWidget>(sketch).drawing().pending; }
+    bool is_grey(const char* label) { return get(label).foregroundRole() == QPalette::PlaceholderText; }
 };
 
 TEST_F(MainCalculation, EachFamilyShowsItsCellsAlone) {
@@ -148,10 +146,49 @@ TEST_F(MainCalculation, SketchSaysWhenItsNumbersAreOfOtherEntries) {
     };
     for (const auto& change : site_changes) {
         click("Calcola");
-        EXPECT_FALSE(is_pending("sketch_4"));
+        EXPECT_FALSE(is_pending("sketch_4") || is_grey("caricosuolo"));
         change();
-        EXPECT_TRUE(is_pending("sketch_4"));
+        EXPECT_TRUE(is_pending("sketch_4") && is_grey("caricosuolo"));
     }
+    click("Calcola");
+    type({{"TextCTermico", "1.2"}, {"hcopcil", "3"}});
+    EXPECT_TRUE(is_pending("sketch_4") && is_grey("caricosuolo"));
+    type({{"TextCTermico", "1.1"}, {"hcopcil", "2"}});
+    EXPECT_FALSE(is_pending("sketch_4") || is_grey("caricosuolo"))
+        << "the entries are the calculated ones again";
+}
+
+TEST_F(MainCalculation, NotesSayWhatIsNotAsItLooks) {
+    CalculationTab tab(Kind::two_pitches, window, dialogs);
+    get<QLineEdit>("inputalfa2").setText("22,5");
+    get<QLineEdit>("TextCTermico").setText("1,1");
+    EXPECT_THAT(tab.notes(window.site()),
+                ElementsAre("sito non scelto: Zona I Alpina", "Ct letto come 1", "α2 letto come 22"));
+    list("Provinciainput").setCurrentText("Cuneo");
+    type({{"inputalfa2", "22,5"}, {"TextCTermico", "1,1"}, {"asinput", "12 m"}});
+    EXPECT_THAT(tab.notes(window.site()), ElementsAre("altitudine: letto come 12"));
+}
+
+TEST_F(MainCalculation, BoxesFieldsAndLabelsComeInTheirOrder) {
+    choose_tab(3);
+    click("Check1Box");
+    type("asinput", "1600");
+    std::vector<std::string> seen;
+    dialogs.while_shown = [&] {
+        seen.push_back(field("asinput") + "|" + text("L1output") + text("L2output") + "|" +
+                       text("caricosuolo"));
+    };
+    dialogs.expect(Icon::information, altitude_notice({.asinput = "1600"})->message.text);
+    dialogs.expect(Icon::none, "Creazione della relazione " + directory.text() + "\\coltre.txt effettuata");
+    click("Calcola");
+    EXPECT_THAT(seen, ElementsAre("1600|––|–", " 1500| 12.56 3.14 [m]|–"));
+    EXPECT_EQ(text("caricosuolo"), " 8.1042");
+
+    seen.clear();
+    type({{"TextCTermico", "0"}, {"Lcopcil", "20"}});  // R = 26, L1 = 45.03
+    dialogs.expect_stop("divisione per zero.\rNon si può calcolare qe_4a.\rIl carico neve al suolo qsk è 0.");
+    click("Calcola");
+    EXPECT_THAT(seen, ElementsAre(" 1500| 45.03 11.26 [m]| 8.1042"));
 }
 
 }  // namespace

@@ -25,7 +25,10 @@ class CasipartTest : public WindowTest {
     }
     void open() {
         tested = new casipart(
-            program, dialogs, [this] { return site; },
+            program, dialogs,
+            [this] {
+                return Inputs{site, program.cells.zone, program.cells.return_period_factor};
+            },
             [this] { shown_ground_loads.push_back(program.cells.qsk); });
         tested->show();
         tested->activateWindow();  // without a window manager nobody else does
@@ -126,7 +129,10 @@ TEST_F(CasipartTest, ShowsTheCellsOfTheSelectedPageAlone) {
     ASSERT_EQ(shown_ground_loads.size(), 3U);
     EXPECT_DOUBLE_EQ(shown_ground_loads[2], 0.495) << "in the shared cell before it is shown";
 
-    type({{"angoloinput", "30"}, {"qsinput", "1,5"}});  // Fs = qs b / 2, read leniently
+    type({{"angoloinput", "30"}, {"qsinput", "1,5"}});  // Fs = qs b / 2
+    click("Calcola2");
+    EXPECT_EQ(text("Fsoutput"), " 3.75");
+    get<QLineEdit>("qsinput").setText("1,5");  // set, not typed: the comma ends the number
     click("Calcola2");
     EXPECT_EQ(text("Fsoutput"), " 2.5");
 }
@@ -141,6 +147,7 @@ TEST_F(CasipartTest, AnEarlyStopIsToldAndLeavesEveryLabel) {
           std::tuple(0, "h2input", "h", "2"), std::tuple(0, "deltainput", "alfa", "10"),
           std::tuple(1, "h3input", "h", "2.30")}) {
         type(name, "2;5");
+        EXPECT_EQ(get(name).accessibleDescription(), "non è un numero") << name;
         dialogs.expect_stop("conversione non valida.\rIl testo scritto per «" + std::string(symbol) +
                             "» non è un numero: «2;5».");
         calculate(page);

@@ -46,7 +46,8 @@ TEST_F(Dialogs, ReturnPeriodIsConfirmedWhileTheMainWindowStaysUsable) {
     confirm(dialog, "  100 ");
     EXPECT_EQ(open_window<PeriododiRitorno>(), nullptr);
     EXPECT_EQ(text("OutputPerRit"), "100");
-    EXPECT_EQ(get("OutputPerRit").toolTip(), "coefficiente del periodo di ritorno: 0.9009");
+    EXPECT_EQ(text("factor_in_force"), "coefficiente 0.9009");
+    EXPECT_EQ(window.focusWidget(), &get("Calcola")) << "the next Enter calculates";
     click("Calcola");
     EXPECT_EQ(text("caricosuolo"), " 1.3514");  // 1.5 times 0.9009
 }
@@ -54,6 +55,11 @@ TEST_F(Dialogs, ReturnPeriodIsConfirmedWhileTheMainWindowStaysUsable) {
 TEST_F(Dialogs, RejectedReturnPeriodKeepsTheDialogOpenAndTheFactor) {
     PeriododiRitorno& dialog = open_return_period();
     EXPECT_EQ(control<QLineEdit>(dialog, "InputPerRIT").text(), "50");
+    EXPECT_EQ(text("factor_in_force"), "coefficiente 1, non confermato");
+    EXPECT_EQ(control<QLabel>(dialog, "typed_factor").text(), "coefficiente 0.8056");
+    control<QLineEdit>(dialog, "InputPerRIT").setText("1");
+    EXPECT_EQ(control<QLabel>(dialog, "typed_factor").text(), "coefficiente –");
+    EXPECT_EQ(program.cells.return_period, 50) << "nothing is confirmed by typing";
     dialogs.expect(Icon::error, "Il Periodo di Ritorno deve essere un numero maggiore di 0.");
     confirm(dialog, "-3");
     dialogs.expect_stop("errore numerico.\rIl numero scritto per «periodo di ritorno» è troppo grande.");

@@ -73,6 +73,13 @@ TEST_F(Site, OpenListJumpsToWhatIsTypedAndChoosesOnReturnTheSameAgainToo) {
     EXPECT_NE(field("asinput"), "239");
 }
 
+TEST_F(Site, OpenListIsNoHigherThanSixteenEntriesAndHasAScrollBar) {
+    municipalities.showPopup();
+    EXPECT_LE(municipalities.view()->height(), 17 * municipalities.view()->sizeHintForRow(0));
+    EXPECT_TRUE(municipalities.view()->verticalScrollBar()->isVisible());
+    municipalities.hidePopup();
+}
+
 TEST_F(Site, WheelOverAListChangesNothing) {
     for (const char* name : {"regione", "Provinciainput", "comuneinput", "ComboEsp", "udmcombo"}) {
         QComboBox& under_pointer = list(name);

@@ -56,9 +56,54 @@ TEST_F(Start, WindowFitsASmallScreenAndItsMnemonicsAreUnambiguous) {
     }
 }
 
-TEST_F(Start, UnclearTextIsMarkedAndSaysHowItIsRead) {
+TEST_F(Start, NothingIsOutOfReachInASmallWindowOrForAScreenReader) {
+    const auto bars = [this] {
+        QApplication::processEvents();
+        const auto& area = *window.findChild<QScrollArea*>();
+        return std::pair(area.horizontalScrollBar()->isVisible(), area.verticalScrollBar()->isVisible());
+    };
+    window.resize(980, 640);
+    EXPECT_EQ(bars(), std::pair(false, false)) << "nothing scrolls at an ordinary size";
+    window.resize(496, 302);  // of a screen of 1024 x 700 at twice the size
+    EXPECT_EQ(bars(), std::pair(true, true));
+    auto& Chiudi = get("Chiudi");
+    get("Calcola").setFocus();
+    for (int i = 0; i < 2; ++i)
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    ASSERT_EQ(window.focusWidget(), &Chiudi) << window.focusWidget()->objectName().toStdString();
+    EXPECT_EQ(Chiudi.visibleRegion().boundingRect(), Chiudi.rect());
+
+    const auto said = [](QWidget& widget) {
+        QAccessibleInterface* const read = QAccessible::queryAccessibleInterface(&widget);
+        return std::pair(read->role(), read->text(QAccessible::Name).toStdString());
+    };
+    EXPECT_EQ(said(window), std::pair(QAccessible::Window, std::string("Coltre - ARCOVIA 15")));
+    EXPECT_EQ(said(get("comuneinput")), std::pair(QAccessible::ComboBox, std::string("Comune")));
+    EXPECT_EQ(said(get("sketch_2")),
+              std::pair(QAccessible::Graphic, std::string("Schizzo: copertura a due falde")));
+}
+
+TEST_F(Start, CommaBecomesAPointAndUnclearTextSaysHowItIsRead) {
     auto& Ct = get<NumberField>("TextCTermico");
     type("TextCTermico", "1,5");
+    EXPECT_EQ(Ct.text(), "1.5");
+    Ct.undo();
+    EXPECT_FALSE(Ct.text().contains(','));
+    const auto paste = [&Ct](const char* text) {
+        QApplication::clipboard()->setText(text);
+        Ct.selectAll();
+        Ct.paste();
+        return Ct.text().toStdString();
+    };
+    EXPECT_EQ(paste(" 1,25 m"), " 1.25 m");
+    for (const char* text : {"1,2,3", "1.000,5", ",5", "1,m"})
+        EXPECT_EQ(paste(text), text) << "is no decimal comma for certain";
+    paste("1,5");
+    for (int i = 0; i < 9; ++i)
+        Ct.undo();
+    EXPECT_EQ(Ct.text(), "1.0") << "undo stops at the comma";
+
+    Ct.setText("1,5");
     EXPECT_TRUE(Ct.is_marked());
     EXPECT_EQ(Ct.accessibleDescription(), "letto come 1");
     type("TextCTermico", " 1.5 ");

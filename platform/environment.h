@@ -2,6 +2,7 @@
 
 #include <string>
 
+// What the program finds around itself.
 namespace coltre {
 
 /// The directory that holds the program, in the suite's notation, without a separator at its end.

@@ -1,11 +1,11 @@
-#include "platform/surroundings.h"
+#include <langinfo.h>
+#include <locale.h>
 
 #include <csignal>
 #include <filesystem>
-#include <locale>
-#include <stdexcept>
 #include <system_error>
 
+#include "platform/environment.h"
 #include "platform/files.h"
 
 namespace coltre {
@@ -18,17 +18,16 @@ std::string own_directory(const char* invoked_as) {
 }
 
 void take_file_size_limit_as_error() {
-#ifdef SIGXFSZ
-    std::signal(SIGXFSZ, SIG_IGN);
-#endif
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
 }
 
 char user_decimal_separator() {
-    try {
-        return std::use_facet<std::numpunct<char>>(std::locale("")).decimal_point();
-    } catch (const std::runtime_error&) {
-        return '.';  // the environment names a locale that this system does not have
-    }
+    // Not std::locale: the library's does not survive a lack of memory.
+    const locale_t users = ::newlocale(LC_NUMERIC_MASK, "", locale_t{});
+    if (users == locale_t{}) return '.';  // the environment names a locale that this system does not have
+    const char separator = *::nl_langinfo_l(RADIXCHAR, users);
+    ::freelocale(users);
+    return separator;
 }
 
 }  // namespace coltre

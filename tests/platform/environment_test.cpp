@@ -1,4 +1,4 @@
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 
 #include <gmock/gmock.h>
 

@@ -1,0 +1,36 @@
+#include "document/request_line.h"
+
+#include "text/json_text.h"
+#include "text/number_text.h"
+
+namespace coltre {
+
+std::string request_line(const Subject& subject) {
+    const Fields& fields = subject.fields;
+    const Description& calculation = describe(fields.kind);
+    std::string json;
+    JsonObject object(json);
+    object.text("calcolo", calculation.name);
+    if (!subject.municipality.empty()) {
+        object.text("provincia", subject.province);
+        object.text("comune", subject.municipality);
+    }
+    if (!subject.zone_of_province) object.number("zona", subject.zone);
+    object.text("altitudine", fields.asinput);
+    if (subject.confirmed_return_period) object.number("periodo-ritorno", *subject.confirmed_return_period);
+    object.text("ce", fields.ComboEsp);
+    object.text("ct", fields.TextCTermico);
+    object.text("unita", fields.udmcombo);
+    auto typed = fields.entries.begin();
+    for (const Entry& entry : calculation.entries) {
+        // A comma counts as the locale has it, a point everywhere.
+        const bool as_read = entry.reading == Reading::strict && subject.outcome.complete;
+        const double number = subject.outcome.entries.*entry.number;
+        object.text(entry.key, as_read ? shortest_number_text(number) : *typed);
+        ++typed;
+    }
+    object.close();
+    return json;
+}
+
+}  // namespace coltre

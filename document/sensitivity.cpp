@@ -1,0 +1,100 @@
+#include "document/sensitivity.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "document/formula_text.h"
+#include "engine/ground_load.h"
+#include "site/regions.h"
+
+namespace coltre {
+
+namespace {
+
+/// The inputs with one of them changed, under the words for the change.
+void vary(std::vector<Variation>& variations, std::string what, const LoadInputs& changed) {
+    variations.push_back({std::move(what), worst_load(changed)});
+}
+
+std::string zone_name(SnowZone zone) {
+    std::string name(zone_caption(zone));
+    return name.substr(1, name.size() - 2);  // without its parentheses
+}
+
+void vary_ground_load(std::vector<Variation>& variations, const LoadInputs& inputs) {
+    for (const double by : {-50.0, 50.0}) {
+        LoadInputs changed = inputs;
+        changed.altitude += by;
+        vary(variations,
+             "altitudine " + number_text(changed.altitude) + " m (" + (by < 0 ? "− " : "+ ") + "50 m)",
+             changed);
+    }
+    for (const double CE : {0.9, 1.0, 1.1}) {
+        LoadInputs changed = inputs;
+        changed.CE = CE;
+        if (CE != inputs.CE) vary(variations, "CE = " + fixed_text(CE, 1), changed);
+    }
+    for (const double Tr : {50.0, 100.0, 200.0, 500.0}) {
+        LoadInputs changed = inputs;
+        changed.factor = return_period_factor(Checked(Tr)).value();
+        vary(variations,
+             "periodo di ritorno di " + number_text(Tr) + " anni confermato (" +
+                 fixed_text(changed.factor, 4) + ")",
+             changed);
+    }
+    for (const int by : {-1, 1}) {
+        LoadInputs changed = inputs;
+        changed.zone = static_cast<SnowZone>(inputs.zone + by);
+        if (changed.zone >= 0 && changed.zone <= 3) vary(variations, zone_name(changed.zone), changed);
+    }
+}
+
+}  // namespace
+
+std::optional<Result> worst_load(const Calculation& calculation) {
+    std::optional<Result> worst;
+    for (const Result& result : calculation.results) {
+        const bool is_load = result.cell->quantity.unit == quantities::area_load.unit;
+        if (!is_load && result.cell != &results::Fs) continue;
+        if (!worst || result.value > worst->value) worst = result;
+    }
+    return worst;
+}
+
+std::optional<double> worst_load(const LoadInputs& inputs) {
+    ProgramCells cells;
+    cells.zone = inputs.zone;
+    cells.return_period_factor = inputs.factor;
+    if (set_base_load(cells, inputs.altitude) != Fault::none) return std::nullopt;
+    if (apply_load_factors(cells, inputs.CE, inputs.Ct) != Fault::none) return std::nullopt;
+    const Calculation calculation = calculate(cells, inputs.entries);
+    const auto worst = worst_load(calculation);
+    if (calculation.end.stopped() || !worst) return std::nullopt;
+    return worst->value;
+}
+
+std::vector<Variation> variations(const LoadInputs& inputs) {
+    std::vector<Variation> variations;
+    const Description& calculation = describe(inputs.entries.kind);
+    const std::optional<double> now = worst_load(inputs);
+    if (calculation.needs_ground_load) vary_ground_load(variations, inputs);
+    for (const Entry& entry : calculation.entries) {
+        const bool slope = entry.unit == "°";
+        for (const double sign : {-1.0, 1.0}) {
+            LoadInputs changed = inputs;
+            double& number = changed.entries.*entry.number;
+            const double by = slope ? 5 : 0.1 * std::abs(number);
+            number += sign * by;
+            if (slope && number < 0) continue;
+            if (worst_load(changed) == now) continue;  // the slope of a level change, for one
+            vary(variations,
+                 plain_text(symbol_text(entry.symbol)) + " = " + number_text(number) + " " +
+                     std::string(entry.unit) + " (" + (sign < 0 ? "− " : "+ ") + (slope ? "5°" : "10 %") +
+                     ")",
+                 changed);
+        }
+    }
+    return variations;
+}
+
+}  // namespace coltre

@@ -1,0 +1,68 @@
+#include "platform/failure.h"
+
+#include <cerrno>
+
+namespace coltre {
+
+Failure system_failure(int error_number) {
+    switch (error_number) {
+        case 0:
+            return std::nullopt;
+        case ENOENT:
+        case ENOTDIR:
+            return "la cartella non esiste";
+        case EACCES:
+        case EPERM:
+            return "permesso negato";
+        case EROFS:
+            return "la cartella è in sola lettura";
+        case ENOSPC:
+            return "il disco è pieno";
+#ifdef EDQUOT
+        case EDQUOT:
+            return "lo spazio concesso all'utente è esaurito";
+#endif
+        case EISDIR:
+            return "al suo posto c'è qualcosa che non è un file";
+        case EFBIG:
+            return "il file supera la grandezza concessa";
+        case EINVAL:
+            return "il nome non è valido";
+        case ENAMETOOLONG:
+            return "il nome è troppo lungo";
+        case ELOOP:
+            return "il collegamento non porta a un file";
+        case EIO:
+            return "il disco segnala un errore";
+        case EMFILE:
+        case ENFILE:
+            return "troppi file sono aperti";
+        case ENOMEM:
+            return "memoria esaurita";
+#ifdef ESTALE
+        case ESTALE:
+            return "la cartella di rete non risponde";
+#endif
+        default:
+            return "errore di sistema " + std::to_string(error_number);
+    }
+}
+
+bool may_pass(int error_number) {
+    switch (error_number) {
+        case EIO:
+        case EINTR:
+        case EAGAIN:
+        case EMFILE:
+        case ENFILE:
+        case ENOMEM:
+#ifdef ESTALE
+        case ESTALE:
+#endif
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace coltre

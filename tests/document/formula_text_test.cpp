@@ -1,0 +1,77 @@
+#include "document/formula_text.h"
+
+#include <gmock/gmock.h>
+
+namespace coltre {
+namespace {
+
+/// The pieces with their styles: subscripts in _{}, superscripts in ^{}.
+std::string marked(const Pieces& pieces) {
+    std::string text;
+    for (const Piece& piece : pieces) {
+        if (piece.style == Style::subscript) {
+            text += "_{" + piece.text + "}";
+        } else if (piece.style == Style::superscript) {
+            text += "^{" + piece.text + "}";
+        } else {
+            text += piece.text;
+        }
+    }
+    return text;
+}
+
+TEST(FormulaText, IsPrintedAsAnEngineerWritesIt) {
+    for (const auto& [formula, printed] : std::vector<std::pair<const char*, const char*>>{
+             {"1.39 * (1 + (as / 728)^2)", "1,39 · (1 + (a_{s}/728)^{2})"},
+             {"0.5 * mu1_alfa1", "0,5 · µ_{1}(α_{1})"},
+             {"mu1_alfa2_dimezzato * qsk", "µ_{1,½}(α_{2}) · q_{sk}"},
+             {"min(3 / d_qs_2a, 3 * d_qs_2a)", "min(3/d_{2a}; 3 · d_{2a})"},
+             {"qs1_intero + (qs2 - qs1_intero) / ls_intero * (ls_intero - b2)",
+              "q_{s1,intero} + (q_{s2} − q_{s1,intero})/l_{s,intero} · (l_{s,intero} − b_{2})"},
+             {"zona == 0 and as > 200", "zona = 0 e a_{s} > 200"},
+             {"30 < alfa <= 60", "30 < α ≤ 60"},
+             {"qs * b * sin(alfa * pi / 180)", "q_{s} · b · sen(α · π/180)"},
+             {"0.273 * (1 - 0.5 * ln(0 - ln(1 - 1 / Tr)))", "0,273 · (1 − 0,5 · ln(0 − ln(1 − 1/T_{r})))"},
+             {"1.5398124282997221 * (-0.0001234567) + 2e+20", "1,5398 · (−0,0001235) + 2e+20"},
+             {"2 * R * cos(30 / 180 * 4 * arctan(1))", "2 · R · cos(30/180 · 4 · arctan(1))"},
+         })
+        EXPECT_EQ(marked(formula_text(formula)), printed);
+}
+
+TEST(NumberText, HasFourDecimalsOrFourSignificantDigits) {
+    for (const auto& [value, text] : std::vector<std::pair<double, const char*>>{{0, "0"},
+                                                                                 {239, "239"},
+                                                                                 {0.8, "0,8"},
+                                                                                 {12.55661, "12,5566"},
+                                                                                 {0.0230775, "0,02308"},
+                                                                                 {-2.5, "−2,5"},
+                                                                                 {1e12, "1e+12"},
+                                                                                 {1e-12, "1e-12"},
+                                                                                 {0.99999, "1"}})
+        EXPECT_EQ(number_text(value), text);
+}
+
+TEST(StepLine, SaysNothingTwice) {
+    Step step{
+        .symbol = "mu1", .formula = "0.8", .numbers = "0.8", .value = 0.8, .condition = "0 <= alfa <= 30"};
+    EXPECT_EQ(plain_text(step_line(step).formula), "µ1 = 0,8");
+    EXPECT_EQ(plain_text(step_line(step).remark), "0 ≤ α ≤ 30");
+    step = {.symbol = "ls",
+            .formula = "min(max(2 * h, 5), 15)",
+            .numbers = "min(max(2 * 2, 5), 15)",
+            .value = 5,
+            .governs = "5",
+            .quantity = quantities::length};
+    EXPECT_EQ(plain_text(step_line(step).formula),
+              "ls = min(max(2 · h; 5); 15) = min(max(2 · 2; 5); 15) = 5 m");
+    EXPECT_EQ(plain_text(step_line(step).remark), "governa 5");
+    step = {.symbol = "k_qs_1",
+            .formula = "min(3 / d_qs_1, 3 * d_qs_1)",
+            .numbers = "min(3 / 0, 3 * 0)",
+            .value = {},
+            .fault = Fault::division_by_zero};
+    EXPECT_EQ(plain_text(step_line(step).remark), "non si può calcolare: divisione per zero");
+}
+
+}  // namespace
+}  // namespace coltre

@@ -1,0 +1,109 @@
+#include "document/illustrated_report.h"
+
+#include <gmock/gmock.h>
+
+#include "calculate/Calcola.h"
+#include "calculate/Calcola2.h"
+#include "document/formula_text.h"
+#include "document/html.h"
+#include "document/request_line.h"
+#include "document/sensitivity.h"
+
+namespace coltre {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+/// Torino, 239 m, zone I Alpina.
+Subject calculated(Kind kind, std::vector<std::string> entries) {
+    Program program;
+    Subject subject;
+    subject.fields.asinput = "239";
+    subject.fields.ComboEsp = subject.fields.TextCTermico = "1.0";
+    subject.fields.kind = kind;
+    subject.fields.entries = std::move(entries);
+    subject.fields.udmcombo = "kN , m";
+    subject.fields.traced = true;
+    subject.outcome = describe(kind).window == Window::main ? Calcola(subject.fields, program)
+                                                            : Calcola2(subject.fields, program);
+    subject.province = subject.municipality = "Torino";
+    subject.listed_altitude = "239";
+    subject.zone_of_province = true;
+    subject.program = "Coltre 1.2.3";
+    subject.request = request_line(subject);
+    return subject;
+}
+
+std::string html(const Subject& subject, Layout layout = Layout::complete) {
+    return to_html(illustrated_report(subject, {.work = "Scuola <A> & B", .date = "21/11/2026"}, layout));
+}
+
+/// One of each calculation, and what its document must say besides. Computed by hand from the rules.
+TEST(IllustratedReport, TellsTheStepsAndWhatGovernedOfEachCalculation) {
+    struct Case {
+        Kind kind;
+        std::vector<std::string> entries;
+        std::vector<const char*> says;
+    };
+    for (const Case& c : {
+             Case{Kind::one_pitch, {"35"}, {"0,6667", "0,361 kN/m", "30 &lt; <i>α</i> ≤ 60"}},
+             Case{Kind::two_pitches, {"20", "40"}, {"disposizione III: 0,8212 kN/m²", "0,623 kN/m"}},
+             Case{Kind::several_pitches, {"20", "40"}, {"2,4637 kN/m²", "nel compluvio"}},
+             Case{Kind::cylindrical, {"20", "4"}, {"14,5", "43,6°", "3,0796 kN/m²", "9,239 kN/m"}},
+             Case{Kind::level_change, {"3", "4", "2", "10"}, {"1,5244", "1,75", "C.6.4"}},
+             Case{Kind::wall, {"2.30"}, {"3,0796 kN/m²", "verificare che ls vi stia"}},
+             Case{Kind::snow_guard, {"1.2318", "5", "20"}, {"2,1065", "5,32 m", "6,4 % in più"}},
+         }) {
+        const Subject subject = calculated(c.kind, c.entries);
+        const std::string complete = html(subject);
+        SCOPED_TRACE(std::string(describe(c.kind).name));
+        for (const char* text : c.says)
+            EXPECT_THAT(complete, HasSubstr(text));
+        const std::string steps = html(subject, Layout::steps_alone);
+        const std::string text = plain_text(step_line(subject.outcome.trace->steps.back()).formula);
+        EXPECT_THAT(steps, HasSubstr(text.substr(text.rfind('=') + 2,
+                                                 text.find(' ', text.rfind('=') + 2) - text.rfind('=') - 2)));
+        EXPECT_THAT(complete, HasSubstr("Scuola &lt;A&gt; &amp; B"));
+        EXPECT_THAT(complete, Not(HasSubstr("Scuola <A>")));
+        EXPECT_EQ(complete, html(calculated(c.kind, c.entries))) << "the same request gives the same bytes";
+        EXPECT_LT(html(subject, Layout::brief).size(), complete.size());
+    }
+}
+
+TEST(IllustratedReport, TellsAStopAndTheStepThatCouldNotBeComputed) {
+    for (const auto& [kind, entries, says] :
+         std::vector<std::tuple<Kind, std::vector<std::string>, const char*>>{
+             {Kind::one_pitch, {"75"}, "non si può calcolare: divisione per zero"},
+             {Kind::cylindrical, {"4", "3"}, "Dimensioni copertura non congruenti"},
+             {Kind::wall, {"due"}, "non è un numero"}}) {
+        for (const Layout layout : {Layout::complete, Layout::brief, Layout::steps_alone})
+            EXPECT_FALSE(html(calculated(kind, entries), layout).empty());
+        EXPECT_THAT(html(calculated(kind, entries)), HasSubstr(says));
+        EXPECT_THAT(html(calculated(kind, entries)), Not(HasSubstr("Sensibilità")));
+    }
+}
+
+// Two pitches of 20 and 40 degrees, the numbers of the calculation made anew with one input changed.
+TEST(Sensitivity, ChangesOneInputAtATime) {
+    const Subject subject = calculated(Kind::two_pitches, {"20", "40"});
+    const LoadInputs inputs{0, 239, 1, 1, 1, subject.outcome.entries};
+    std::map<std::string, double> loads;
+    for (const Variation& variation : variations(inputs))
+        loads[variation.what] = variation.load.value_or(-1);
+    for (const auto& [what, load] : std::vector<std::pair<const char*, double>>{
+             {"altitudine 189 m (− 50 m)", 1.200},
+             {"altitudine 289 m (+ 50 m)", 1.287},
+             {"CE = 0,9", 1.109},
+             {"CE = 1,1", 1.355},
+             {"periodo di ritorno di 50 anni confermato (0,8056)", 0.992},
+             {"periodo di ritorno di 500 anni confermato (1,1212)", 1.381},
+             {"Zona I Mediterranea", 1.250},
+         }) {
+        ASSERT_TRUE(loads.contains(what)) << what;
+        EXPECT_NEAR(loads[what], load, 0.0006) << what;
+    }
+}
+
+}  // namespace
+}  // namespace coltre

@@ -1,0 +1,160 @@
+#include "platform/files.h"
+#include "tests/ui/window_test.h"
+#include "ui/casipart.h"
+#include "version/version.h"
+
+namespace coltre {
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+class MenusTest : public MainWindowTest {
+  protected:
+    void SetUp() override {
+        MainWindowTest::SetUp();
+        menus().open_file = [this](const QUrl& url) {
+            opened = url;
+            return desktop_has_program;
+        };
+    }
+    Menus& menus() { return *window.findChild<Menus*>(); }
+    /// Chooses an entry of a window's menus by its text.
+    static void choose(QWidget& in, const QString& text) {
+        for (const QMenu* menu : in.findChildren<QMenu*>())
+            for (QAction* action : menu->actions())
+                if (action->text() == text) return action->trigger();
+        ADD_FAILURE() << "no entry " << text.toStdString();
+    }
+    casipart& open_special_cases() {
+        click("Bottcpart");
+        return *open_window<casipart>();
+    }
+
+    QUrl opened;
+    bool desktop_has_program = true;
+};
+
+TEST_F(MenusTest, OpenInBothWindowsByF10AndTheirKeysLeaveTheLettersOfTheControls) {
+    for (QWidget* const it : {static_cast<QWidget*>(&window), static_cast<QWidget*>(&open_special_cases())}) {
+        SCOPED_TRACE(it->objectName().toStdString());
+        QApplication::setActiveWindow(it);
+        auto& bar = *it->findChild<QMenuBar*>();
+        EXPECT_GE(it->findChild<QScrollArea*>()->y(), bar.height()) << "above the controls";
+        QTest::keyClick(it, Qt::Key_F10);
+        EXPECT_EQ(bar.activeAction(), bar.actions().at(0));
+        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        EXPECT_EQ(menu->title(), "File");
+        QTest::keyClick(menu, Qt::Key_Escape);
+        QTest::keyClick(&bar, Qt::Key_Escape);
+        for (const QAction* action : it->findChildren<QAction*>())
+            EXPECT_TRUE(QKeySequence::mnemonic(action->text()).isEmpty() ||
+                        qobject_cast<SketchWidget*>(action->parent()))
+                << action->text().toStdString();
+    }
+}
+
+TEST_F(MenusTest, ResultsAreCopiedAsTheyAreShownWithTheUsersDecimalSign) {
+    dialogs.expect(Icon::error, "Non ci sono risultati da copiare: premere «Calcola».");
+    choose(window, "Copia i risultati");
+    click("Calcola");
+    QTest::keyClick(&window, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    const QMimeData& copied = *QApplication::clipboard()->mimeData();
+    EXPECT_EQ(copied.text(),
+              "Carico neve al suolo qsk\t1,5\tkN/m²\n"
+              "Carico neve sulla copertura, falda\t1,2\tkN/m²\n"
+              "Carico della neve sporgente, falda\t0,576\tkN/m\n");
+    EXPECT_THAT(copied.html().toStdString(),
+                HasSubstr("<tr><td>Carico neve sulla copertura, falda</td><td align=\"right\">1,2</td>"
+                          "<td>kN/m²</td></tr>"));
+
+    choose_tab(3);
+    click("Calcola");
+    choose(window, "Copia i risultati");
+    EXPECT_THAT(QApplication::clipboard()->text().toStdString(), EndsWith("L1\t12,56\tm\nL2\t3,14\tm\n"));
+    choose(window, "Copia lo schizzo");
+    EXPECT_FALSE(QApplication::clipboard()->image().isNull());
+
+    casipart& special_cases = open_special_cases();
+    control<QTabWidget>(special_cases, "cartelle").setCurrentIndex(2);
+    control<QPushButton>(special_cases, "Calcola2").click();
+    choose(special_cases, "Copia i risultati");
+    EXPECT_EQ(QApplication::clipboard()->text(),
+              "Forza Fs esercitata dalla neve sull'ostacolo\t1,111\tkN/m\n");
+}
+
+TEST_F(MenusTest, LastReportOfEitherWindowIsOpened) {
+    const auto report = [this](const char* name) {
+        return QUrl::fromLocalFile(QString::fromStdString((directory.path() / name).string()));
+    };
+    dialogs.expect(Icon::error,
+                   "Nessuna relazione è stata scritta da quando il programma è aperto: selezionare «Crea "
+                   "relazione» e premere «Calcola».");
+    choose(window, "Apri l'ultima relazione");
+    click("Check1Box");
+    dialogs.expect(Icon::none, "Creazione della relazione " + directory.text() + "\\coltre.txt effettuata");
+    click("Calcola");
+    choose(window, "Apri l'ultima relazione");
+    EXPECT_EQ(opened, report("coltre.txt"));
+
+    casipart& special_cases = open_special_cases();
+    control<QCheckBox>(special_cases, "Check1Box").setChecked(true);
+    dialogs.expect(Icon::none, "Creazione della relazione coltrecasipart.txt effettuata");
+    control<QPushButton>(special_cases, "Calcola2").click();
+    choose(window, "Apri l'ultima relazione");
+    EXPECT_EQ(opened, report("coltrecasipart.txt"));
+
+    const std::string path = (directory.path() / "coltrecasipart.txt").string();
+    desktop_has_program = false;
+    dialogs.expect(Icon::error,
+                   "Impossibile aprire il file " + path + ": il sistema non ha un programma per aprirlo.");
+    choose(special_cases, "Apri l'ultima relazione");
+    std::filesystem::remove(path);
+    dialogs.expect(Icon::error, "La relazione " + path + " non c'è più.");
+    choose(window, "Apri l'ultima relazione");
+}
+
+TEST_F(MenusTest, ManualOpensAtTheChapterOfTheOpenTab) {
+    const std::string place = directory.path().string();
+    dialogs.expect(Icon::error, "Il manuale non è installato: il file manuale.html non è né in " + place +
+                                    " né in " + place + "/../share/doc/coltre.");
+    QTest::keyClick(&window, Qt::Key_F1);
+    std::ofstream(directory.path() / "manuale.html") << "<html></html>";
+    QTest::keyClick(&window, Qt::Key_F1);
+    EXPECT_EQ(opened.fileName(), "manuale.html");
+
+    // Each chapter is a heading of the manual.
+    const std::string manual = read_file(COLTRE_MANUAL).value();
+    const auto heading_exists = [&] {
+        std::istringstream lines(manual);
+        for (std::string line; std::getline(lines, line);)
+            if (QString::fromStdString(line).toLower().replace(' ', '-') == "####-" + opened.fragment())
+                return true;
+        return false;
+    };
+    EXPECT_TRUE(heading_exists()) << opened.fragment().toStdString();
+    casipart& special_cases = open_special_cases();
+    for (const int page : {0, 1, 2}) {
+        control<QTabWidget>(special_cases, "cartelle").setCurrentIndex(page);
+        choose(special_cases, "Manuale");
+        EXPECT_TRUE(heading_exists()) << opened.fragment().toStdString();
+    }
+}
+
+TEST_F(MenusTest, AboutNamesVersionBuildAndMakerAndEsciEndsFromEitherWindow) {
+    std::string about =
+        "Coltre " + std::string(version_and_build()) +
+        "\r\rARCOVIA\rProgrammi di calcolo\rper l'ingegneria delle strutture\rVia Esempio 1 - "
+        "00000 Esempio (XX)\rTel. 000 0000000 - Fax 000 0000001\rwww.example.com\rinfo@example.com";
+    dialogs.expect(Icon::information, about);
+    choose(window, "Informazioni su Coltre");
+    casipart& special_cases = open_special_cases();
+    QApplication::setActiveWindow(&special_cases);
+    QTest::keyClick(&special_cases, Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_FALSE(window.isVisible());
+}
+
+}  // namespace
+}  // namespace coltre

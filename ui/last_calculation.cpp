@@ -1,0 +1,48 @@
+#include "ui/last_calculation.h"
+
+#include "document/html.h"
+#include "document/request_line.h"
+#include "platform/date.h"
+#include "version/version.h"
+
+namespace coltre {
+
+LastCalculation::LastCalculation(QWidget& main_window, UserDialogs& dialogs)
+    : m_main_window(main_window), m_dialogs(dialogs) {
+    m_choices.title_block.date = document_date();
+}
+
+void LastCalculation::keep(Subject subject) {
+    subject.program = "Coltre " + std::string(version_and_build());
+    subject.request = request_line(subject);
+    m_subject = std::move(subject);
+    if (m_steps != nullptr) m_steps->show_document(steps_document(*m_subject));
+}
+
+void LastCalculation::show_steps() {
+    if (m_steps == nullptr) {
+        m_steps = new StepsWindow(&m_main_window);
+        if (m_subject) m_steps->show_document(steps_document(*m_subject));
+    }
+    m_steps->show();
+    m_steps->raise();
+    m_steps->activateWindow();
+}
+
+void LastCalculation::write_report(QWidget* parent, const std::string& job_name) {
+    std::optional<ReportSource> source;
+    if (m_subject) {
+        if (m_choices.title_block.work.empty()) m_choices.title_block.work = job_name;
+        source = ReportSource{
+            .document = [this](const TitleBlock& title_block,
+                               Layout layout) { return illustrated_report(*m_subject, title_block, layout); },
+            .html = to_html,
+            .suggested_path =
+                [this](const TitleBlock& title_block) {
+                    return QString::fromStdString(suggested_file_name(*m_subject, title_block));
+                }};
+    }
+    ask_for_report(std::move(source), m_choices, m_dialogs, parent);
+}
+
+}  // namespace coltre

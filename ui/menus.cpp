@@ -1,0 +1,145 @@
+#include "ui/menus.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <QShortcut>
+
+#include "platform/files.h"
+#include "ui/maker.h"
+#include "ui/results_copy.h"
+#include "ui/window_setup.h"
+#include "version/version.h"
+
+namespace coltre {
+
+namespace {
+
+QString path_of(const std::string& suite_path) {
+    return QString::fromStdString(find_path(suite_path).string());
+}
+
+/// The heading of the manual that a calculation is under, as its page links to it.
+QString chapter(Kind kind) {
+    switch (kind) {
+        case Kind::level_change:
+            return "coperture-con-discontinuità-di-quota";
+        case Kind::wall:
+            return "pareti-verticali";
+        case Kind::snow_guard:
+            return "ostacoli-sulle-coperture";
+        default:
+            return "la-copertura";
+    }
+}
+
+}  // namespace
+
+const Menus::Entry Menus::entries[] = {
+    {"File", "Relazione illustrata…", "Ctrl+E", &Menus::write_illustrated_report},
+    {"File", "Apri l'ultima relazione", "", &Menus::open_last_report},
+    {"File", "Esci", "Ctrl+Q", &Menus::end_program},
+    {"Modifica", "Copia i risultati", "Ctrl+Shift+C", &Menus::copy_results},
+    {"Modifica", "Copia lo schizzo", "", &Menus::copy_sketch},
+    {"Calcolo", "Passaggi del calcolo", "Ctrl+T", &Menus::show_steps},
+    {"Aiuto", "Manuale", "F1", &Menus::open_manual},
+    {"Aiuto", "Informazioni su Coltre", "", &Menus::show_about},
+};
+
+Menus::Menus(QWidget& main_window, const Program& program, LastCalculation& last_calculation,
+             UserDialogs& dialogs)
+    : QObject(&main_window),
+      open_file(QDesktopServices::openUrl),
+      m_main_window(main_window),
+      m_program(program),
+      m_last_calculation(last_calculation),
+      m_dialogs(dialogs) {}
+
+void Menus::add_to(QWidget& window, const std::function<CalculationTab&()>& open_tab) {
+    auto* const bar = new QMenuBar(&window);
+    QMenu* menu = nullptr;
+    for (const Entry& entry : entries) {
+        if (menu == nullptr || menu->title() != entry.menu) menu = bar->addMenu(entry.menu);
+        auto* const action = menu->addAction(entry.text);
+        action->setShortcut(QKeySequence(entry.keys));
+        connect(action, &QAction::triggered, this,
+                [this, &entry, open_tab] { (this->*entry.chosen)(open_tab()); });
+    }
+    connect(new QShortcut(Qt::Key_F10, &window), &QShortcut::activated, bar,
+            [bar] { bar->setActiveAction(bar->actions().constFirst()); });
+    window.layout()->setMenuBar(bar);
+    window.resize(window.width(), window.height() + bar->sizeHint().height());
+    fit_to_screen(window);
+}
+
+void Menus::remember_report(const std::string& suite_path) {
+    if (!suite_path.empty()) m_last_report = suite_path;
+}
+
+void Menus::show_error(const QString& text) {
+    m_dialogs.show({Icon::error, std::string(program_title), text.toStdString()});
+}
+
+void Menus::open(const QUrl& file) {
+    if (!open_file(file))
+        show_error(tr("Impossibile aprire il file %1: il sistema non ha un programma per aprirlo.")
+                       .arg(file.toLocalFile()));
+}
+
+void Menus::write_illustrated_report(const CalculationTab& /*open_tab*/) {
+    m_last_calculation.write_report(QApplication::activeWindow(), m_program.directories.JobName);
+}
+
+void Menus::show_steps(const CalculationTab& /*open_tab*/) {
+    m_last_calculation.show_steps();
+}
+
+void Menus::open_last_report(const CalculationTab& /*open_tab*/) {
+    if (m_last_report.empty())
+        return show_error(
+            tr("Nessuna relazione è stata scritta da quando il programma è aperto: selezionare «Crea "
+               "relazione» e premere «Calcola»."));
+    const QString path = path_of(m_last_report);
+    if (!QFileInfo::exists(path)) return show_error(tr("La relazione %1 non c'è più.").arg(path));
+    open(QUrl::fromLocalFile(path));
+}
+
+void Menus::end_program(const CalculationTab& /*open_tab*/) {
+    m_main_window.close();
+}
+
+void Menus::copy_results(const CalculationTab& open_tab) {
+    const std::vector<ShownResult> results = open_tab.shown_results();
+    if (results.empty()) return show_error(tr("Non ci sono risultati da copiare: premere «Calcola»."));
+    QApplication::clipboard()->setMimeData(copied(results).release());
+}
+
+void Menus::copy_sketch(const CalculationTab& open_tab) {
+    open_tab.sketch_widget().copy_picture();
+}
+
+void Menus::open_manual(const CalculationTab& open_tab) {
+    const QString program = path_of(m_program.directories.ProgramDirectory);
+    for (const char* place : {"/manuale.html", "/../share/doc/coltre/manuale.html"}) {
+        const QFileInfo manual(program + place);
+        if (!manual.exists()) continue;
+        QUrl url = QUrl::fromLocalFile(manual.canonicalFilePath());
+        url.setFragment(chapter(open_tab.kind()));
+        return open(url);
+    }
+    show_error(
+        tr("Il manuale non è installato: il file manuale.html non è né in %1 né in %1/../share/doc/coltre.")
+            .arg(program));
+}
+
+void Menus::show_about(const CalculationTab& /*open_tab*/) {
+    const std::string text = "Coltre " + std::string(version_and_build()) + "\r\r" + maker_text();
+    m_dialogs.show({Icon::information, std::string(program_title), text});
+}
+
+}  // namespace coltre

@@ -1,0 +1,28 @@
+#include "ui/results_copy.h"
+
+#include "platform/environment.h"
+#include "text/number_text.h"
+
+namespace coltre {
+
+std::unique_ptr<QMimeData> copied(const std::vector<ShownResult>& results) {
+    QString text;
+    QString table = "<html><head><meta charset=\"utf-8\"></head><body><table>\n";
+    for (const ShownResult& it : results) {
+        const QString unit =
+            QString::fromUtf8(it.quantity.unit.data(), static_cast<qsizetype>(it.quantity.unit.size()));
+        QString number =
+            QString::fromStdString(display_number_text(round_half_even(it.value, it.quantity.decimals)))
+                .trimmed();
+        number.replace('.', user_decimal_separator());
+        text += it.meaning + '\t' + number + '\t' + unit + '\n';
+        table += "<tr><td>" + it.meaning.toHtmlEscaped() + "</td><td align=\"right\">" + number +
+                 "</td><td>" + unit + "</td></tr>\n";
+    }
+    auto data = std::make_unique<QMimeData>();
+    data->setText(text);
+    data->setHtml(table + "</table></body></html>");
+    return data;
+}
+
+}  // namespace coltre
