@@ -1,7 +1,5 @@
 #include "ui/document_look.h"
 
-#include <QFontMetricsF>
-
 #include "ui/sketch_painter.h"
 
 namespace coltre {
@@ -91,17 +89,7 @@ void paint_figure(QPainter& painter, const QRectF& target, const Figure& figure,
     palette.setColor(QPalette::Base, look.paper);
     const SketchPainter sketch(figure.drawing, target, {palette, look.font});
     sketch.paint(painter);
-    for (const LabelSlot& slot : figure.drawing.label_slots) {
-        const auto label = figure.labels.find(slot.name);
-        if (!slot.visible || label == figure.labels.end()) continue;
-        const QString number = QString::fromStdString(label->second).trimmed();
-        // Without a number the symbol and the unit beside it say nothing.
-        if (number.isEmpty()) continue;
-        const QFontMetricsF metrics(sketch.text_font(), painter.device());
-        const QRectF place = sketch.number_rect(slot, {metrics.horizontalAdvance(number), metrics.height()});
-        sketch.paint_slot(painter, slot, place);
-        painter.drawText(place, static_cast<int>(Qt::AlignCenter) | Qt::TextDontClip, number);
-    }
+    sketch.paint_numbers(painter, figure.labels);
 }
 
 }  // namespace coltre

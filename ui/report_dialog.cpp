@@ -1,6 +1,5 @@
 #include "ui/report_dialog.h"
 
-#include <QDate>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
@@ -86,7 +85,6 @@ ReportDialog::ReportDialog(ReportSource source, ReportChoices& choices, UserDial
     show(m_ui->elaborato, block.sheet);
     show(m_ui->revisione, block.revision);
     show(m_ui->data, block.date);
-    if (block.date.empty()) m_ui->data->setText(QDate::currentDate().toString(QStringLiteral("dd/MM/yyyy")));
     m_ui->contenuto->setCurrentIndex(static_cast<int>(choices.layout));
     m_ui->formato->setCurrentIndex(static_cast<int>(choices.format));
 

@@ -36,13 +36,7 @@ void paint_report(QPainter& painter, const QRectF& target, const Drawing& drawin
                   const QFont& font) {
     const SketchPainter sketch(drawing, target, {report_palette(), font});
     sketch.paint(painter);
-    for (const LabelSlot& slot : drawing.label_slots) {
-        const auto label = labels.find(slot.name);
-        // Without a number the symbol and the unit beside it say nothing.
-        if (!slot.visible || label == labels.end()) continue;
-        const QString number = QString::fromStdString(label->second).trimmed();
-        if (!number.isEmpty()) sketch.paint_number(painter, slot, number);
-    }
+    sketch.paint_numbers(painter, labels);
 }
 
 bool paint_pdf(QBuffer& buffer, const Drawing& drawing, const LabelTexts& labels, const QFont& font) {

@@ -156,4 +156,13 @@ void SketchPainter::paint_number(QPainter& painter, const LabelSlot& slot, const
     painter.drawText(place, static_cast<int>(Qt::AlignCenter) | Qt::TextDontClip, number);
 }
 
+void SketchPainter::paint_numbers(QPainter& painter, const LabelTexts& labels) const {
+    for (const LabelSlot& slot : m_drawing.label_slots) {
+        const auto label = labels.find(slot.name);
+        if (!slot.visible || label == labels.end()) continue;
+        const QString number = QString::fromStdString(label->second).trimmed();
+        if (!number.isEmpty()) paint_number(painter, slot, number);
+    }
+}
+
 }  // namespace coltre

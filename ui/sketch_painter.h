@@ -35,6 +35,10 @@ class SketchPainter {
     /// Paints a number in its slot, with the texts beside it.
     void paint_number(QPainter& painter, const LabelSlot& slot, const QString& number) const;
 
+    /// Paints the numbers of the slots that are shown and have one: without it the texts beside it say
+    /// nothing.
+    void paint_numbers(QPainter& painter, const LabelTexts& labels) const;
+
     /// The colour of the numbers.
     [[nodiscard]] QColor number_colour() const;
 
