@@ -7,7 +7,7 @@
 namespace coltre {
 
 /// A figure with its limit; the program that measures it is the only place where the limit stands.
-struct Figure {
+struct Measurement {
     const char* name;
     const char* unit;  ///< of `measured` and `reference`
     double measured;
@@ -16,7 +16,7 @@ struct Figure {
 };
 
 /// Prints the figure as one line: name, unit, measured, reference ("-" if none) and limit, separated by tabs.
-inline void print(const Figure& figure) {
+inline void print(const Measurement& figure) {
     std::printf("%s\t%s\t%.6g\t", figure.name, figure.unit, figure.measured);
     if (figure.reference) {
         std::printf("%.6g", *figure.reference);

@@ -71,9 +71,9 @@ void Form1::connect_controls() {
     connect(m_ui->TextCTermico, &QLineEdit::textChanged, this, &Form1::site_changed);
     connect(m_ui->ComboEsp, &QComboBox::currentIndexChanged, this, &Form1::site_changed);
     connect(this, &Form1::site_changed, this, &Form1::follow_inputs);
+    connect(m_ui->SSTab1, &QTabWidget::currentChanged, this, &Form1::follow_inputs);
     for (const auto& tab : m_tabs)
-        connect(tab.get(), &CalculationTab::typed, this, [this, &tab] { tab->follow(inputs(*tab)); });
-    follow_inputs();
+        connect(tab.get(), &CalculationTab::typed, this, &Form1::follow_inputs);
 }
 
 CalculationTab& Form1::open_tab() const {
@@ -89,8 +89,8 @@ Inputs Form1::inputs(const CalculationTab& tab) const {
 }
 
 void Form1::follow_inputs() {
-    for (const auto& tab : m_tabs)
-        tab->follow(inputs(*tab));
+    CalculationTab& tab = open_tab();
+    tab.follow(inputs(tab));
     m_ui->caricosuolo->set_stale(m_ground_load_of && *m_ground_load_of != site());
 }
 
@@ -138,6 +138,7 @@ bool Form1::load(std::string_view command_line, std::string_view own_directory) 
     m_ui->regione->setCurrentIndex(start.region_item);
     m_ui->OutputPerRit->setText(qt(display_number_text(m_program.cells.return_period)).trimmed());
     show_return_period_factor();
+    follow_inputs();
     m_menus.add_to(*this, [this]() -> CalculationTab& { return open_tab(); });
     return true;
 }

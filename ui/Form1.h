@@ -59,7 +59,7 @@ class Form1 : public QWidget {
 
     [[nodiscard]] CalculationTab& open_tab() const;
     [[nodiscard]] Inputs inputs(const CalculationTab& tab) const;
-    /// All sketches, and the ground load, for what is typed and chosen now.
+    /// The sketch of the open tab, and the ground load, for what is typed and chosen now.
     void follow_inputs();
 
     /// The factor in force stands under the return period: at the start it is 1, which the 50 years do not

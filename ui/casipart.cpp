@@ -46,13 +46,12 @@ casipart::casipart(Program& program, UserDialogs& dialogs, std::function<Inputs(
 
     m_tabs = make_tabs(Window::special_cases, *this, m_dialogs);
     for (const auto& tab : m_tabs)
-        connect(tab.get(), &CalculationTab::typed, this, [this, &tab] { tab->follow(inputs(*tab)); });
+        connect(tab.get(), &CalculationTab::typed, this, &casipart::follow_inputs);
     connect(m_ui->cartelle, &QTabWidget::currentChanged, this, &casipart::page_chosen);
     connect(m_ui->Check1Box, &QCheckBox::toggled, this, &casipart::report_switched);
     connect(m_ui->Calcola2, &QPushButton::clicked, this, &casipart::calculate_clicked);
     connect(m_ui->Chiudi2, &QPushButton::clicked, this, &casipart::close);
     page_chosen();
-    follow_inputs();
     report_switched();
     m_ui->h2input->setFocus();
     fit_to_screen(*this);
@@ -75,8 +74,8 @@ Inputs casipart::inputs(const CalculationTab& tab) const {
 }
 
 void casipart::follow_inputs() {
-    for (const auto& tab : m_tabs)
-        tab->follow(inputs(*tab));
+    CalculationTab& tab = open_tab();
+    tab.follow(inputs(tab));
 }
 
 void casipart::keyPressEvent(QKeyEvent* event) {
@@ -88,6 +87,7 @@ void casipart::keyPressEvent(QKeyEvent* event) {
 }
 
 void casipart::page_chosen() {
+    follow_inputs();
     const Kind kind = open_tab().kind();
     m_ui->Label78->setVisible(kind != Kind::wall);
     if (kind == Kind::level_change) {

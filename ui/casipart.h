@@ -29,7 +29,7 @@ class casipart : public QWidget {
                       std::function<void()> show_ground_load, QWidget* parent = nullptr);
     ~casipart() override;
 
-    /// All sketches for what is typed here and chosen in the main window now.
+    /// The sketch of the open page for what is typed here and chosen in the main window now.
     void follow_inputs();
 
     [[nodiscard]] CalculationTab& open_tab() const;

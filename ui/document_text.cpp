@@ -2,8 +2,10 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocumentWriter>
+#include <QTextLayout>
 #include <QTextTable>
 #include <QUrl>
 #include <QtEndian>
@@ -51,8 +53,10 @@ class TextWriter {
         Pieces formula = line.formula;
         for (Piece& piece : formula)
             break_before_equals(piece.text);
-        const double both = natural_width(formula, m_metrics) + natural_width(line.remark, m_metrics);
-        const bool side_by_side = both + between_columns <= m_flow.width;
+        Pieces both = formula;
+        both.insert(both.end(), line.remark.begin(), line.remark.end());
+        const bool side_by_side =
+            !line.remark.empty() && natural_width(both, m_metrics) + between_columns <= m_flow.width;
         QTextBlockFormat format = margins(0.1, 0.1);
         if (side_by_side) format.setTabPositions({QTextOption::Tab(m_flow.width, QTextOption::RightTab)});
         begin_block(format);
@@ -253,13 +257,14 @@ void fix_dates(QByteArray& zip) {
 
 }  // namespace
 
-std::unique_ptr<QTextDocument> flowing_text(const Document& document, const DocumentLook& look,
-                                            const Flow& flow) {
-    auto text = std::make_unique<QTextDocument>();
-    text->setUndoRedoEnabled(false);
-    text->setDefaultFont(look.font);
-    text->setMetaInformation(QTextDocument::DocumentTitle, QString::fromStdString(document.title));
-    TextWriter writer(*text, look, flow);
+void write_text(const Document& document, const DocumentLook& look, const Flow& flow, QTextDocument& text) {
+    text.clear();
+    text.setUndoRedoEnabled(false);
+    text.setDefaultFont(look.font);
+    text.setMetaInformation(QTextDocument::DocumentTitle, QString::fromStdString(document.title));
+    QTextCursor all(&text);
+    all.beginEditBlock();  // lines are made once, at the end
+    TextWriter writer(text, look, flow);
     const auto note = [&](const std::string& line) {
         if (flow.into_file && !line.empty()) writer(Paragraph{{{line, Style::note}}});
     };
@@ -267,17 +272,21 @@ std::unique_ptr<QTextDocument> flowing_text(const Document& document, const Docu
     for (const Block& block : document.blocks)
         std::visit(writer, block);
     note(document.page_footer);
-    return text;
+    // The letters placed for the lines are kept until they are painted.
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next())
+        block.layout()->setCacheEnabled(true);
+    all.endEditBlock();
 }
 
 QByteArray to_odt(const Document& document) {
     const SameOrder same_order;
-    const auto text = flowing_text(document, paper_look(),
-                                   {.width = paper_width, .dots = 200 / screen_dpi, .into_file = true});
+    QTextDocument text;
+    write_text(document, paper_look(), {.width = paper_width, .dots = 200 / screen_dpi, .into_file = true},
+               text);
     QByteArray content;
     QBuffer buffer(&content);
     buffer.open(QIODevice::WriteOnly);
-    if (!QTextDocumentWriter(&buffer, "ODF").write(text.get())) return {};
+    if (!QTextDocumentWriter(&buffer, "ODF").write(&text)) return {};
     fix_dates(content);
     return content;
 }

@@ -2,7 +2,6 @@
 
 #include <QByteArray>
 #include <QTextDocument>
-#include <memory>
 
 #include "document/document.h"
 #include "ui/document_look.h"
@@ -18,11 +17,10 @@ struct Flow {
     bool into_file = false;
 };
 
-/// The document as a text that flows. The remark of a formula line stands at the right, below the formula
-/// where there is no room; figures are pictures. In a file the header stands before it and the footer behind
-/// it: Qt's writer of ODT files knows no others.
-std::unique_ptr<QTextDocument> flowing_text(const Document& document, const DocumentLook& look,
-                                            const Flow& flow);
+/// Writes the document anew into a text that flows. The remark of a formula line stands at the right, below
+/// the formula where there is no room; figures are pictures. In a file the header stands before it and the
+/// footer behind it: Qt's writer of ODT files knows no others.
+void write_text(const Document& document, const DocumentLook& look, const Flow& flow, QTextDocument& text);
 
 /// The document as an ODT file, which word processors open: A4, the figures as pictures of 200 dots an inch.
 /// The same document gives the same bytes.

@@ -77,6 +77,7 @@ ReportDialog::ReportDialog(ReportSource source, ReportChoices& choices, UserDial
     const TitleBlock& block = choices.title_block;
     const auto show = [](QLineEdit* field, const std::string& text) {
         field->setText(QString::fromStdString(text));
+        field->setCursorPosition(0);
     };
     show(m_ui->lavoro, block.work);
     show(m_ui->committente, block.client);

@@ -24,9 +24,7 @@ StepsWindow::StepsWindow(QWidget* parent)
     connect(m_ui->chiudi, &QPushButton::clicked, this, &StepsWindow::close);
 }
 
-StepsWindow::~StepsWindow() {
-    m_ui->passaggi->setDocument(nullptr);  // the shown one goes first
-}
+StepsWindow::~StepsWindow() = default;
 
 void StepsWindow::show_document(const Document& document) {
     m_document = document;
@@ -38,12 +36,12 @@ void StepsWindow::show_document(const Document& document) {
 void StepsWindow::redraw() {
     if (!m_document) return;
     const DocumentLook look{font(), palette().color(QPalette::Text), palette().color(QPalette::Base)};
-    auto text = flowing_text(*m_document, look, {.width = line_width(), .dots = devicePixelRatioF()});
     m_drawn_width = line_width();
     QScrollBar* const bar = m_ui->passaggi->verticalScrollBar();
     const int height = bar->value();
-    m_ui->passaggi->setDocument(text.get());
-    m_text = std::move(text);
+    write_text(*m_document, look, {.width = m_drawn_width, .dots = devicePixelRatioF()},
+               *m_ui->passaggi->document());
+    m_ui->passaggi->moveCursor(QTextCursor::Start);
     bar->setValue(height);
 }
 

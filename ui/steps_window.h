@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDialog>
-#include <QTextDocument>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -43,7 +42,6 @@ class StepsWindow : public QDialog {
 
     std::unique_ptr<Ui::StepsWindow> m_ui;
     std::optional<Document> m_document;  // nothing before the first calculation
-    std::unique_ptr<QTextDocument> m_text;
     double m_drawn_width = 0;
 };
 

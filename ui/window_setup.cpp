@@ -70,14 +70,17 @@ QWidget& let_contents_scroll(QWidget& window) {
 }
 
 void fit_to_screen(QWidget& window) {
-    const auto& area = *window.findChild<QScrollArea*>();
     constexpr QSize frame(10, 48);  // of the window manager: it is not known before the window is shown
     const QSize room = window.screen()->availableSize() - frame;
-    QSize wanted = window.size().expandedTo(area.widget()->minimumSizeHint());
-    // A scroll bar takes room from the other direction.
-    const bool too_high = wanted.height() > room.height();
-    if (wanted.width() > room.width()) wanted.rheight() += area.horizontalScrollBar()->sizeHint().height();
-    if (too_high) wanted.rwidth() += area.verticalScrollBar()->sizeHint().width();
+    QSize wanted = window.size();
+    if (const auto* const area = window.findChild<QScrollArea*>()) {
+        wanted = wanted.expandedTo(area->widget()->minimumSizeHint());
+        // A scroll bar takes room from the other direction.
+        const bool too_high = wanted.height() > room.height();
+        if (wanted.width() > room.width())
+            wanted.rheight() += area->horizontalScrollBar()->sizeHint().height();
+        if (too_high) wanted.rwidth() += area->verticalScrollBar()->sizeHint().width();
+    }
     window.resize(wanted.boundedTo(room));
 }
 

@@ -1,0 +1,91 @@
+// How long the illustrated report takes as PDF, beside a plain text of as many characters that the same
+// library puts on pages, and the window of the steps to show those of the next calculation. On the offscreen
+// platform.
+
+#include <QApplication>
+#include <QBuffer>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QTextBrowser>
+#include <QTextDocument>
+#include <algorithm>
+#include <ctime>
+#include <vector>
+
+#include "bench/figure.h"
+#include "tests/support/sample_document.h"
+#include "ui/document_copy.h"
+#include "ui/document_pdf.h"
+#include "ui/steps_window.h"
+
+namespace {
+
+using namespace coltre;
+
+constexpr double at_most_of_plain_text = 4;
+constexpr double steps_at_most_ms = 5;
+
+/// Milliseconds of processor time: what other programs take meanwhile does not count.
+template <typename Action>
+double time_of(const Action& act) {
+    const std::clock_t begin = std::clock();
+    act();
+    return 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+}
+
+void print_plain_text(const QString& text) {
+    QTextDocument document;
+    document.setPlainText(text);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    document.print(&writer);
+}
+
+double median(std::vector<double>& times) {
+    std::ranges::nth_element(times, times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2));
+    return times[times.size() / 2];
+}
+
+void measure_pdf() {
+    const Document report = sample_report();
+    const QString text = copied_text(report);
+    constexpr int runs = 21;
+    std::vector<double> pages, plain_text;
+    for (int i = 0; i < runs; ++i) {
+        pages.push_back(time_of([&] { static_cast<void>(to_pdf(report)); }));
+        plain_text.push_back(time_of([&] { print_plain_text(text); }));
+    }
+    print({"illustrated report as PDF", "ms", median(pages), median(plain_text), at_most_of_plain_text});
+}
+
+void measure_steps() {
+    const Document steps = sample_steps();
+    StepsWindow window;
+    window.show();
+    window.show_document(steps);  // loads the fonts
+    QApplication::processEvents();
+    auto* const page = window.findChild<QTextBrowser*>("passaggi")->viewport();
+    constexpr int runs = 101;
+    double slowest = 0;
+    for (int i = 0; i < runs; ++i) {
+        slowest = std::max(slowest, time_of([&] {
+                               window.show_document(steps);
+                               page->repaint();
+                           }));
+        QApplication::processEvents();
+    }
+    print({"steps shown anew, slowest", "ms", slowest, std::nullopt, steps_at_most_ms});
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "*.warning=false");  // what this platform cannot do
+    QApplication application(argc, argv);
+    measure_pdf();
+    measure_steps();
+    return 0;
+}
