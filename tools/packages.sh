@@ -5,7 +5,7 @@ program_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base
     cmark-gfm)
 
 # To run all checks besides.
-check_packages=(libgtest-dev libgmock-dev libbenchmark-dev locales clang-format xvfb xdotool imagemagick git
+check_packages=(libgtest-dev libgmock-dev libbenchmark-dev locales clang-format clang-tidy xvfb xdotool imagemagick git
     desktop-file-utils appstream mandoc)
 
 # For tools/fuzz, besides those of the program.
