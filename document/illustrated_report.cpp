@@ -77,6 +77,8 @@ class Writer {
 
     Document take() { return std::move(m_document); }
 
+    /// Without a summary, which is section 0, the sections count from 1.
+    void count_from_1() { m_section = 1; }
     void title();
     void summary();
     void references();
@@ -100,7 +102,7 @@ class Writer {
     }
     /// A section's heading, numbered as the sections come.
     void section(std::string_view text) {
-        heading(2, std::to_string(++m_section) + "  " + std::string(text));
+        heading(2, std::to_string(m_section++) + "  " + std::string(text));
     }
     void paragraph(Pieces pieces) { m_document.blocks.emplace_back(Paragraph{std::move(pieces)}); }
     void note(std::string text) { paragraph({{std::move(text), Style::note}}); }
@@ -131,7 +133,7 @@ class Writer {
     const Description& m_calculation;
     ProgramCells m_cells;  // the results
     Document m_document;
-    int m_section = -1;  // the summary is section 0
+    int m_section = 0;
     int m_figure = 0;
 };
 
@@ -521,6 +523,7 @@ Document illustrated_report(const Subject& subject, const TitleBlock& title_bloc
     Writer write(subject, title_block);
     const Kind kind = subject.fields.kind;
     if (layout == Layout::steps_alone) {
+        write.count_from_1();
         write.stop();
     } else {
         write.title();

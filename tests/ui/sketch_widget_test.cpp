@@ -137,7 +137,10 @@ class LevelChangeWindow : public WindowTest {};
 TEST_F(LevelChangeWindow, TheDriftLengthComesAndGoesWithACalculationAlone) {
     program.cells.zone = 2;
     casipart window(
-        program, dialogs, [] { return Fields{.asinput = "200", .ComboEsp = "1.0", .TextCTermico = "1.0"}; },
+        program, dialogs,
+        [] {
+            return Inputs{{.asinput = "200", .ComboEsp = "1.0", .TextCTermico = "1.0"}, 2};
+        },
         [] {});
     tested = &window;
     window.show();
