@@ -13,6 +13,9 @@
 #include <vector>
 
 #include "bench/figure.h"
+#include "calculate/Calcola.h"
+#include "document/html.h"
+#include "document/illustrated_report.h"
 #include "tests/support/sample_document.h"
 #include "ui/document_copy.h"
 #include "ui/document_pdf.h"
@@ -24,6 +27,7 @@ using namespace coltre;
 
 constexpr double at_most_of_plain_text = 4;
 constexpr double steps_at_most_ms = 5;
+constexpr double html_at_most_ms = 3;
 
 /// Milliseconds of processor time: what other programs take meanwhile does not count.
 template <typename Action>
@@ -60,6 +64,25 @@ void measure_pdf() {
     print({"illustrated report as PDF", "ms", median(pages), median(plain_text), at_most_of_plain_text});
 }
 
+/// The whole document of a roof of two pitches, from its calculation to its bytes.
+void measure_html() {
+    Program program;
+    Subject subject;
+    subject.fields = {.asinput = "239",
+                      .ComboEsp = "1.0",
+                      .TextCTermico = "1.0",
+                      .kind = Kind::two_pitches,
+                      .entries = {"20", "40"},
+                      .traced = true};
+    subject.outcome = Calcola(subject.fields, program);
+    constexpr int runs = 101;
+    std::vector<double> times;
+    for (int i = 0; i < runs; ++i)
+        times.push_back(
+            time_of([&] { static_cast<void>(to_html(illustrated_report(subject, {}, Layout::complete))); }));
+    print({"illustrated report as HTML", "ms", median(times), std::nullopt, html_at_most_ms});
+}
+
 void measure_steps() {
     const Document steps = sample_steps();
     StepsWindow window;
@@ -85,6 +108,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_LOGGING_RULES", "*.warning=false");  // what this platform cannot do
     QApplication application(argc, argv);
+    measure_html();
     measure_pdf();
     measure_steps();
     return 0;
