@@ -14,10 +14,10 @@ struct AltitudeNotice {
 std::optional<AltitudeNotice> altitude_notice(const Fields& fields);
 
 /// A click on `Calcola`: ground load, unit system, heading of the report, load cases of the roof, end of the
-/// report. Results go into the program's cells, coltre.txt into its WorkDirectory. Told: a cylindrical roof
-/// that cannot be, the report written or not written, and any fault that stops the calculation; all that was
-/// computed before it stays. Deliberate: an altitude above 1500 m counts as typed; only a later click reads
-/// what altitude_notice() puts into its field.
+/// report. Results go into the program's cells, coltre.txt into its WorkDirectory. Reported: a cylindrical
+/// roof that cannot be, the report written or not written, and any fault that stops the calculation; all that
+/// was computed before it stays. Deliberate: an altitude above 1500 m counts as typed; only a later click
+/// reads what altitude_notice() puts into its field.
 Outcome Calcola(const Fields& fields, Program& program);
 
 /// New texts of the labels that show the widths of a cylindrical roof as soon as these are known, also where

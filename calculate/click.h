@@ -30,7 +30,7 @@ struct Fields {
 
 /// What a click leaves besides the program cells.
 struct Outcome {
-    Messages messages;          ///< what the user is to be told, in order
+    Messages messages;          ///< to be shown, in order
     Fault fault = Fault::none;  ///< why the calculation stopped; Fault::none if it ran to its end
     /// Why the report could not be written, which is among the messages; empty if it could.
     std::string file_failure;
@@ -79,9 +79,9 @@ std::optional<Stop> set_base_load(ProgramCells& cells, double altitude, Outcome&
 std::optional<Stop> apply_coefficients(ProgramCells& cells, double CE, double Ct, Outcome& outcome);
 
 /// What follows the ground load in both clicks: unit system, heading of the report if one is wanted, the
-/// calculation of the entries, its section, and the report put in place. A stop is told with its reason; what
-/// it left of the report is put in place without a word. A whole report is confirmed, one that cannot be
-/// written is told; one that cannot be created stops the click before anything is calculated.
+/// calculation of the entries, its section, and the report put in place. A stop is reported with its reason;
+/// what it left of the report is put in place without a word. A whole report is confirmed, one that cannot be
+/// written is reported; one that cannot be created stops the click before anything is calculated.
 void calculate_and_report(const Fields& fields, const ReportWriter& writer, Program& program,
                           Outcome& outcome);
 

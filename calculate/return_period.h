@@ -15,13 +15,13 @@ Message return_period_question();
 
 /// What a click on `OkPerRit` leaves besides the cells.
 struct ReturnPeriodOutcome {
-    std::optional<Message> message;           ///< what the user is to be told
+    std::optional<Message> message;           ///< to be shown
     std::optional<std::string> OutputPerRit;  ///< new text of the label; nothing if the dialog stays open
     Fault fault = Fault::none;                ///< the number, or its factor, is beyond the range of numbers
 };
 
 /// A click on `OkPerRit` reads the return period leniently into its cell at once, before any
-/// check, then sets the return period factor. A return period of 0 or less, or of up to 1 year, is told
+/// check, then sets the return period factor. A return period of 0 or less, or of up to 1 year, is refused
 /// and leaves the factor as it was, though the cell keeps it: deliberate, a report written now
 /// prints it.
 ReturnPeriodOutcome confirm_return_period(std::string_view InputPerRIT, ProgramCells& cells);

@@ -90,7 +90,7 @@ struct Choice {
     std::string batch_file = "-";
     std::string altitude_directory;
     std::function<std::string()> help = general_help;
-    std::string mistake;  ///< in the use of an option
+    std::string usage_error;
     std::function<int()> action;
 };
 
@@ -104,7 +104,7 @@ void add_options(CLI::App& command, const Description& calculation, Choice& choi
         }
         const auto take = [&choice, key](const std::vector<std::string>& values) {
             if (values.size() > 1)
-                choice.mistake = "l'opzione --" + std::string(key.name) + " è data più volte";
+                choice.usage_error = "l'opzione --" + std::string(key.name) + " è data più volte";
             choice.request.set(key, values.front());
         };
         command.add_option_function<std::vector<std::string>>("--" + std::string(key.name), take)
@@ -141,7 +141,7 @@ std::vector<std::string> split_assignments(std::span<const std::string> argument
 }
 
 /// An Italian sentence for arguments that cannot be taken apart.
-std::string usage_mistake(const CLI::ParseError& error) {
+std::string parse_error_text(const CLI::ParseError& error) {
     const std::string text = error.what();
     const std::string option = text.substr(0, text.find(':'));
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return "manca il valore di " + option;
@@ -185,7 +185,7 @@ int run(std::span<const std::string> arguments, const Environment& environment, 
         CLI::App& action = add_subcommand(altitudes, name, choice, altitudes_help);
         action.add_option("dir", choice.altitude_directory);
         action.callback([&choice, &streams, command] {
-            if (choice.altitude_directory.empty()) choice.mistake = "la cartella è vuota";
+            if (choice.altitude_directory.empty()) choice.usage_error = "la cartella è vuota";
             choice.action = [&choice, &streams, command] {
                 return check_output(streams.out, streams.err,
                                     command(choice.altitude_directory, streams.out, streams.err));
@@ -207,12 +207,12 @@ int run(std::span<const std::string> arguments, const Environment& environment, 
         out << version.what() << '\n';
         return check_output(out, err, all_well);
     } catch (const CLI::ParseError& error) {
-        return complain(err, usage_mistake(error));
+        return complain(err, parse_error_text(error));
     }
     if (const auto extras = app.remaining(true); !extras.empty()) {
         return complain(err, "argomento sconosciuto: " + in_quotes(extras.front()));
     }
-    if (!choice.mistake.empty()) return complain(err, choice.mistake);
+    if (!choice.usage_error.empty()) return complain(err, choice.usage_error);
     if (!choice.action) {
         return complain(
             err, altitudes.parsed() ? "manca il comando: scrivi, verifica o ripara" : "manca il calcolo");

@@ -25,7 +25,7 @@ struct Subject {
     std::string request;  ///< the request of the command that gives the same, one line of JSON
 };
 
-/// How much of it is told.
+/// How much of it is written.
 enum class Layout {
     complete,    ///< "Completa": all sections
     brief,       ///< "Sintetica": summary, data, load arrangements, figures

@@ -125,7 +125,8 @@ Drawing cylindrical_sketch(const Entries& entries, const ProgramCells* loads) {
     add_slot(drawing, "carico_13", {asymmetric.centre() + between, top_row}, Align::centre, "qs =", "kN/m²");
     add_slot(drawing, "L1output", {uniform.centre(), zone_row}, Align::centre, "L1 =", "m");
     // The quarter is too short for it.
-    add_slot(drawing, "L2output", {zone2 - 140, zone_line}, Align::right, "L2 =", "m");
+    add_slot(drawing, "L2output", {zone2 - 140, zone_line}, Align::right,
+             "L2 =", "");  // its label has the unit
     add_slot(drawing, "spor_8", {80, eaves_row}, Align::left, "qe =", "kN/m");
     add_slot(drawing, "spor_8", {uniform.right() + 190, eaves_row}, Align::centre, "qe =", "kN/m");
     add_slot(drawing, "spor_9", {asymmetric.left - 80, eaves_row}, Align::centre, "qe =", "kN/m");

@@ -85,10 +85,10 @@ std::vector<std::pair<Point, Point>> hatch_lines(const std::vector<Point>& polyg
     if (polygon.empty()) return pieces;
     // Lines x + y = c: where one crosses the outline, by turns, it enters and leaves.
     const auto offset = [](Point p) { return p.x + p.y; };
-    const auto [lowest, highest] = std::ranges::minmax(polygon, {}, offset);
-    const double last = offset(highest);
+    const auto [lowest, highest] = std::ranges::minmax_element(polygon, {}, offset);
+    const double last = offset(*highest);
     std::vector<Point> crossings;
-    for (double c = offset(lowest) + spacing / 2; c < last; c += spacing) {
+    for (double c = offset(*lowest) + spacing / 2; c < last; c += spacing) {
         crossings.clear();
         for (std::size_t i = 0; i < polygon.size(); ++i) {
             const Point a = polygon[i];

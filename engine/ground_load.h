@@ -8,7 +8,7 @@
 // Source: Decree of 16 January 1996; circular of 4 July 1996.
 namespace coltre {
 
-/// Above this altitude, m, the local conditions decide and the user is told; the load is still computed from
+/// Above this altitude, m, the local conditions decide, which a message says; the load is still computed from
 /// the altitude as typed.
 inline constexpr double highest_regulated_altitude = 1500;
 

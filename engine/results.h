@@ -5,7 +5,7 @@
 
 #include "engine/program_cells.h"
 
-// The result cells under the names that users see. Results are told apart by the address of their row: the
+// The result cells under the names that users see. Results are distinguished by the address of their row: the
 // two drifts share their names.
 namespace coltre {
 

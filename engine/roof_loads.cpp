@@ -26,7 +26,7 @@ Number set_mu1(Run<Number>& run, Symbol symbol, const Number& alfa) {
 /// The roof load of a coefficient, and the coefficient under the label of its load case.
 template <typename Number>
 Number set_roof_load(Run<Number>& run, std::string_view label, const ResultCell& result, const Number& mu) {
-    const Number qs = run.set(result, mu * run.stored(&ProgramCells::qsk, "qsk"));
+    Number qs = run.set(result, mu * run.stored(&ProgramCells::qsk, "qsk"));
     run.coefficient(label, mu);
     return qs;
 }

@@ -98,7 +98,7 @@ bool was_just_written(const system_files::State& state) {
 fs::path find_path(std::string_view suite_path) {
     std::string text(suite_path);
     std::ranges::replace(text, '\\', '/');
-    const fs::path written(text);
+    fs::path written(text);
     if (may_be_there(written)) return written;
 
     fs::path found = written.root_path();

@@ -22,7 +22,7 @@ struct Message {
     bool operator==(const Message&) const = default;
 };
 
-/// What the user is to be told, in order. Whoever runs the core shows it: a window, the command, a test.
+/// What is to be shown to the user, in order. Whoever runs the core shows it: a window, the command, a test.
 using Messages = std::vector<Message>;
 
 }  // namespace coltre

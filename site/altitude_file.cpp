@@ -106,7 +106,7 @@ Failure create_altitude_file(std::string_view ProgramDirectory, std::string_view
     const fs::path file = find_path(altitude_file_name(ProgramDirectory));
     FileReplacement replacement(file, Outlives::power_failure);
     replacement.write(bytes);
-    const Failure failure = replacement.commit_as_new();
+    Failure failure = replacement.commit_as_new();
     Entry entry;
     if (failure && system_files::look_at(file, entry) == 0 && entry.kind == Entry::Kind::file)
         return std::nullopt;

@@ -243,7 +243,8 @@ class PdfPages {
         }
         for (Row& cells : rows) {
             lay_out(cells, table.columns, *frame);
-            add({cells.height, gap, false, repeated},
+            const double height = cells.height;
+            add({height, gap, false, repeated},
                 [frame, repeated, cells = std::move(cells)](QPainter& painter, const Place& place) {
                     if (place.begins_page && repeated > 0)
                         frame->paint(painter, frame->header, place.top - repeated, true);

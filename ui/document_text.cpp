@@ -80,6 +80,8 @@ class TextWriter {
         QTextTableFormat format;
         format.setCellSpacing(0);
         format.setCellPadding(cell_padding);
+        format.setTopMargin(2 * mm);
+        format.setBottomMargin(2 * mm);
         format.setBorder(1);
         format.setBorderCollapse(true);
         format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
@@ -178,11 +180,13 @@ class TextWriter {
     }
 
     [[nodiscard]] std::vector<double> natural_widths(const Table& table) const {
+        constexpr double other_fonts = 1.15;  // that stand in for a missing one may be wider
         const QFontMetricsF metrics = measures(true);
         std::vector<double> widths(table.columns.size());
         const auto widen = [&](const std::vector<Pieces>& cells) {
             for (std::size_t i = 0; i < cells.size(); ++i)
-                widths[i] = std::max(widths[i], natural_width(cells[i], metrics) + 2 * cell_padding + mm);
+                widths[i] =
+                    std::max(widths[i], other_fonts * natural_width(cells[i], metrics) + 2 * cell_padding);
         };
         widen(table.header);
         for (const auto& cells : table.rows)

@@ -66,7 +66,7 @@ class ReportDialog : public QDialog {
 };
 
 /// Has the user save a report; returns when the dialog is closed.
-/// @param source  nothing before the first calculation: the user is told so
+/// @param source  nothing before the first calculation: a message says so
 void ask_for_report(std::optional<ReportSource> source, ReportChoices& choices, UserDialogs& dialogs,
                     QWidget* parent);
 

@@ -14,7 +14,7 @@ class SiteList : public QComboBox {
   public:
     explicit SiteList(QWidget* parent = nullptr);
 
-    /// Replaces the entries. None is selected, and nothing is told.
+    /// Replaces the entries. None is selected, and no signal is sent.
     void fill(std::span<const std::string> entries);
 
     /// The selected entry as the core takes it; empty if there is none.

@@ -44,10 +44,10 @@ class SketchWidget : public QWidget {
     /// A file dialog unless replaced.
     std::function<QString(const QString& title, const QString& suggested, const QString& filter)> ask_file;
 
-    /// How the user is told of an error. A message box "Coltre" unless replaced.
+    /// How an error is shown. A message box "Coltre" unless replaced.
     std::function<void(const QString& text)> report_error;
 
-    /// Saves the picture with the texts of its labels; the user is told if that fails.
+    /// Saves the picture with the texts of its labels; a message says if that fails.
     /// @return true if the file is written
     bool save(const QString& path, PictureFormat format);
 

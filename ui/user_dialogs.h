@@ -4,7 +4,7 @@
 
 namespace coltre {
 
-/// The windows' door to the user: message boxes on the screen, or whatever stands in for them.
+/// How the windows speak to the user: message boxes on the screen, or whatever stands in for them.
 class UserDialogs {
   public:
     virtual ~UserDialogs() = default;

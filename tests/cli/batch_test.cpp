@@ -2,9 +2,9 @@
 
 #include <streambuf>
 
-#include "text/json_text.h"
 #include "tests/cli/run_command.h"
 #include "tests/support/temporary_directory.h"
+#include "text/json_text.h"
 
 namespace coltre::cli {
 namespace {
