@@ -1,6 +1,5 @@
 #include "drawings/sketches.h"
 
-#include <ranges>
 
 #include "drawings/case_sketches.h"
 #include "drawings/drawing_parts.h"
@@ -37,8 +36,9 @@ void mark_as_pending(Drawing& drawing) {
 }
 
 void add_notes(Drawing& drawing, std::span<const std::string> notes) {
-    for (const std::string& note : std::views::reverse(notes))
-        add_row_above(drawing, note);
+    // The last note stands lowest.
+    for (std::size_t i = notes.size(); i > 0; --i)
+        add_row_above(drawing, notes[i - 1]);
 }
 
 bool drift_lies_on_roof(const Entries& entries, const ProgramCells& loads) {
