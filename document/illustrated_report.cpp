@@ -55,6 +55,12 @@ std::string with_unit(double value, const Quantity& quantity) {
     return text;
 }
 
+/// What was typed and what was read of it, where the two are not the same; empty where they are.
+std::string reading(const std::string& typed, double read) {
+    if (read_leniently(typed).wholly_understood) return {};
+    return " (scritto «" + typed + "», letto " + number_text(read) + ")";
+}
+
 bool is_roof(Kind kind) {
     return describe(kind).window == Window::main;
 }
@@ -255,7 +261,8 @@ void Writer::data() {
     row("Zona", zone_name(m_subject.zone) +
                     (m_subject.zone_of_province ? ", assegnata per provincia" : ", scelta dal progettista"));
     if (m_subject.outcome.altitude) {
-        std::string altitude = number_text(*m_subject.outcome.altitude) + " m";
+        const double as = *m_subject.outcome.altitude;
+        std::string altitude = number_text(as) + " m" + reading(m_subject.fields.asinput, as);
         if (!m_subject.listed_altitude.empty()) {
             const double listed = read_leniently(m_subject.listed_altitude).value;
             altitude +=
@@ -266,8 +273,11 @@ void Writer::data() {
         row("Altitudine as", altitude);
     }
     for (const Datum& datum : trace().data) {
-        if (datum.symbol == "CE") row("Coefficiente di esposizione CE", number_text(datum.value));
-        if (datum.symbol == "Ct") row("Coefficiente termico Ct", number_text(datum.value));
+        if (datum.symbol == "CE")
+            row("Coefficiente di esposizione CE",
+                number_text(datum.value) + reading(datum.text, datum.value));
+        if (datum.symbol == "Ct")
+            row("Coefficiente termico Ct", number_text(datum.value) + reading(datum.text, datum.value));
     }
     row("Periodo di ritorno",
         m_subject.confirmed_return_period
@@ -279,8 +289,7 @@ void Writer::data() {
         const std::string& typed = m_subject.fields.entries[i++];
         const double number = entries().*entry.number;
         std::string text = number_text(number) + " " + std::string(entry.unit);
-        if (entry.reading == Reading::lenient && !read_leniently(typed).wholly_understood)
-            text += " (scritto «" + typed + "», letto " + number_text(number) + ")";
+        if (entry.reading == Reading::lenient) text += reading(typed, number);
         row(plain_text(symbol_text(entry.symbol)) + " — " + std::string(entry.meaning), text);
     }
     table(std::move(rows));

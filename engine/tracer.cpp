@@ -28,7 +28,7 @@ Traced Tracer::step(Symbol symbol, Quantity quantity, const Traced& value) {
               .fault = value.fault(),
               .condition = m_condition.symbols,
               .condition_numbers = m_condition.numbers,
-              .governs = value.governs(),
+              .governs = value.fault() == Fault::none ? value.governs() : std::string(),
               .quantity = quantity,
               .source = m_source};
     if (value.fault() == Fault::none) step.value = value.value();
