@@ -1,6 +1,5 @@
 #include "drawings/sketches.h"
 
-
 #include "drawings/case_sketches.h"
 #include "drawings/drawing_parts.h"
 #include "engine/calculation.h"
