@@ -30,14 +30,14 @@ std::string request_lines(std::string (*request)(long)) {
 /// A directory with the built-in table, from which the requests by name read.
 struct Table {
     TemporaryDirectory directory;
-    cli::Environment environment{.own_directory = directory.text()};
+    Environment environment{.own_directory = directory.text()};
 
     Table() {
         if (replace_altitude_file(directory.text(), built_in_altitude_file()).failure) std::abort();
     }
 };
 
-std::string batch_results(const std::string& requests, const cli::Environment& environment) {
+std::string batch_results(const std::string& requests, const Environment& environment) {
     std::istringstream in(requests);
     std::ostringstream out;
     run_batch(in, out, environment);

@@ -6,7 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "cli/json_request.h"
+#include "cli/answers.h"
+#include "requests/json_request.h"
 
 namespace coltre::cli {
 
@@ -48,9 +49,9 @@ class LineReader {
 };
 
 /// @param id  the request's, as soon as it is known
-Result perform_line(const LineReader& reader, const Environment& environment, SiteMemory& memory,
+Answer perform_line(const LineReader& reader, const Environment& environment, SiteMemory& memory,
                     std::string& id) {
-    Result result;
+    Answer result;
     if (reader.too_long()) {
         result.fail(End::wrong_request,
                     "la riga è più lunga di " + std::to_string(LineReader::longest) + " byte");
@@ -73,7 +74,7 @@ std::string answer(const LineReader& reader, const Environment& environment, Sit
                    bool& some_failed) {
     std::string id;
     try {
-        const Result result = perform_line(reader, environment, memory, id);
+        const Answer result = perform_line(reader, environment, memory, id);
         some_failed = some_failed || result.end != End::well;
         return to_json(result);
     } catch (const std::bad_alloc&) {

@@ -3,7 +3,7 @@
 #include <istream>
 #include <ostream>
 
-#include "cli/perform.h"
+#include "requests/perform.h"
 
 namespace coltre::cli {
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "cli/altitude_commands.h"
+#include "cli/answers.h"
 #include "cli/batch.h"
 #include "cli/help.h"
 #include "version/version.h"
@@ -51,7 +52,7 @@ int exit_status(End end) {
 int run_calculation(const Request& request, bool json, const Environment& environment,
                     const Streams& streams) {
     SiteMemory memory;
-    const Result result = perform(request, environment, memory);
+    const Answer result = perform(request, environment, memory);
     if (json) {
         streams.out << to_json(result) << '\n';
     } else {

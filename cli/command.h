@@ -5,7 +5,7 @@
 #include <span>
 #include <string>
 
-#include "cli/perform.h"
+#include "requests/perform.h"
 
 namespace coltre::cli {
 

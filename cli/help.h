@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "cli/request.h"
+#include "requests/request.h"
 
 // The Italian help of the command.
 namespace coltre::cli {

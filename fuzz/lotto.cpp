@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "cli/batch.h"
-#include "cli/json_request.h"
 #include "fuzz/require.h"
+#include "requests/json_request.h"
 #include "site/built_in_altitudes.h"
 #include "tests/support/temporary_directory.h"
 
@@ -49,10 +49,10 @@ std::vector<std::string> lines_without_directories(const std::string& text) {
     std::vector<std::string> lines;
     std::istringstream stream(text);
     for (std::string line; std::getline(stream, line); lines.push_back(line)) {
-        const cli::JsonRequest read = cli::read_json_request(line);
+        const JsonRequest read = read_json_request(line);
         if (!read.error.empty()) continue;
-        const bool names_directory = read.request.value(cli::keys::relazione) != nullptr ||
-                                     read.request.value(cli::keys::altitudini) != nullptr;
+        const bool names_directory =
+            read.request.value(keys::relazione) != nullptr || read.request.value(keys::altitudini) != nullptr;
         if (!names_directory) continue;
         Json object = Json::parse(line, nullptr, false);
         line.clear();

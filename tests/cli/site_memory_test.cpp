@@ -1,4 +1,4 @@
-#include "cli/site_memory.h"
+#include "requests/site_memory.h"
 
 #include <gmock/gmock.h>
 

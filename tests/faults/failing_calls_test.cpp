@@ -179,7 +179,7 @@ Report run_batch(const std::string& directory) {
         R"({"id":1,"calcolo":"una-falda","alfa":15,"provincia":"Torino","comune":"Torino"})");
     std::ostringstream out(std::string(2000, ' '));
     out.str("");  // which leaves it the room: the stream would hide that it lacks memory
-    const cli::Environment environment{.own_directory = directory};
+    const Environment environment{.own_directory = directory};
     plan.on = true;
     const cli::BatchEnd end = cli::run_batch(in, out, environment);
     plan.on = false;

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "calculate/entry_reader.h"
-#include "cli/result.h"
+#include "cli/answers.h"
 #include "site/regions.h"
 #include "text/characters.h"
 #include "text/number_text.h"
@@ -63,28 +63,28 @@ void append_trace(std::string& table, const Trace& trace) {
 
 }  // namespace
 
-std::string to_table(const Result& result) {
+std::string to_table(const Answer& answer) {
     std::string table;
-    if (result.kind) append_text_row(table, "Calcolo", describe(*result.kind).meaning);
-    if (!result.municipality.empty())
-        append_text_row(table, "Comune", result.municipality + " (" + result.province + ")");
-    if (result.zone) {
+    if (answer.kind) append_text_row(table, "Calcolo", describe(*answer.kind).meaning);
+    if (!answer.municipality.empty())
+        append_text_row(table, "Comune", answer.municipality + " (" + answer.province + ")");
+    if (answer.zone) {
         append_text_row(table, "Zona",
-                        std::to_string(*result.zone) + " " + std::string(zone_caption(*result.zone)));
+                        std::to_string(*answer.zone) + " " + std::string(zone_caption(*answer.zone)));
     }
-    if (result.altitude) append_row(table, "Altitudine", shortest_number_text(*result.altitude), "m");
-    if (result.qsk)
-        append_row(table, "qsk", fixed_number_text(*result.qsk, quantities::area_load.decimals),
+    if (answer.altitude) append_row(table, "Altitudine", shortest_number_text(*answer.altitude), "m");
+    if (answer.qsk)
+        append_row(table, "qsk", fixed_number_text(*answer.qsk, quantities::area_load.decimals),
                    quantities::area_load.unit);
-    for (const auto& [label, mu] : result.calculation.coefficients)
+    for (const auto& [label, mu] : answer.calculation.coefficients)
         append_row(table, label, fixed_number_text(mu, quantities::coefficient.decimals),
                    quantities::coefficient.unit);
-    for (const auto& [cell, value] : result.calculation.results)
+    for (const auto& [cell, value] : answer.calculation.results)
         append_row(table, cell->name, fixed_number_text(value, cell->quantity.decimals), cell->quantity.unit);
-    if (!result.report.empty()) append_text_row(table, "Relazione", result.report);
-    if (!result.illustrated_report.empty())
-        append_text_row(table, "Relazione illustrata", result.illustrated_report);
-    if (result.trace) append_trace(table, *result.trace);
+    if (!answer.report.empty()) append_text_row(table, "Relazione", answer.report);
+    if (!answer.illustrated_report.empty())
+        append_text_row(table, "Relazione illustrata", answer.illustrated_report);
+    if (answer.trace) append_trace(table, *answer.trace);
     return table;
 }
 

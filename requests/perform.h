@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "cli/request.h"
-#include "cli/result.h"
-#include "cli/site_memory.h"
+#include "requests/answer.h"
+#include "requests/request.h"
+#include "requests/site_memory.h"
 
-namespace coltre::cli {
+namespace coltre {
 
 /// Where a request finds what it does not say.
 struct Environment {
@@ -17,6 +17,6 @@ struct Environment {
 /// Performs one request on fresh program cells. A site by name is chosen as in the window, province, then
 /// municipality, but an altitudini.txt that is there stays as it is; a missing one is written.
 /// @param memory  tables and sites that earlier requests of the same batch asked for
-Result perform(const Request& request, const Environment& environment, SiteMemory& memory);
+Answer perform(const Request& request, const Environment& environment, SiteMemory& memory);
 
-}  // namespace coltre::cli
+}  // namespace coltre

@@ -1,11 +1,11 @@
-#include "cli/json_request.h"
+#include "requests/json_request.h"
 
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
 #include "text/characters.h"
 
-namespace coltre::cli {
+namespace coltre {
 
 namespace {
 
@@ -137,7 +137,7 @@ class RequestHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Re
     const rapidjson::MemoryStream& m_stream;
     JsonRequest& m_result;
     std::size_t m_depth = 0;
-    std::optional<coltre::cli::Key> m_key;
+    std::optional<coltre::Key> m_key;
     bool m_is_kind = false;
     bool m_is_id = false;
     std::size_t m_id_start = 0;
@@ -195,4 +195,4 @@ JsonRequest read_json_request(std::string_view line) {
     return result;
 }
 
-}  // namespace coltre::cli
+}  // namespace coltre

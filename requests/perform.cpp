@@ -1,4 +1,4 @@
-#include "cli/perform.h"
+#include "requests/perform.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -8,7 +8,6 @@
 #include "calculate/Calcola.h"
 #include "calculate/Calcola2.h"
 #include "calculate/return_period.h"
-#include "cli/site_choice.h"
 #include "document/html.h"
 #include "document/illustrated_report.h"
 #include "document/request_line.h"
@@ -16,9 +15,10 @@
 #include "platform/file_replacement.h"
 #include "platform/files.h"
 #include "report/unit_systems.h"
+#include "requests/site_choice.h"
 #include "version/version.h"
 
-namespace coltre::cli {
+namespace coltre {
 
 namespace {
 
@@ -46,7 +46,7 @@ void keep_text(std::string_view symbol, const std::string* text, Trace& trace) {
 
 /// Writes the illustrated report that the request asks for. What goes wrong is the request's error, unless
 /// the calculation has failed before.
-void write_illustrated_report(const Request& request, Subject subject, Result& result) {
+void write_illustrated_report(const Request& request, Subject subject, Answer& result) {
     const std::string& name = *request.value(keys::illustrata);
     const std::string path = find_path(suite_notation(name)).string();
     subject.program = "Coltre " + std::string(version_and_build());
@@ -72,8 +72,8 @@ void write_illustrated_report(const Request& request, Subject subject, Result& r
 
 }  // namespace
 
-Result perform(const Request& request, const Environment& environment, SiteMemory& memory) {
-    Result result;
+Answer perform(const Request& request, const Environment& environment, SiteMemory& memory) {
+    Answer result;
     result.kind = request.kind;
     if (std::string error = validation_error(request); !error.empty()) {
         result.fail(End::wrong_request, std::move(error));
@@ -144,4 +144,4 @@ Result perform(const Request& request, const Environment& environment, SiteMemor
     return result;
 }
 
-}  // namespace coltre::cli
+}  // namespace coltre

@@ -5,12 +5,12 @@
 #include <string_view>
 #include <vector>
 
-#include "cli/request.h"
 #include "engine/calculation.h"
 #include "engine/program_cells.h"
 #include "platform/messages.h"
+#include "requests/request.h"
 
-namespace coltre::cli {
+namespace coltre {
 
 /// How a request ended.
 enum class End {
@@ -21,7 +21,7 @@ enum class End {
 };
 
 /// What a request gave, as far as it came.
-struct Result {
+struct Answer {
     std::string id;  ///< as JSON; empty if the request had none
     std::optional<Kind> kind;
     std::string province;  ///< in the spelling of the table; empty when the site was not given by name
@@ -44,10 +44,4 @@ struct Result {
     }
 };
 
-/// The result as one JSON object on one line, without a line end.
-std::string to_json(const Result& result);
-
-/// The result as a short Italian table with units, line by line, without messages and error.
-std::string to_table(const Result& result);
-
-}  // namespace coltre::cli
+}  // namespace coltre

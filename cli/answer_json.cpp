@@ -1,5 +1,5 @@
 
-#include "cli/result.h"
+#include "cli/answers.h"
 #include "text/json_text.h"
 
 namespace coltre::cli {
@@ -20,16 +20,16 @@ std::string_view icon_name(Icon icon) {
     return "nessuna";
 }
 
-void append_coefficients(std::string& json, const Result& result) {
+void append_coefficients(std::string& json, const Answer& answer) {
     JsonObject object(json);
-    for (const auto& [label, mu] : result.calculation.coefficients)
+    for (const auto& [label, mu] : answer.calculation.coefficients)
         object.number(label, mu);
     object.close();
 }
 
-void append_results(std::string& json, const Result& result) {
+void append_results(std::string& json, const Answer& answer) {
     JsonObject object(json);
-    for (const auto& [cell, value] : result.calculation.results)
+    for (const auto& [cell, value] : answer.calculation.results)
         object.number(cell->name, value);
     object.close();
 }
@@ -98,33 +98,33 @@ void append_messages(std::string& json, const std::vector<Message>& messages) {
 
 }  // namespace
 
-std::string to_json(const Result& result) {
+std::string to_json(const Answer& answer) {
     std::string json;
     json.reserve(512);
     JsonObject object(json);
-    if (!result.id.empty()) object.member("id") += result.id;
-    if (result.kind) object.text("calcolo", describe(*result.kind).name);
-    if (!result.province.empty()) {
-        object.text("provincia", result.province);
-        object.text("comune", result.municipality);
+    if (!answer.id.empty()) object.member("id") += answer.id;
+    if (answer.kind) object.text("calcolo", describe(*answer.kind).name);
+    if (!answer.province.empty()) {
+        object.text("provincia", answer.province);
+        object.text("comune", answer.municipality);
     }
-    if (result.altitude) object.number("altitudine", *result.altitude);
-    if (result.zone) object.number("zona", *result.zone);
-    if (result.qsk) object.number("qsk", *result.qsk);
-    append_coefficients(object.member("mu"), result);
-    append_results(object.member("risultati"), result);
-    if (!result.report.empty()) object.text("relazione", result.report);
-    if (!result.illustrated_report.empty()) object.text("illustrata", result.illustrated_report);
-    if (!result.partly_understood.empty()) append_texts(object.member("letture"), result.partly_understood);
-    append_messages(object.member("messaggi"), result.messages);
-    if (result.error.empty()) {
+    if (answer.altitude) object.number("altitudine", *answer.altitude);
+    if (answer.zone) object.number("zona", *answer.zone);
+    if (answer.qsk) object.number("qsk", *answer.qsk);
+    append_coefficients(object.member("mu"), answer);
+    append_results(object.member("risultati"), answer);
+    if (!answer.report.empty()) object.text("relazione", answer.report);
+    if (!answer.illustrated_report.empty()) object.text("illustrata", answer.illustrated_report);
+    if (!answer.partly_understood.empty()) append_texts(object.member("letture"), answer.partly_understood);
+    append_messages(object.member("messaggi"), answer.messages);
+    if (answer.error.empty()) {
         object.member("errore") += "null";
     } else {
-        object.text("errore", result.error);
+        object.text("errore", answer.error);
     }
-    if (result.trace) {
-        append_data(object.member("dati"), *result.trace);
-        append_steps(object.member("passaggi"), *result.trace);
+    if (answer.trace) {
+        append_data(object.member("dati"), *answer.trace);
+        append_steps(object.member("passaggi"), *answer.trace);
     }
     object.close();
     return json;

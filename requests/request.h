@@ -12,7 +12,7 @@
 #include "engine/program_cells.h"
 
 // What is asked of the command: one calculation, from its options or from a line of a batch.
-namespace coltre::cli {
+namespace coltre {
 
 /// What a batch may give for a key. An option of the command is always a text, but for a flag, which has no
 /// value.
@@ -113,4 +113,4 @@ std::string validation_error(const Request& request);
 /// @param request  without a validation error
 std::vector<std::string> partly_understood(const Request& request);
 
-}  // namespace coltre::cli
+}  // namespace coltre

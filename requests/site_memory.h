@@ -12,7 +12,7 @@
 #include "platform/failure.h"
 #include "platform/messages.h"
 
-namespace coltre::cli {
+namespace coltre {
 
 /// A site as a table of altitudes gave it.
 struct Site {
@@ -62,4 +62,4 @@ class SiteMemory {
     std::string m_key;
 };
 
-}  // namespace coltre::cli
+}  // namespace coltre

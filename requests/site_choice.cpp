@@ -1,4 +1,4 @@
-#include "cli/site_choice.h"
+#include "requests/site_choice.h"
 
 #include <algorithm>
 #include <span>
@@ -13,7 +13,7 @@
 #include "site/regions.h"
 #include "text/names.h"
 
-namespace coltre::cli {
+namespace coltre {
 
 namespace {
 
@@ -44,13 +44,13 @@ NameSearch find_name(std::string_view what, std::string_view typed, std::span<co
 }
 
 /// Ends the request with a message, which says what went wrong.
-std::nullopt_t end_with(Message message, Result& result) {
+std::nullopt_t end_with(Message message, Answer& result) {
     result.fail(End::failed_with_message, message.text);
     result.messages.push_back(std::move(message));
     return std::nullopt;
 }
 
-std::nullopt_t end_with_error(std::string error, Result& result) {
+std::nullopt_t end_with_error(std::string error, Answer& result) {
     result.fail(End::failed, std::move(error));
     return std::nullopt;
 }
@@ -66,7 +66,7 @@ Message built_in_answered(const std::string& province) {
 /// stays as it is: the built-in table answers in its place.
 /// @return nothing, with the error in the result, where the site cannot be had
 std::optional<Site> choose_site(const Request& request, const std::string& directory, SiteMemory& memory,
-                                Result& result) {
+                                Answer& result) {
     static const std::vector<std::string> all_provinces(provinces().begin(), provinces().end());
     const NameSearch province = find_name("provincia", *request.value(keys::provincia), all_provinces);
     if (!province.error.empty()) return end_with_error(province.error, result);
@@ -97,7 +97,7 @@ std::optional<Site> choose_site(const Request& request, const std::string& direc
 }  // namespace
 
 std::optional<Site> site_by_name(const Request& request, Program& program, SiteMemory& memory,
-                                 Result& result) {
+                                 Answer& result) {
     const std::string& directory = program.directories.ProgramDirectory;
     const std::string& province = *request.value(keys::provincia);
     const std::string& municipality = *request.value(keys::comune);
@@ -116,4 +116,4 @@ std::optional<Site> site_by_name(const Request& request, Program& program, SiteM
     return site;
 }
 
-}  // namespace coltre::cli
+}  // namespace coltre

@@ -1,4 +1,4 @@
-#include "cli/request.h"
+#include "requests/request.h"
 
 #include <algorithm>
 #include <array>
@@ -8,7 +8,7 @@
 #include "text/number_reading.h"
 #include "text/number_text.h"
 
-namespace coltre::cli {
+namespace coltre {
 
 namespace {
 
@@ -173,4 +173,4 @@ std::vector<std::string> partly_understood(const Request& request) {
     return texts;
 }
 
-}  // namespace coltre::cli
+}  // namespace coltre

@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
-#include "cli/request.h"
+#include "requests/request.h"
 
-namespace coltre::cli {
+namespace coltre {
 
 /// A line of a batch, read.
 struct JsonRequest {
@@ -21,4 +21,4 @@ struct JsonRequest {
 /// @param line  in memory for as long as the id is used
 JsonRequest read_json_request(std::string_view line);
 
-}  // namespace coltre::cli
+}  // namespace coltre

@@ -2,12 +2,12 @@
 
 #include <optional>
 
-#include "cli/request.h"
-#include "cli/result.h"
-#include "cli/site_memory.h"
+#include "requests/answer.h"
+#include "requests/request.h"
+#include "requests/site_memory.h"
 #include "startup/program.h"
 
-namespace coltre::cli {
+namespace coltre {
 
 /// The site of a request that names one, with its zone in the zone cell: province, then municipality, chosen
 /// as the window does. Names need not be spelled as in the table: a single name that differs in case,
@@ -17,6 +17,6 @@ namespace coltre::cli {
 /// @param result   takes the names, and what is wrong where the site cannot be had
 /// @return nothing in that case
 std::optional<Site> site_by_name(const Request& request, Program& program, SiteMemory& memory,
-                                 Result& result);
+                                 Answer& result);
 
-}  // namespace coltre::cli
+}  // namespace coltre

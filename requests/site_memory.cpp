@@ -1,4 +1,4 @@
-#include "cli/site_memory.h"
+#include "requests/site_memory.h"
 
 #include <utility>
 
@@ -6,7 +6,7 @@
 #include "site/altitude_file.h"
 #include "site/built_in_altitudes.h"
 
-namespace coltre::cli {
+namespace coltre {
 
 const AltitudeTable& SiteMemory::table(std::string_view directory) {
     if (const auto known = m_tables.find(directory); known != m_tables.end()) return known->second;
@@ -48,4 +48,4 @@ std::string_view SiteMemory::key(std::string_view directory, std::string_view pr
     return m_key.append(municipality);
 }
 
-}  // namespace coltre::cli
+}  // namespace coltre
