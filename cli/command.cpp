@@ -12,6 +12,7 @@
 #include "cli/answers.h"
 #include "cli/batch.h"
 #include "cli/help.h"
+#include "version/maker.h"
 #include "version/version.h"
 
 namespace coltre::cli {
@@ -158,7 +159,8 @@ int run(std::span<const std::string> arguments, const Environment& environment, 
     Choice choice;
     CLI::App app;
     app.set_help_flag("-h,--help");
-    app.set_version_flag("--version", "coltre-calcolo " + std::string(version_and_build()));
+    app.set_version_flag(
+        "--version", "coltre-calcolo " + std::string(version_and_build()) + "\n" + std::string(notice_text));
     app.allow_extras();
     app.require_subcommand(0, 1);
 

@@ -7,6 +7,7 @@
 #include "cli/command.h"
 #include "platform/environment.h"
 #include "platform/interruption.h"
+#include "startup/own_files.h"
 
 int main(int argc, char** argv) try {
     coltre::take_file_size_limit_as_error();
@@ -14,8 +15,10 @@ int main(int argc, char** argv) try {
     std::ios::sync_with_stdio(false);
     std::cin.tie(nullptr);  // a batch hands its results on by itself
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
-    const coltre::Environment environment{.own_directory = coltre::own_directory(argc > 0 ? argv[0] : ""),
-                                          .decimal_separator = coltre::user_decimal_separator()};
+    const std::string own = coltre::own_directory(argc > 0 ? argv[0] : "");
+    const coltre::Environment environment{
+        .own_directory = coltre::own_files(own, coltre::documents_directory()).altitudes,
+        .decimal_separator = coltre::user_decimal_separator()};
     return coltre::cli::run(arguments, environment, std::cin, std::cout, std::cerr);
 } catch (const std::bad_alloc&) {
     static_cast<void>(std::fputs("coltre-calcolo: memoria esaurita\n", stderr));

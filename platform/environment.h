@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 // What the program finds around itself.
 namespace coltre {
@@ -8,6 +9,13 @@ namespace coltre {
 /// The directory that holds the program, in the suite's notation, without a separator at its end.
 /// @param invoked_as  how the program was called (argv[0]); used where the system does not tell
 std::string own_directory(const char* invoked_as);
+
+/// The user's directory for documents, in the suite's notation; empty where the system does not tell.
+std::string documents_directory();
+
+/// True where the user may create files in the directory. Writes nothing to find out.
+/// @param directory  in the suite's notation
+bool may_write_in(std::string_view directory);
 
 /// Has a write beyond the user's limit on the size of files fail, instead of killing the program in the
 /// middle of it.

@@ -10,7 +10,7 @@ namespace coltre {
 
 /// Where a request finds what it does not say.
 struct Environment {
-    std::string own_directory;  ///< of the program, in the suite's notation: holds altitudini.txt by default
+    std::string own_directory;     ///< of altitudini.txt by default, in the suite's notation
     char decimal_separator = '.';  ///< of the user's locale, for the strictly read fields
 };
 

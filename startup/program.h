@@ -11,6 +11,7 @@ namespace coltre {
 struct Program {
     ProgramCells cells;
     Directories directories;
+    std::string own_directory;   ///< that holds the program
     std::string CommandLine;     ///< the command-line arguments as one text
     bool StandaloneFlag = true;  ///< false when the suite started the program
     std::string unit_setting;    ///< 1-based item of the unit selector in suite mode ("3"); empty stand-alone

@@ -1,6 +1,10 @@
 #include "startup/start_up.h"
 
+#include <utility>
+
+#include "platform/environment.h"
 #include "startup/VarieGestCond.h"
+#include "startup/own_files.h"
 #include "text/characters.h"
 #include "text/number_reading.h"
 
@@ -8,12 +12,14 @@ namespace coltre {
 
 namespace {
 
-/// Everything lives in the program's own directory; what only the suite has stays empty.
+/// Everything lives in the program's own directory, but for what its user may not write there; what only the
+/// suite has stays empty.
 Directories standalone_directories(std::string_view own_directory) {
+    OwnFiles files = own_files(own_directory, documents_directory());
     Directories directories;
     directories.SuiteRoot = trim_blanks(own_directory);
-    directories.WorkDirectory = directories.SuiteRoot;
-    directories.ProgramDirectory = directories.SuiteRoot;
+    directories.WorkDirectory = std::move(files.reports);
+    directories.ProgramDirectory = std::move(files.altitudes);
     directories.DriverDirectory = directories.SuiteRoot;
     directories.CustomDirectory = directories.SuiteRoot;
     directories.HelpDirectory = directories.SuiteRoot;
@@ -25,6 +31,7 @@ Directories standalone_directories(std::string_view own_directory) {
 StartUp start_up(std::string_view command_line, std::string_view own_directory, Program& program,
                  Messages& messages) {
     program.CommandLine = command_line;
+    program.own_directory = trim_blanks(own_directory);
 
     // "diroot" alone decides. Deliberate: "autonomo" with the value 1 was meant to force the stand-alone
     // mode, but its value counts as it stood before the command line was searched, so that it never does.

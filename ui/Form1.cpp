@@ -13,9 +13,9 @@
 #include "ui/CoeffEsposizione.h"
 #include "ui/PeriododiRitorno.h"
 #include "ui/casipart.h"
-#include "ui/maker.h"
 #include "ui/window_setup.h"
 #include "ui_Form1.h"
+#include "version/maker.h"
 
 namespace coltre {
 

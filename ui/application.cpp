@@ -13,6 +13,7 @@
 #include "ui/Form1.h"
 #include "ui/pictures.h"
 #include "ui/qt_dialogs.h"
+#include "version/maker.h"
 #include "version/version.h"
 
 namespace coltre {
@@ -59,7 +60,9 @@ int print(std::string_view text) {
 
 int run(int argc, char** argv) {
     const std::string command_line = joined_arguments(argc, argv);  // Qt takes its own options out
-    if (command_line == "--version") return print("coltre " + std::string(version_and_build()) + "\n");
+    if (command_line == "--version") {
+        return print("coltre " + std::string(version_and_build()) + "\n" + std::string(notice_text) + "\n");
+    }
     if (command_line == "--help") return print(help);
 
     take_file_size_limit_as_error();

@@ -11,9 +11,9 @@
 #include <QShortcut>
 
 #include "platform/files.h"
-#include "ui/maker.h"
 #include "ui/results_copy.h"
 #include "ui/window_setup.h"
+#include "version/maker.h"
 #include "version/version.h"
 
 namespace coltre {
@@ -124,8 +124,10 @@ void Menus::copy_sketch(const CalculationTab& open_tab) {
 }
 
 void Menus::open_manual(const CalculationTab& open_tab) {
-    const QString program = path_of(m_program.directories.ProgramDirectory);
-    for (const char* place : {"/manuale.html", "/../share/doc/coltre/manuale.html"}) {
+    const QString program = path_of(m_program.own_directory);
+    const char* const places[] = {"/manuale.html", "/../share/doc/coltre/manuale.html",
+                                  "/../../share/doc/coltre/manuale.html"};
+    for (const char* place : places) {
         const QFileInfo manual(program + place);
         if (!manual.exists()) continue;
         QUrl url = QUrl::fromLocalFile(manual.canonicalFilePath());
@@ -138,7 +140,8 @@ void Menus::open_manual(const CalculationTab& open_tab) {
 }
 
 void Menus::show_about(const CalculationTab& /*open_tab*/) {
-    const std::string text = "Coltre " + std::string(version_and_build()) + "\r\r" + maker_text();
+    const std::string text = "Coltre " + std::string(version_and_build()) + "\r\r" + maker_text() + "\r\r" +
+                             std::string(program_terms) + "\r" + std::string(notice_text);
     m_dialogs.show({Icon::information, std::string(program_title), text});
 }
 

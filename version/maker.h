@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+// Read by packaging/CMakeLists.txt as well, line by line, for what stands in the packages.
 namespace coltre {
 
 /// What the information box says of the maker, a line each: name, business in two lines, address, telephone
@@ -18,7 +19,14 @@ inline constexpr std::array<std::string_view, 7> maker_lines{
     "info@example.com",
 };
 
-/// The same as the text of a message.
+/// The terms on which the program itself is given. Whoever distributes the program names theirs here.
+inline constexpr std::string_view program_terms =
+    "Le condizioni d'uso di Coltre le stabilisce il produttore, che non ne ha ancora indicate.";
+
+/// Where the terms of all that the program contains are told.
+inline constexpr std::string_view notice_text = "Componenti e loro licenze: file NOTICE, accanto al manuale.";
+
+/// The maker's lines as the text of a message.
 inline std::string maker_text() {
     std::string text;
     for (const std::string_view line : maker_lines)
