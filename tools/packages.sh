@@ -6,10 +6,13 @@ program_packages=(g++ cmake ninja-build libcli11-dev rapidjson-dev qt6-base-dev 
 
 # To run all checks besides.
 check_packages=(libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev locales clang-format clang-tidy
-    xvfb xdotool imagemagick git desktop-file-utils appstream mandoc poppler-utils unzip)
+    xvfb xdotool imagemagick git desktop-file-utils appstream mandoc poppler-utils unzip lintian dpkg-dev)
 
 # For tools/fuzz, besides those of the program.
 fuzz_packages=(clang libclang-rt-14-dev nlohmann-json3-dev)
 
 # For tools/benchmark, besides those of the program: speedcrunch is what the windows are compared with.
 bench_packages=(libbenchmark-dev nlohmann-json3-dev python3 libx11-6 xvfb speedcrunch)
+
+# For tools/package, besides those of the program.
+debian_packages=(lintian dpkg-dev)
