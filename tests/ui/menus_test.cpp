@@ -147,7 +147,10 @@ TEST_F(MenusTest, AboutNamesVersionBuildAndMakerAndEsciEndsFromEitherWindow) {
     std::string about =
         "Coltre " + std::string(version_and_build()) +
         "\r\rARCOVIA\rProgrammi di calcolo\rper l'ingegneria delle strutture\rVia Esempio 1 - "
-        "00000 Esempio (XX)\rTel. 000 0000000 - Fax 000 0000001\rwww.example.com\rinfo@example.com";
+        "00000 Esempio (XX)\rTel. 000 0000000 - Fax 000 0000001\rwww.example.com\rinfo@example.com\r\rLe "
+        "condizioni d'uso di "
+        "Coltre le stabilisce il produttore, che non ne ha ancora indicate.\rComponenti e loro licenze: file "
+        "NOTICE, accanto al manuale.";
     dialogs.expect(Icon::information, about);
     choose(window, "Informazioni su Coltre");
     casipart& special_cases = open_special_cases();
