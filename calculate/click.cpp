@@ -68,11 +68,16 @@ void close(ReportFile& report, const std::string& confirmation, Outcome& outcome
 
 }  // namespace
 
+Datum zone_datum(const ProgramCells& cells) {
+    return {"zona", static_cast<double>(cells.zone), "", ""};
+}
+
 Outcome begin_click(const Fields& fields, const ProgramCells& cells) {
     Outcome outcome;
+    outcome.entries.kind = fields.kind;
     if (!fields.traced) return outcome;
     const double Tr = cells.confirmed_return_period.value_or(cells.return_period);
-    outcome.trace = Trace{{{"zona", static_cast<double>(cells.zone), "", ""}, {"Tr", Tr, "anni", ""}}, {}};
+    outcome.trace = Trace{{zone_datum(cells), {"Tr", Tr, "anni", ""}}, {}};
     return outcome;
 }
 

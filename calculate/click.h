@@ -62,6 +62,9 @@ struct ReportWriter {
                           const Calculation&);
 };
 
+/// The zone as formulas call it.
+Datum zone_datum(const ProgramCells& cells);
+
 /// What a click starts with: its trace, if it is asked for, holds the zone and the return period.
 Outcome begin_click(const Fields& fields, const ProgramCells& cells);
 

@@ -1,5 +1,7 @@
 #include "calculate/entry_reader.h"
 
+#include <algorithm>
+
 #include "text/characters.h"
 #include "text/number_reading.h"
 
@@ -38,19 +40,27 @@ double EntryReader::lenient(std::string_view name, std::string_view symbol, std:
                             std::string_view text) {
     if (m_stop) return 0;
     const LenientNumber number = read_leniently(text);
-    if (number.beyond_range) m_stop = {Fault::numeric_error, beyond_range(name)};
-    keep(symbol, number.value, unit, text);
+    if (number.beyond_range) {
+        stop_beyond_range(name, symbol, unit, text);
+    } else {
+        keep(symbol, number.value, unit, text);
+    }
     return number.value;
 }
 
-double EntryReader::strict(std::string_view name, std::string_view text, char decimal_separator) {
+double EntryReader::strict(std::string_view name, std::string_view unit, std::string_view text,
+                           char decimal_separator) {
     const StrictNumber number = read_strictly(text, decimal_separator);
     switch (number.verdict) {
         case StrictNumber::Verdict::number:
+            keep(name, number.value, unit, text);
             break;
-        case StrictNumber::Verdict::beyond_range:
-            m_stop = {Fault::numeric_error, beyond_range(name)};
+        case StrictNumber::Verdict::beyond_range: {
+            std::string with_point(text);
+            std::ranges::replace(with_point, decimal_separator, '.');
+            stop_beyond_range(name, name, unit, with_point);
             break;
+        }
         case StrictNumber::Verdict::not_a_number:
             m_stop = {Fault::invalid_conversion, trim_blanks(text).empty()
                                                      ? "Il campo «" + std::string(name) + "» è vuoto."
@@ -68,8 +78,7 @@ Entries EntryReader::entries(Kind kind, std::span<const std::string> texts, char
         if (m_stop) break;
         double& number = entries.*entry.number;
         if (entry.reading == Reading::strict) {
-            number = strict(entry.symbol, *text, decimal_separator);
-            keep(entry.symbol, number, entry.unit, *text);
+            number = strict(entry.symbol, entry.unit, *text, decimal_separator);
         } else {
             number = lenient(entry.symbol, entry.symbol, entry.unit, *text);
         }
@@ -79,8 +88,24 @@ Entries EntryReader::entries(Kind kind, std::span<const std::string> texts, char
 }
 
 void EntryReader::keep(std::string_view symbol, double value, std::string_view unit, std::string_view text) {
-    if (m_trace == nullptr || m_stop) return;
+    if (m_trace == nullptr) return;
     m_trace->data.push_back({std::string(symbol), value, unit, std::string(text)});
+}
+
+void EntryReader::stop_beyond_range(std::string_view name, std::string_view symbol, std::string_view unit,
+                                    std::string_view text) {
+    m_stop = {Fault::numeric_error, beyond_range(name)};
+    if (m_trace == nullptr) return;
+    std::string digits(read_leniently(text).digits);
+    if (digits.starts_with('-')) digits = "(" + digits + ")";
+    m_trace->steps.push_back({.symbol = std::string(symbol),
+                              .formula = digits,
+                              .numbers = digits,
+                              .value = {},
+                              .fault = Fault::numeric_error,
+                              .quantity = {unit, 0},
+                              .source = "dato scritto",
+                              .words = "numero troppo grande"});
 }
 
 }  // namespace coltre

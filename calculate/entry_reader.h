@@ -26,7 +26,8 @@ Message message_of(const Stop& stop);
 /// Reads numeric fields until the first that cannot be used; from then on it reads nothing more.
 class EntryReader {
   public:
-    /// @param data  takes each number that was read; null if nobody asks for them
+    /// @param trace  takes each number that was read, and as a step without a value one that is beyond the
+    ///               range of numbers; null if nobody asks for them
     explicit EntryReader(Trace* trace = nullptr) : m_trace(trace) {}
 
     /// @param name    what the explanation of a fault calls the field
@@ -41,8 +42,12 @@ class EntryReader {
     [[nodiscard]] const std::optional<Stop>& stop() const { return m_stop; }
 
   private:
-    double strict(std::string_view name, std::string_view text, char decimal_separator);
+    double strict(std::string_view name, std::string_view unit, std::string_view text,
+                  char decimal_separator);
     void keep(std::string_view symbol, double value, std::string_view unit, std::string_view text);
+    /// @param text  as typed, with a decimal point
+    void stop_beyond_range(std::string_view name, std::string_view symbol, std::string_view unit,
+                           std::string_view text);
 
     Trace* m_trace;
     std::optional<Stop> m_stop;

@@ -6,6 +6,7 @@
 
 #include "engine/checked.h"
 #include "engine/program_cells.h"
+#include "engine/trace.h"
 #include "platform/messages.h"
 
 namespace coltre {
@@ -24,6 +25,12 @@ struct ReturnPeriodOutcome {
 /// check, then sets the return period factor. A return period of 0 or less, or of up to 1 year, is refused
 /// and leaves the factor as it was, though the cell keeps it: deliberate, a report written now
 /// prints it.
-ReturnPeriodOutcome confirm_return_period(std::string_view InputPerRIT, ProgramCells& cells);
+/// @param trace  takes the return period and the step of its factor; null if nobody asks for them
+ReturnPeriodOutcome confirm_return_period(std::string_view InputPerRIT, ProgramCells& cells,
+                                          Trace* trace = nullptr);
+
+/// Whether a return period that a cell keeps was refused: it has no factor.
+/// @param Tr  years
+bool is_refused_return_period(double Tr);
 
 }  // namespace coltre

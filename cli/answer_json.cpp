@@ -77,6 +77,7 @@ void append_steps(std::string& json, const Trace& trace) {
             object.text("condizione_numeri", step.condition_numbers);
         }
         if (!step.governs.empty()) object.text("governa", step.governs);
+        if (!step.words.empty()) object.text("nota", step.words);
         object.text("fonte", step.source);
         object.close();
     }

@@ -55,8 +55,10 @@ void append_trace(std::string& table, const Trace& trace) {
         append_step_line(table, "",
                          step.value ? "= " + with_unit(*step.value, step.quantity.unit)
                                     : "non si può calcolare: " + std::string(fault_text(step.fault)));
-        append_step_line(table, "dove ", step.condition);
-        append_step_line(table, "governa ", step.governs);
+        const std::string words = step.words.empty() ? "" : ": " + std::string(step.words);
+        if (!step.condition.empty()) append_step_line(table, "dove ", step.condition + words);
+        if (!step.governs.empty()) append_step_line(table, "governa ", step.governs + words);
+        if (step.condition.empty() && step.governs.empty()) append_step_line(table, "", step.words);
         append_step_line(table, "fonte: ", step.source);
     }
 }

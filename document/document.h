@@ -2,6 +2,7 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -19,7 +20,6 @@ enum class Style {
     emphasis,  ///< conditions and what governed
     symbol,    ///< a letter that stands for a quantity
     subscript,
-    superscript,
     code,   ///< texts to be typed as they stand
     note,   ///< remarks and sources
     blank,  ///< a line to write on; its text says what for
@@ -79,6 +79,9 @@ struct Document {
     std::string page_footer;  ///< what stands before the page number
     std::vector<Block> blocks;
 };
+
+/// Text in the plain style.
+Pieces plain(std::string_view text);
 
 /// The text of the pieces without their styles.
 std::string plain_text(const Pieces& pieces);

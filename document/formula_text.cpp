@@ -25,13 +25,14 @@ struct Word {
     std::string_view written;
     std::string_view printed;
 };
-constexpr std::array<Word, 13> words{{
+constexpr std::array<Word, 14> words{{
     {" * ", " · "},
     {" / ", "/"},
     {" - ", " − "},
     {" <= ", " ≤ "},
     {" >= ", " ≥ "},
     {" == ", " = "},
+    {"^2", "²"},
     {", ", "; "},  // the comma separates decimals
     {" and ", " e "},
     {" + ", " + "},
@@ -103,6 +104,8 @@ void append(Pieces& pieces, const Pieces& more) {
         append(pieces, piece.text, piece.style);
 }
 
+constexpr double largest_without_exponent = 1e9;
+
 std::string with_comma(std::string text) {
     std::ranges::replace(text, '.', ',');
     return text;
@@ -149,9 +152,6 @@ Pieces formula_text(std::string_view formula) {
         if (word != words.end()) {
             append(pieces, word->printed, Style::plain);
             length = word->written.size();
-        } else if (rest.front() == '^') {
-            length = 1 + number_length(rest.substr(1));
-            append(pieces, rest.substr(1, length - 1), Style::superscript);
         } else if (is_letter(rest.front())) {
             length = static_cast<std::size_t>(
                 std::ranges::find_if_not(rest,
@@ -161,8 +161,11 @@ Pieces formula_text(std::string_view formula) {
         } else if (is_digit(rest.front())) {
             length = number_length(rest);
             double value = 0;
-            std::from_chars(rest.data(), rest.data() + length, value);
-            append(pieces, number_text(value), Style::plain);
+            const auto read = std::from_chars(rest.data(), rest.data() + length, value);
+            append(
+                pieces,
+                read.ec == std::errc() ? number_text(value) : with_comma(std::string(rest.substr(0, length))),
+                Style::plain);
         } else {
             append(pieces, rest.substr(0, 1) == "-" ? "−" : rest.substr(0, 1), Style::plain);
         }
@@ -172,7 +175,6 @@ Pieces formula_text(std::string_view formula) {
 }
 
 std::string number_text(double value) {
-    constexpr double largest_without_exponent = 1e9;
     const double magnitude = std::abs(value);
     if (magnitude >= largest_without_exponent || (magnitude > 0 && magnitude < 1e-9))
         return with_comma(shortest_number_text(value));
@@ -191,7 +193,30 @@ std::string fixed_text(double value, int decimals) {
     return with_comma(text);
 }
 
-FormulaLine step_line(const Step& step) {
+std::string value_text(double value, const Quantity& quantity) {
+    std::string text = fixed_text(value, quantity.decimals);
+    const bool lost = value != 0 && text.find_first_of("123456789") == std::string::npos;
+    return lost || std::abs(value) >= largest_without_exponent ? number_text(value) : text;
+}
+
+std::string with_unit(std::string number, std::string_view unit) {
+    if (!unit.empty() && unit != "°") number += " ";
+    return number.append(unit);
+}
+
+Pieces governing_text(const Step& step) {
+    if (step.governs.empty()) return {};
+    if (step.governs.ends_with("_formula")) return {{"nessun limite interviene", Style::emphasis}};
+    const std::string words(step.words);
+    if (is_digit(step.governs.front()) && !words.empty() && step.governs.find(' ') == std::string::npos)
+        return {{words, Style::emphasis}};
+    Pieces pieces{{"governa ", Style::emphasis}};
+    append(pieces, formula_text(step.governs));
+    append(pieces, words.empty() ? "" : " (" + words + ")", Style::emphasis);
+    return pieces;
+}
+
+FormulaLine step_line(const Step& step, std::string_view more) {
     FormulaLine line;
     Pieces& formula = line.formula;
     append(formula, symbol_text(step.symbol));
@@ -203,26 +228,27 @@ FormulaLine step_line(const Step& step) {
         append(formula, pieces);
         before = text;
     };
-    equals(formula_text(step.formula));
-    equals(formula_text(step.numbers));
-    if (step.value) {
-        equals({{number_text(*step.value), Style::strong}});
-        if (!step.quantity.unit.empty()) append(formula, " " + std::string(step.quantity.unit), Style::plain);
-    }
+    // A number that is the value itself is printed once, as the value.
+    const bool is_number = step.value && plain_text(formula_text(step.numbers)) == number_text(*step.value);
+    if (!is_number || step.formula != step.numbers) equals(formula_text(step.formula));
+    if (!is_number) equals(formula_text(step.numbers));
+    if (step.value)
+        equals({{value_text(*step.value, step.quantity), Style::strong},
+                {with_unit("", step.quantity.unit), Style::plain}});
 
     const auto remark = [&line](const Pieces& pieces) {
+        if (pieces.empty()) return;
         if (!line.remark.empty()) append(line.remark, "; ", Style::note);
         append(line.remark, pieces);
     };
-    if (!step.condition.empty()) remark(formula_text(step.condition));
-    if (!step.governs.empty()) {
-        Pieces governs{{"governa ", Style::emphasis}};
-        append(governs, formula_text(step.governs));
-        remark(governs);
-    }
+    remark(formula_text(step.condition));
+    if (step.governs.empty() && !step.words.empty())
+        remark({{std::string(step.words) + std::string(more), Style::emphasis}});
+    remark(governing_text(step));
     if (!step.value)
         remark({{"non si può calcolare: " + std::string(fault_text(step.fault)), Style::emphasis}});
     if (!step.source.empty()) remark({{std::string(step.source), Style::note}});
+    if (step.words.empty() && !more.empty()) remark({{std::string(more), Style::note}});
     return line;
 }
 

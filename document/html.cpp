@@ -18,7 +18,7 @@ h3 { font-size: 11pt; margin: 4mm 0 1mm; }
 h1, h2, h3 { break-after: avoid; }
 p { margin: 1.5mm 0; }
 i { font-family: "Liberation Serif", "Times New Roman", serif; font-size: 1.05em; }
-sub, sup { font-size: 0.72em; line-height: 0; }
+sub { font-size: 0.72em; line-height: 0; }
 em { color: #8a3c00; font-style: normal; }
 .note { color: #555; font-size: 0.9em; }
 .formula { display: flex; justify-content: space-between; gap: 6mm; margin: 1mm 0 1mm 4mm; break-inside: avoid; }
@@ -77,8 +77,6 @@ Tags tags_of(Style style) {
             return {"<i>", "</i>"};
         case Style::subscript:
             return {"<sub>", "</sub>"};
-        case Style::superscript:
-            return {"<sup>", "</sup>"};
         case Style::code:
             return {"<code>", "</code>"};
         case Style::note:

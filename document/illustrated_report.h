@@ -1,29 +1,13 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
-#include "calculate/click.h"
 #include "document/document.h"
+#include "document/subject.h"
 
 // The illustrated report: a second document beside the two fixed ones, from which a checker follows each
 // figure to its rule without the program.
 namespace coltre {
-
-/// A calculation and where it was made: what the document tells of.
-struct Subject {
-    Fields fields;    ///< as they were when it was calculated
-    Outcome outcome;  ///< with its trace
-    SnowZone zone = 0;
-    bool zone_of_province = false;  ///< false: chosen by the designer
-    std::string province;           ///< empty where the site was not chosen by name
-    std::string municipality;
-    std::string listed_altitude;  ///< m, of the municipality in altitudini.txt; empty without one
-    double return_period = 50;    ///< Tr, years, as last typed
-    std::optional<double> confirmed_return_period;
-    std::string program;  ///< its version and build
-    std::string request;  ///< the request of the command that gives the same, one line of JSON
-};
 
 /// How much of it is written.
 enum class Layout {

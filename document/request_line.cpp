@@ -1,9 +1,21 @@
 #include "document/request_line.h"
 
+#include "calculate/return_period.h"
 #include "text/json_text.h"
 #include "text/number_text.h"
 
 namespace coltre {
+
+namespace {
+
+/// The return period that was confirmed or, without one, the refused one; empty where none was given.
+std::string return_period(const Subject& subject) {
+    if (!subject.return_period_text.empty()) return subject.return_period_text;
+    if (subject.confirmed_return_period) return shortest_number_text(*subject.confirmed_return_period);
+    return is_refused_return_period(subject.return_period) ? shortest_number_text(subject.return_period) : "";
+}
+
+}  // namespace
 
 std::string request_line(const Subject& subject) {
     const Fields& fields = subject.fields;
@@ -17,10 +29,11 @@ std::string request_line(const Subject& subject) {
     }
     if (!subject.zone_of_province) object.number("zona", subject.zone);
     object.text("altitudine", fields.asinput);
-    if (subject.confirmed_return_period) object.number("periodo-ritorno", *subject.confirmed_return_period);
+    if (const std::string Tr = return_period(subject); !Tr.empty()) object.text("periodo-ritorno", Tr);
     object.text("ce", fields.ComboEsp);
     object.text("ct", fields.TextCTermico);
     object.text("unita", fields.udmcombo);
+    if (!subject.job_name.empty()) object.text("lavoro", subject.job_name);
     auto typed = fields.entries.begin();
     for (const Entry& entry : calculation.entries) {
         // A comma counts as the locale has it, a point everywhere.

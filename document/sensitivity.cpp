@@ -16,11 +16,6 @@ void vary(std::vector<Variation>& variations, std::string what, const LoadInputs
     variations.push_back({std::move(what), worst_load(changed)});
 }
 
-std::string zone_name(SnowZone zone) {
-    std::string name(zone_caption(zone));
-    return name.substr(1, name.size() - 2);  // without its parentheses
-}
-
 void vary_ground_load(std::vector<Variation>& variations, const LoadInputs& inputs) {
     for (const double by : {-50.0, 50.0}) {
         LoadInputs changed = inputs;
@@ -45,7 +40,8 @@ void vary_ground_load(std::vector<Variation>& variations, const LoadInputs& inpu
     for (const int by : {-1, 1}) {
         LoadInputs changed = inputs;
         changed.zone = static_cast<SnowZone>(inputs.zone + by);
-        if (changed.zone >= 0 && changed.zone <= 3) vary(variations, zone_name(changed.zone), changed);
+        if (changed.zone >= 0 && changed.zone <= 3)
+            vary(variations, std::string(zone_name(changed.zone)), changed);
     }
 }
 
@@ -88,9 +84,8 @@ std::vector<Variation> variations(const LoadInputs& inputs) {
             if (slope && number < 0) continue;
             if (worst_load(changed) == now) continue;  // the slope of a level change, for one
             vary(variations,
-                 plain_text(symbol_text(entry.symbol)) + " = " + number_text(number) + " " +
-                     std::string(entry.unit) + " (" + (sign < 0 ? "− " : "+ ") + (slope ? "5°" : "10 %") +
-                     ")",
+                 plain_text(symbol_text(entry.symbol)) + " = " + with_unit(number_text(number), entry.unit) +
+                     " (" + (sign < 0 ? "− " : "+ ") + (slope ? "5°" : "10 %") + ")",
                  changed);
         }
     }

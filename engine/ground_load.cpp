@@ -11,6 +11,8 @@ namespace {
 
 using namespace quantities;
 
+constexpr std::string_view circular = "Circ. 4 luglio 1996";
+
 /// qsk = constant up to 200 m, else slope_load (1 + (altitude / reference)^2).
 struct ZoneLoad {
     double constant;    // kN/m2
@@ -35,8 +37,8 @@ Number base_load(Run<Number>& run, double altitude) {
     const ZoneLoad& zone = zone_loads[static_cast<std::size_t>(code)];
     const Number zona = run.entry("zona", code);
     const Number as = run.entry("as", altitude);
-    if (run.holds(zona == code && as <= constant_up_to)) return zone.constant;
-    run.holds(zona == code && as > constant_up_to);
+    if (run.holds(zona == code && as <= constant_up_to, "valore costante")) return zone.constant;
+    run.holds(zona == code && as > constant_up_to, "ramo crescente");
     return zone.slope_load * (1 + squared(as / zone.reference));
 }
 
@@ -47,7 +49,7 @@ Number load_factor(Run<Number>& run) {
     const ProgramCells& cells = run.cells();
     if constexpr (std::is_same_v<Number, Traced>) {
         if (cells.confirmed_return_period) {
-            run.source("Circ. 4 luglio 1996");
+            run.source(circular);
             return run.let("cT", coefficient,
                            return_period_factor(run.entry("Tr", *cells.confirmed_return_period)));
         }
@@ -73,6 +75,13 @@ Fault run_formulas(ProgramCells& cells, Trace* trace, Formulas formulas) {
 
 }  // namespace
 
+Fault set_return_period_factor(ProgramCells& cells, double Tr, Trace* trace) {
+    return run_formulas(cells, trace, [Tr](auto& run) {
+        run.source(circular);
+        run.store(&ProgramCells::return_period_factor, "cT", return_period_factor(run.entry("Tr", Tr)));
+    });
+}
+
 Fault set_base_load(ProgramCells& cells, double altitude, Trace* trace) {
     return run_formulas(cells, trace, [altitude](auto& run) {
         run.source("D.M. 16 gennaio 1996");
@@ -83,7 +92,7 @@ Fault set_base_load(ProgramCells& cells, double altitude, Trace* trace) {
 Fault apply_load_factors(ProgramCells& cells, double CE, double Ct, Trace* trace) {
     return run_formulas(cells, trace, [CE, Ct](auto& run) {
         const auto factor = load_factor(run);
-        run.source("Circ. 4 luglio 1996");
+        run.source(circular);
         run.store(&ProgramCells::qsk, "qsk",
                   run.stored(&ProgramCells::qsk, "q0") * factor * run.entry("CE", CE) * run.entry("Ct", Ct),
                   area_load);

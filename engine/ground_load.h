@@ -12,6 +12,12 @@ namespace coltre {
 /// the altitude as typed.
 inline constexpr double highest_regulated_altitude = 1500;
 
+/// Sets the return period factor of the ground load.
+/// @param Tr     years
+/// @param trace  takes the step; null if nobody asks for it
+/// @return a fault, see return_period_factor(), leaves the cell as it was
+Fault set_return_period_factor(ProgramCells& cells, double Tr, Trace* trace = nullptr);
+
 /// Sets the qsk cell to the characteristic ground load of the zone cell's zone, before the user's factors. A
 /// zone code outside 0 to 3 leaves the cell as it was. Constant up to and including 200 m, and not continuous
 /// there: zone II drops from 1.0 to 0.997 just above.

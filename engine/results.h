@@ -17,6 +17,7 @@ struct Quantity {
 namespace quantities {
 inline constexpr Quantity coefficient{"", 4}, area_load{"kN/m²", 4}, line_load{"kN/m", 3}, length{"m", 2},
     slope{"°", 2};
+inline constexpr Quantity exact_length{"m", 4};  // on the way to a result
 }  // namespace quantities
 
 /// A result cell under the name that users see.

@@ -10,17 +10,26 @@ using namespace results;
 
 constexpr std::string_view circular = "Circ. 4 luglio 1996";
 
-/// The branches of a formula are those of the run.
-template <typename Number>
-auto branches(Run<Number>& run) {
-    return [&run](const auto& condition) { return run.holds(condition); };
+/// A coefficient's cell set for a pitch; of a negative one it is what was there before.
+/// @param previous  symbol of that   @param mu  the coefficient's function
+template <typename Number, typename Function>
+Number set_coefficient(Run<Number>& run, double ProgramCells::*cell, Symbol symbol, Symbol previous,
+                       const Number& alfa, Function mu) {
+    const bool kept = alfa.value() < 0;
+    if (kept) run.source("regola del programma: un'inclinazione negativa lascia il coefficiente com'era");
+    const Number before = kept ? run.stored(cell, previous) : Number(0);
+    const Number value = run.store(cell, symbol, mu(alfa, before, [&run](const auto& condition, auto words) {
+                                       return run.holds(condition, words);
+                                   }));
+    run.source(circular);
+    return value;
 }
 
-/// The mu1 cell set for a pitch; of a negative one it is what was there before.
 template <typename Number>
 Number set_mu1(Run<Number>& run, Symbol symbol, const Number& alfa) {
-    const Number before = alfa.value() < 0 ? run.stored(&ProgramCells::mu1, "mu1_precedente") : Number(0);
-    return run.store(&ProgramCells::mu1, symbol, mu1(alfa, before, branches(run)));
+    return set_coefficient(
+        run, &ProgramCells::mu1, symbol, "mu1_precedente", alfa,
+        [](const Number& pitch, const Number& before, auto holds) { return mu1(pitch, before, holds); });
 }
 
 /// The roof load of a coefficient, and the coefficient under the label of its load case.
@@ -65,8 +74,9 @@ void set_side(Run<Number>& run, const Side& side, const Number& alfa) {
 
 template <typename Number>
 Number qe(Run<Number>& run, const Number& qs, std::string_view qs_name) {
-    const Number d = run.let({"d", qs_name}, length, qs / 3);
-    const Number k = run.let({"k", qs_name}, coefficient, min(3 / d, 3 * d));
+    const Number d = run.let({"d", qs_name}, exact_length, qs / 3);
+    const Number k = run.let({"k", qs_name}, coefficient,
+                             min(in_words(3 / d, "qs ≥ 3 kN/m²"), in_words(3 * d, "qs < 3 kN/m²")));
     return squared(qs) * k / 3;
 }
 
@@ -100,8 +110,9 @@ void several_pitches(Run<Number>& run, const Entries& entries) {
     constexpr std::string_view valley = "mu2((alfa1+alfa2)/2)";
     const Number mean = run.let("alfa_m", slope, (alfa1 + alfa2) / 2);
     if (run.stops(mean, "mu2")) return;
-    const Number before = mean.value() < 0 ? run.stored(&ProgramCells::mu2, "mu2_precedente") : Number(0);
-    const Number mu_valley = run.store(&ProgramCells::mu2, "mu2", mu2(mean, before, branches(run)));
+    const Number mu_valley = set_coefficient(
+        run, &ProgramCells::mu2, "mu2", "mu2_precedente", mean,
+        [](const Number& pitch, const Number& before, auto holds) { return mu2(pitch, before, holds); });
     run.load_case(valley, mu_valley, set_roof_load(run, valley, qs_3c, mu_valley));
 }
 
@@ -113,13 +124,13 @@ void cylindrical(Run<Number>& run, const Entries& entries) {
 
     // Radius of the arc through the two springings and the crown; the same as (L^2 / 4 + H^2) / (2 H).
     const Number radius = L / 2 * tan(2 * arctan((L - 2 * H) / (L + 2 * H))) + H;
-    if (run.holds(L / 2 < H)) {
-        run.let("R", length, refused(radius, Fault::incongruent_dimensions));
+    if (run.holds(L / 2 < H, "l'altezza supera metà della larghezza")) {
+        run.let("R", exact_length, refused(radius, Fault::incongruent_dimensions));
         run.stops(Fault::incongruent_dimensions, {});
         return;
     }
     run.holds(L / 2 >= H);
-    const Number R = run.let("R", length, radius);
+    const Number R = run.let("R", exact_length, radius);
     // The chord between the points of the arc that slope by 60 degrees. For a shallow arc it comes out wider
     // than the roof, and is kept so.
     const Number width = run.set(L1, 2 * R * cos(Number(30) / 180 * 4 * arctan(Number(1))));
@@ -127,7 +138,9 @@ void cylindrical(Run<Number>& run, const Entries& entries) {
 
     constexpr double highest_mu3 = 2;
     const Number mu1 = run.store(&ProgramCells::mu1, "mu1", Number(0.8));
-    const Number mu3 = run.store(&ProgramCells::mu3, "mu3", min(10 * H / L + 0.2, Number(highest_mu3)));
+    const Number free_mu3 = run.let("mu3_formula", coefficient, 10 * H / L + 0.2);
+    const Number mu3 = run.store(&ProgramCells::mu3, "mu3",
+                                 min(free_mu3, in_words(Number(highest_mu3), "limite superiore 2,0")));
     const Number mu2 = run.store(&ProgramCells::mu2, "mu2", 0.5 * mu3);
 
     const Number qs_uniform = set_roof_load(run, "mu1", qs_4a, mu1);

@@ -28,7 +28,7 @@ class NoTracer {
   public:
     explicit NoTracer(Trace* /*trace*/) {}
 
-    static bool holds(bool condition) { return condition; }
+    static bool holds(bool condition, std::string_view /*words*/) { return condition; }
     static Checked quantity(Symbol /*symbol*/, Checked value) { return value; }
     static Checked stored(double ProgramCells::* /*cell*/, double value, Symbol /*fallback*/) {
         return value;
@@ -36,6 +36,7 @@ class NoTracer {
     static Checked step(Symbol /*symbol*/, Quantity /*quantity*/, Checked value) { return value; }
     static void remember(double ProgramCells::* /*cell*/, const Checked& /*value*/) {}
     static void source(std::string_view /*source*/) {}
+    static void words(std::string_view /*words*/) {}
 };
 
 /// Keeps the steps.
@@ -44,8 +45,11 @@ class Tracer {
     explicit Tracer(Trace* trace) : m_trace(*trace) {}
 
     /// Keeps a condition that holds for the next step: it has chosen its formula.
-    bool holds(const Condition& condition) {
-        if (condition.holds) m_condition = condition;
+    bool holds(const Condition& condition, std::string_view words) {
+        if (condition.holds) {
+            m_condition = condition;
+            m_words = words;
+        }
         return condition.holds;
     }
     /// A number that formulas call by a symbol of the data.
@@ -63,10 +67,12 @@ class Tracer {
         m_cells.emplace_back(cell, value.symbols());
     }
     void source(std::string_view source) { m_source = source; }
+    void words(std::string_view words) { m_words = words; }
 
   private:
     Trace& m_trace;
     Condition m_condition{};
+    std::string_view m_words;  // of the next step, unless a limit has some
     std::string_view m_source;
     std::vector<std::pair<double ProgramCells::*, std::string>> m_cells;  // set by this run, and as what
 };
@@ -83,10 +89,14 @@ class Run {
     /// Where the formulas that follow come from.
     void source(std::string_view source) { m_tracing.source(source); }
 
+    /// What is to be said of the next step, in Italian.
+    void words(std::string_view words) { m_tracing.words(words); }
+
     /// Takes a branch: true if the condition holds. The next step comes about by it.
+    /// @param words  Italian: what the branch is called
     template <typename Comparison>
-    bool holds(const Comparison& condition) {
-        return m_tracing.holds(condition);
+    bool holds(const Comparison& condition, std::string_view words = {}) {
+        return m_tracing.holds(condition, words);
     }
 
     /// A number that the calculation starts from.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "engine/run.h"
 
 // Special load cases: abrupt change of roof level, drift against a wall, force on snow guards. The ground
@@ -21,10 +23,12 @@ template <typename Number>
 void snow_guard(Run<Number>& run, const Entries& entries);
 
 /// Length of a drift, m: twice the height of the step or wall, between 5 and 15 m.
-/// @param h  m
-template <typename Number>
-Number drift_length(const Number& h) {
-    return clamp(2 * h, Number(5), Number(15));
+/// @param h      m
+/// @param named  what takes the length before its limits, and gives it back
+template <typename Number, typename Named = std::identity>
+Number drift_length(const Number& h, Named named = {}) {
+    return clamp(Number(named(2 * h)), in_words(Number(5), "limite inferiore 5 m"),
+                 in_words(Number(15), "limite superiore 15 m"));
 }
 
 /// Whether the drift of a level change reaches the end of the lower roof, or just ends there, and is cut.

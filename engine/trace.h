@@ -35,6 +35,7 @@ struct Step {
     std::string governs{};            ///< the operand of a min or max that gave the value; empty without one
     Quantity quantity{};
     std::string_view source{};  ///< where the formula comes from
+    std::string_view words{};   ///< Italian: what the branch or the limit that governed means
 };
 
 /// How a calculation came about: what it started from and its steps, in their order.

@@ -68,6 +68,7 @@ Traced Traced::choose(const char* function, const Traced& a, const Traced& b, Ch
                   std::string(function) + "(" + a.m_numbers + ", " + b.m_numbers + ")", Binding::atom);
     const Traced& winner = second ? b : a;
     chosen.m_governs = winner.m_governs.empty() ? winner.m_symbols : winner.m_governs;
+    chosen.m_words = winner.m_words;
     return chosen;
 }
 
@@ -124,6 +125,11 @@ Traced min(const Traced& a, const Traced& b) {
 
 Traced max(const Traced& a, const Traced& b) {
     return Traced::choose("max", a, b, max(a.m_value, b.m_value), a.m_value < b.m_value);
+}
+
+Traced in_words(Traced a, std::string_view words) {
+    a.m_words = words;
+    return a;
 }
 
 Traced refused(const Traced& a, Fault fault) {

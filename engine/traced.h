@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "engine/checked.h"
 
@@ -40,6 +41,8 @@ class Traced {
     [[nodiscard]] const std::string& numbers() const { return m_numbers; }
     /// The operand that a min or max took, in symbols; of nested limits the innermost. Empty without one.
     [[nodiscard]] const std::string& governs() const { return m_governs; }
+    /// What that operand means, in Italian; empty where its symbols tell enough.
+    [[nodiscard]] std::string_view words() const { return m_words; }
 
     friend Traced operator+(const Traced& a, const Traced& b);
     friend Traced operator-(const Traced& a, const Traced& b);
@@ -54,6 +57,8 @@ class Traced {
     friend Traced min(const Traced& a, const Traced& b);
     friend Traced max(const Traced& a, const Traced& b);
 
+    /// @param words  of static lifetime: what it means that a min or max took this operand
+    friend Traced in_words(Traced a, std::string_view words);
     friend Traced refused(const Traced& a, Fault fault);
 
     friend Condition operator<(const Traced& a, const Traced& b);
@@ -77,6 +82,7 @@ class Traced {
     std::string m_symbols;
     std::string m_numbers;
     std::string m_governs;
+    std::string_view m_words;
     Binding m_binding = Binding::atom;
 };
 

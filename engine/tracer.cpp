@@ -28,12 +28,18 @@ Traced Tracer::step(Symbol symbol, Quantity quantity, const Traced& value) {
               .fault = value.fault(),
               .condition = m_condition.symbols,
               .condition_numbers = m_condition.numbers,
-              .governs = value.fault() == Fault::none ? value.governs() : std::string(),
+              .governs = {},
               .quantity = quantity,
-              .source = m_source};
-    if (value.fault() == Fault::none) step.value = value.value();
+              .source = m_source,
+              .words = m_words};
+    if (value.fault() == Fault::none) {
+        step.value = value.value();
+        step.governs = value.governs();
+        if (!step.governs.empty()) step.words = value.words();
+    }
     m_trace.steps.push_back(std::move(step));
     m_condition = {};
+    m_words = {};
     return Traced::named(name, value.checked());
 }
 

@@ -44,6 +44,28 @@ void keep_text(std::string_view symbol, const std::string* text, Trace& trace) {
     if (text != nullptr && datum != trace.data.end()) datum->text = *text;
 }
 
+/// Confirms the return period. One that has no factor stops the calculation before it begins.
+Outcome confirm_return_period(const std::string& Tr, const Fields& fields, ProgramCells& cells) {
+    Outcome outcome;
+    outcome.entries.kind = fields.kind;
+    if (fields.traced) outcome.trace = Trace{{zone_datum(cells)}, {}};
+    ReturnPeriodOutcome period = confirm_return_period(Tr, cells, trace_of(outcome));
+    if (period.message) outcome.messages.push_back(*std::move(period.message));
+    outcome.fault = period.fault;
+    return outcome;
+}
+
+Outcome calculate_fields(const Request& request, const Fields& fields, Program& program, Messages& messages) {
+    if (const std::string* const Tr = request.value(keys::periodo_ritorno)) {
+        Outcome outcome = confirm_return_period(*Tr, fields, program.cells);
+        if (outcome.fault != Fault::none) return outcome;
+        append(messages, std::move(outcome.messages));
+    }
+    if (describe(fields.kind).window == Window::special_cases) return Calcola2(fields, program);
+    if (auto notice = altitude_notice(fields)) messages.push_back(std::move(notice->message));
+    return Calcola(fields, program);
+}
+
 /// Writes the illustrated report that the request asks for. What goes wrong is the request's error, unless
 /// the calculation has failed before.
 void write_illustrated_report(const Request& request, Subject subject, Answer& result) {
@@ -105,21 +127,8 @@ Answer perform(const Request& request, const Environment& environment, SiteMemor
     if (const std::string* const given = request.value(keys::zona)) program.cells.zone = *zone_of(*given);
     result.zone = program.cells.zone;
 
-    if (const std::string* const Tr = request.value(keys::periodo_ritorno)) {
-        ReturnPeriodOutcome outcome = confirm_return_period(*Tr, program.cells);
-        if (outcome.message) result.messages.push_back(*std::move(outcome.message));
-        if (outcome.fault != Fault::none) {
-            result.fail(End::failed_with_message, std::string(fault_text(outcome.fault)));
-            return result;
-        }
-    }
-
     const Fields fields = fields_of(request, std::move(altitude), environment.decimal_separator);
-    const bool main_window = describe(fields.kind).window == Window::main;
-    if (main_window) {
-        if (auto notice = altitude_notice(fields)) result.messages.push_back(std::move(notice->message));
-    }
-    Outcome outcome = main_window ? Calcola(fields, program) : Calcola2(fields, program);
+    Outcome outcome = calculate_fields(request, fields, program, result.messages);
     append(result.messages, outcome.messages);
     if (outcome.trace) keep_text("zona", request.value(keys::zona), *outcome.trace);
     if (outcome.trace) keep_text("Tr", request.value(keys::periodo_ritorno), *outcome.trace);
@@ -136,8 +145,10 @@ Answer perform(const Request& request, const Environment& environment, SiteMemor
     if (request.value(keys::illustrata) != nullptr) {
         subject.fields = fields;
         subject.outcome = std::move(outcome);
+        subject.job_name = program.directories.JobName;
         subject.zone = program.cells.zone;
         subject.return_period = program.cells.return_period;
+        subject.return_period_text = request.value_or(keys::periodo_ritorno, "");
         subject.confirmed_return_period = program.cells.confirmed_return_period;
         write_illustrated_report(request, std::move(subject), result);
     }

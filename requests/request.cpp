@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "report/unit_systems.h"
+#include "text/characters.h"
 #include "text/number_reading.h"
 #include "text/number_text.h"
 
@@ -37,6 +38,24 @@ std::string missing_value(const Request& request) {
     if (!has_zone && !has_altitude) return "manca il sito: provincia e comune, oppure zona e altitudine";
     if (!has_zone) return missing(zona);
     if (!has_altitude) return missing(altitudine);
+    return {};
+}
+
+/// What is wrong with the illustrated report that is asked for, in Italian; empty if nothing is.
+std::string illustrated_report_error(const Request& request) {
+    const std::string* const file = request.value(illustrata);
+    if (file == nullptr) {
+        const Key* const vain = request.value(impaginazione) != nullptr ? &impaginazione
+                                : request.flag(sovrascrivi)             ? &sovrascrivi
+                                                                        : nullptr;
+        return vain == nullptr ? "" : in_quotes(vain->name) + " serve solo con " + in_quotes(illustrata.name);
+    }
+    if (file->empty()) return "manca il nome del file di " + in_quotes(illustrata.name);
+    if (!lower_case(*file).ends_with(".html"))
+        return "il file di " + in_quotes(illustrata.name) + " deve finire in .html: " + in_quotes(*file);
+    const std::string* const layout = request.value(impaginazione);
+    if (layout != nullptr && !layout_of(*layout))
+        return "l'impaginazione deve essere completa, sintetica o passaggi: " + in_quotes(*layout);
     return {};
 }
 
@@ -150,12 +169,7 @@ std::string validation_error(const Request& request) {
             return "la cartella di " + in_quotes(key.name) + " contiene un carattere nullo";
         }
     }
-    if (const std::string* const file = request.value(illustrata); file != nullptr && file->empty())
-        return "manca il nome del file di " + in_quotes(illustrata.name);
-    if (const std::string* const layout = request.value(impaginazione);
-        layout != nullptr && !layout_of(*layout))
-        return "l'impaginazione deve essere completa, sintetica o passaggi: " + in_quotes(*layout);
-    return {};
+    return illustrated_report_error(request);
 }
 
 std::vector<std::string> partly_understood(const Request& request) {

@@ -68,7 +68,6 @@ bool is_too_large(std::string_view number) {
 
 /// A number_length() text as a double; true in `beyond_range` for one that is too large.
 double to_double(std::string_view number, bool& beyond_range) {
-    if (number[0] == '+') number.remove_prefix(1);
     double value = 0;
     const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
     if (error != std::errc::result_out_of_range) return value;
@@ -83,7 +82,9 @@ LenientNumber read_leniently(std::string_view text) {
     const std::size_t length = number_length(text);
     LenientNumber number;
     number.wholly_understood = length > 0 && length == text.size();
-    if (length > 0) number.value = to_double(text.substr(0, length), number.beyond_range);
+    if (length == 0) return number;
+    number.digits = text.substr(text[0] == '+' ? 1 : 0, length - (text[0] == '+' ? 1 : 0));
+    number.value = to_double(number.digits, number.beyond_range);
     return number;
 }
 
@@ -92,11 +93,10 @@ StrictNumber read_strictly(std::string_view text, char decimal_separator) {
     for (char& c : number) {
         if (c == decimal_separator) c = '.';
     }
-    if (number.empty() || number_length(number) != number.size()) return {};
-    bool beyond_range = false;
-    const double value = to_double(number, beyond_range);
-    if (beyond_range) return {StrictNumber::Verdict::beyond_range, 0};
-    return {StrictNumber::Verdict::number, value};
+    const LenientNumber read = read_leniently(number);
+    if (!read.wholly_understood) return {};
+    if (read.beyond_range) return {StrictNumber::Verdict::beyond_range, 0};
+    return {StrictNumber::Verdict::number, read.value};
 }
 
 }  // namespace coltre

@@ -10,6 +10,7 @@ struct LenientNumber {
     double value = 0;               ///< 0 where the text starts with no number, and where it is too large
     bool beyond_range = false;      ///< the number is larger than any double: a numeric error for who uses it
     bool wholly_understood = true;  ///< nothing but blanks was left over, and there was a number
+    std::string_view digits;        ///< the number as it was written, without a plus sign; empty without one
 };
 
 /// Lenient reading: surrounding blanks are removed, then an optional sign, digits with at most one

@@ -277,6 +277,7 @@ void Form1::keep(const Fields& fields, const Outcome& outcome) {
     Subject subject;
     subject.fields = fields;
     subject.outcome = outcome;
+    subject.job_name = m_program.directories.JobName;
     subject.zone = m_program.cells.zone;
     subject.return_period = m_program.cells.return_period;
     subject.confirmed_return_period = m_program.cells.confirmed_return_period;

@@ -9,11 +9,10 @@ namespace coltre {
 
 namespace {
 
-/// Without a style of its own a square would be a factor of two.
 QString plain_words(const Pieces& pieces) {
     QString text;
     for (const Piece& piece : pieces)
-        text += (piece.style == Style::superscript ? "^" : "") + shown_text(piece);
+        text += shown_text(piece);
     return text.replace('\t', ' ');
 }
 
@@ -25,8 +24,6 @@ const char* tag_of(Style style) {
             return "i";
         case Style::subscript:
             return "sub";
-        case Style::superscript:
-            return "sup";
         default:
             return nullptr;
     }
@@ -70,12 +67,13 @@ std::vector<Pieces> sides_of(const Pieces& formula) {
 /// @return false if it is something else: a calculation that stopped ends with a formula
 bool take_value(const Pieces& side, Parts& parts) {
     const std::string text = plain_text(side);
-    const std::size_t blank = std::min(text.find(' '), text.size());
+    const std::size_t degree = text.find("°");
+    const std::size_t blank = std::min({text.find(' '), degree, text.size()});
     if (text.find_first_of("0123456789") >= blank) return false;
     if (text.find_first_not_of("0123456789,e+-−") < blank) return false;
     if (text.find_first_of("0123456789", blank) != std::string::npos) return false;
     parts[value] = {{text.substr(0, blank), side.front().style}};
-    if (blank < text.size()) parts[unit] = {{text.substr(blank + 1), Style::plain}};
+    if (blank < text.size()) parts[unit] = {{text.substr(blank + (blank == degree ? 0 : 1)), Style::plain}};
     return true;
 }
 

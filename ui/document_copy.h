@@ -7,8 +7,8 @@
 // What other programs get of a document by the clipboard.
 namespace coltre {
 
-/// The document as plain text, a block a line: "as > 200" stands behind its formula in brackets, a square is
-/// "^2". Figures leave their caption.
+/// The document as plain text, a block a line: "as > 200" stands behind its formula in brackets. Figures
+/// leave their caption.
 QString copied_text(const Document& document);
 
 /// A table for spreadsheets, and for word processors the same with subscripts.

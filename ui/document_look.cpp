@@ -54,9 +54,6 @@ QTextCharFormat text_format(Style style, const DocumentLook& look) {
         case Style::subscript:
             format.setVerticalAlignment(QTextCharFormat::AlignSubScript);
             break;
-        case Style::superscript:
-            format.setVerticalAlignment(QTextCharFormat::AlignSuperScript);
-            break;
         case Style::code:
             set_families(format, {QStringLiteral("Liberation Mono"), QStringLiteral("Courier New")},
                          QFont::Monospace);

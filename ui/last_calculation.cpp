@@ -13,6 +13,9 @@ LastCalculation::LastCalculation(QWidget& main_window, UserDialogs& dialogs)
 }
 
 void LastCalculation::keep(Subject subject) {
+    subject.last_roof_load = m_last_roof_load;
+    if (subject.is_roof() && subject.outcome.complete)
+        m_last_roof_load = worst_load(subject.outcome.calculation)->value;
     subject.program = "Coltre " + std::string(version_and_build());
     subject.request = request_line(subject);
     m_subject = std::move(subject);

@@ -32,8 +32,9 @@ class LastCalculation {
     QWidget& m_main_window;
     UserDialogs& m_dialogs;
     std::optional<Subject> m_subject;
-    ReportChoices m_choices;        // what was typed in the heading stays for the run
-    QPointer<StepsWindow> m_steps;  // made when it is first asked for
+    std::optional<double> m_last_roof_load;  // kN/m2, greatest of the last roof
+    ReportChoices m_choices;                 // what was typed in the heading stays for the run
+    QPointer<StepsWindow> m_steps;           // made when it is first asked for
 };
 
 }  // namespace coltre

@@ -5,14 +5,12 @@
 namespace coltre {
 namespace {
 
-/// The pieces with their styles: subscripts in _{}, superscripts in ^{}.
+/// The pieces with their styles: subscripts in _{}.
 std::string marked(const Pieces& pieces) {
     std::string text;
     for (const Piece& piece : pieces) {
         if (piece.style == Style::subscript) {
             text += "_{" + piece.text + "}";
-        } else if (piece.style == Style::superscript) {
-            text += "^{" + piece.text + "}";
         } else {
             text += piece.text;
         }
@@ -22,7 +20,7 @@ std::string marked(const Pieces& pieces) {
 
 TEST(FormulaText, IsPrintedAsAnEngineerWritesIt) {
     for (const auto& [formula, printed] : std::vector<std::pair<const char*, const char*>>{
-             {"1.39 * (1 + (as / 728)^2)", "1,39 · (1 + (a_{s}/728)^{2})"},
+             {"1.39 * (1 + (as / 728)^2)", "1,39 · (1 + (a_{s}/728)²)"},
              {"0.5 * mu1_alfa1", "0,5 · µ_{1}(α_{1})"},
              {"mu1_alfa2_dimezzato * qsk", "µ_{1,½}(α_{2}) · q_{sk}"},
              {"min(3 / d_qs_2a, 3 * d_qs_2a)", "min(3/d_{2a}; 3 · d_{2a})"},
@@ -54,17 +52,18 @@ TEST(NumberText, HasFourDecimalsOrFourSignificantDigits) {
 TEST(StepLine, SaysNothingTwice) {
     Step step{
         .symbol = "mu1", .formula = "0.8", .numbers = "0.8", .value = 0.8, .condition = "0 <= alfa <= 30"};
-    EXPECT_EQ(plain_text(step_line(step).formula), "µ1 = 0,8");
+    EXPECT_EQ(plain_text(step_line(step).formula), "µ1 = 0,8000");
     EXPECT_EQ(plain_text(step_line(step).remark), "0 ≤ α ≤ 30");
     step = {.symbol = "ls",
             .formula = "min(max(2 * h, 5), 15)",
             .numbers = "min(max(2 * 2, 5), 15)",
             .value = 5,
             .governs = "5",
-            .quantity = quantities::length};
+            .quantity = quantities::length,
+            .words = "limite inferiore 5 m"};
     EXPECT_EQ(plain_text(step_line(step).formula),
-              "ls = min(max(2 · h; 5); 15) = min(max(2 · 2; 5); 15) = 5 m");
-    EXPECT_EQ(plain_text(step_line(step).remark), "governa 5");
+              "ls = min(max(2 · h; 5); 15) = min(max(2 · 2; 5); 15) = 5,00 m");
+    EXPECT_EQ(plain_text(step_line(step).remark), "limite inferiore 5 m");
     step = {.symbol = "k_qs_1",
             .formula = "min(3 / d_qs_1, 3 * d_qs_1)",
             .numbers = "min(3 / 0, 3 * 0)",

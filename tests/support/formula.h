@@ -98,7 +98,8 @@ class FormulaReader {
     double number() {
         double value = 0;
         const auto end = std::from_chars(m_rest.data(), m_rest.data() + m_rest.size(), value);
-        m_well_formed = m_well_formed && end.ec == std::errc();
+        m_finite = m_finite && end.ec == std::errc();
+        m_well_formed = m_well_formed && end.ec != std::errc::invalid_argument;
         m_rest.remove_prefix(static_cast<std::size_t>(end.ptr - m_rest.data()));
         return value;
     }

@@ -7,10 +7,6 @@
 
 namespace coltre {
 
-inline Pieces plain(std::string text) {
-    return {{std::move(text), Style::plain}};
-}
-
 /// The steps of a two-pitch roof, with its figure.
 inline Document sample_steps() {
     Document document;
