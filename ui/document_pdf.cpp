@@ -6,7 +6,6 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QTextLayout>
 #include <algorithm>
 #include <functional>
 #include <memory>
@@ -14,6 +13,7 @@
 
 #include "ui/document_look.h"
 #include "ui/pagination.h"
+#include "ui/text_box.h"
 
 namespace coltre {
 
@@ -34,7 +34,6 @@ constexpr double header_line = text_top - 4 * mm;
 constexpr double footer_line = text_top + text_height_a_page + 3 * mm;
 
 constexpr double letters = 10 * point;
-constexpr double line_height = 1.32;  // of the letters
 constexpr double between_columns = 6 * mm;
 constexpr double cell_side = 2.2 * mm;
 constexpr double cell_above = 0.8 * mm;
@@ -50,98 +49,6 @@ DocumentLook page_look(double size = letters) {
     return look;
 }
 
-/// A text with its styles, laid out in lines. Shared by the items that paint it.
-class TextBox {
-  public:
-    TextBox(const Pieces& pieces, const DocumentLook& look) : TextBox(look.font) {
-        QString text;
-        QList<QTextLayout::FormatRange> formats;
-        for (const Piece& piece : pieces) {
-            const QString shown = shown_text(piece);
-            if (piece.style != Style::plain)
-                formats.push_back({static_cast<int>(text.size()), static_cast<int>(shown.size()),
-                                   text_format(piece.style, look)});
-            text += shown;
-        }
-        m_layout.setText(text);
-        m_layout.setFormats(formats);
-    }
-    TextBox(const QString& text, const QTextCharFormat& format, const DocumentLook& look)
-        : TextBox(look.font) {
-        m_layout.setText(text);
-        m_layout.setFormats({{0, static_cast<int>(text.size()), format}});
-    }
-
-    /// Width in one line.
-    double natural_width() {
-        if (m_layout.lineCount() == 0) lay_out(unlimited);
-        return m_layout.maximumWidth();
-    }
-
-    /// @param hanging  indent of all lines but the first
-    void lay_out(double width, Qt::Alignment alignment = Qt::AlignLeft, double hanging = 0) {
-        QTextOption option(alignment);
-        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-        m_layout.setTextOption(option);
-        m_layout.beginLayout();
-        m_tops = {0};
-        for (double indent = 0;; indent = hanging) {
-            QTextLine line = m_layout.createLine();
-            if (!line.isValid()) break;
-            line.setLineWidth(width - indent);
-            const double height = std::max(line.height(), m_layout.font().pixelSize() * line_height);
-            line.setPosition({indent, m_tops.back() + (height - line.height()) / 2});
-            m_tops.push_back(m_tops.back() + height);
-        }
-        m_layout.endLayout();
-    }
-
-    /// Has lines break before an equals sign where they are to be no wider than this.
-    void break_before_equals(double width) {
-        QString text = m_layout.text();
-        lay_out(unlimited);
-        const QTextLine line = m_layout.lineAt(0);
-        double begin = 0;
-        double last_x = 0;
-        qsizetype last = -1;
-        const auto break_at_last = [&] {
-            if (last < 0) return;
-            text[last] = QChar::LineSeparator;
-            begin = last_x;
-            last = -1;
-        };
-        for (qsizetype at = text.indexOf(" = "); at >= 0; at = text.indexOf(" = ", at + 1)) {
-            const double x = line.cursorToX(static_cast<int>(at));
-            if (x - begin > width) break_at_last();
-            last = at;
-            last_x = x;
-        }
-        if (line.naturalTextWidth() - begin > width) break_at_last();
-        m_layout.setText(text);
-    }
-
-    [[nodiscard]] double height() const { return m_tops.back(); }
-    [[nodiscard]] int lines() const { return m_layout.lineCount(); }
-    [[nodiscard]] double height_of_line(int i) const { return top_of_line(i + 1) - top_of_line(i); }
-
-    void paint(QPainter& painter, QPointF at) const { m_layout.draw(&painter, at); }
-    void paint_line(QPainter& painter, int i, QPointF at) const {
-        m_layout.lineAt(i).draw(&painter, at - QPointF(0, top_of_line(i)));
-    }
-
-  private:
-    static constexpr double unlimited = 1e6;
-
-    [[nodiscard]] double top_of_line(int i) const { return m_tops[static_cast<std::size_t>(i)]; }
-
-    explicit TextBox(const QFont& font) {
-        m_layout.setFont(font);
-        m_layout.setCacheEnabled(true);
-    }
-
-    QTextLayout m_layout;
-    std::vector<double> m_tops{0};  // of the lines, and the end of the last
-};
 using SharedText = std::shared_ptr<TextBox>;
 
 /// A row of a table, ready to be painted.

@@ -12,6 +12,29 @@
 
 namespace coltre {
 
+namespace {
+
+constexpr int least_width_for_figure_beside = 1100;  // pixels of the window
+
+double line_width(const QTextBrowser& page) {
+    constexpr double document_margin = 4;
+    return page.viewport()->width() - 2 * document_margin;
+}
+
+/// A document with its figures apart.
+struct Parts {
+    Document steps, figures;
+};
+
+Parts parts_of(const Document& document) {
+    Parts parts;
+    for (const Block& block : document.blocks)
+        (std::holds_alternative<Figure>(block) ? parts.figures : parts.steps).blocks.push_back(block);
+    return parts;
+}
+
+}  // namespace
+
 StepsWindow::StepsWindow(QWidget* parent)
     : QDialog(parent, Qt::Window), m_ui(std::make_unique<Ui::StepsWindow>()) {
     m_ui->setupUi(this);
@@ -36,22 +59,25 @@ void StepsWindow::show_document(const Document& document) {
 void StepsWindow::redraw() {
     if (!m_document) return;
     const DocumentLook look{font(), palette().color(QPalette::Text), palette().color(QPalette::Base)};
-    m_drawn_width = line_width();
+    const Parts parts = parts_of(*m_document);
+    const bool beside = width() >= least_width_for_figure_beside && !parts.figures.blocks.empty();
+    m_ui->figura->setVisible(beside);
+    layout()->activate();  // the text is as wide as the figure leaves it
+    m_drawn_width = line_width(*m_ui->passaggi);
     QScrollBar* const bar = m_ui->passaggi->verticalScrollBar();
     const int height = bar->value();
-    write_text(*m_document, look, {.width = m_drawn_width, .dots = devicePixelRatioF()},
-               *m_ui->passaggi->document());
+    const auto draw = [&](const Document& document, QTextBrowser& page) {
+        write_text(document, look, {.width = line_width(page), .dots = devicePixelRatioF()},
+                   *page.document());
+    };
+    draw(beside ? parts.steps : *m_document, *m_ui->passaggi);
+    if (beside) draw(parts.figures, *m_ui->figura);
     m_ui->passaggi->moveCursor(QTextCursor::Start);
     bar->setValue(height);
 }
 
-double StepsWindow::line_width() const {
-    constexpr double document_margin = 4;
-    return m_ui->passaggi->viewport()->width() - 2 * document_margin;
-}
-
 bool StepsWindow::eventFilter(QObject* object, QEvent* event) {
-    if (event->type() == QEvent::Resize && m_drawn_width != line_width()) redraw();
+    if (event->type() == QEvent::Resize && m_drawn_width != line_width(*m_ui->passaggi)) redraw();
     return QDialog::eventFilter(object, event);
 }
 

@@ -16,7 +16,8 @@ class StepsWindow;
 /// What stands in place of steps and of a report before the first calculation.
 inline constexpr std::string_view no_calculation_yet = "Nessun calcolo eseguito: premere Calcola.";
 
-/// The window "Passaggi del calcolo": how the results came about, formula by formula. It is not modal; its
+/// The window "Passaggi del calcolo": how the results came about, formula by formula, with the figure
+/// beside them where it is wide enough. It is not modal; its
 /// owner hands it the document of each calculation, whether it is open or not.
 class StepsWindow : public QDialog {
     Q_OBJECT
@@ -36,7 +37,6 @@ class StepsWindow : public QDialog {
 
   private:
     void redraw();
-    [[nodiscard]] double line_width() const;
     void copy_as_text() const;
     void copy_as_table() const;
 

@@ -97,9 +97,9 @@ TEST(Steps, AddUpForRandomClicks) {
     std::mt19937 random(19960116);
     const auto pick = [&](const auto& texts) { return std::string(texts[random() % std::size(texts)]); };
     constexpr std::string_view lengths[] = {"0",     "0.1", "1",     "2.5", "4", "8",
-                                            "12.75", "30",  "1e200", "-3",  "x"};
+                                            "12.75", "30",  "1e200", "-3",  "x", "-1e400"};
     constexpr std::string_view slopes[] = {"0", "10", "15.01", "30", "35", "45.5", "60", "75", "-5", "1e308"};
-    constexpr std::string_view altitudes[] = {"0", "200", "200.5", "239", "1600", "1e160"};
+    constexpr std::string_view altitudes[] = {"0", "200", "200.5", "239", "1600", "1e160", "1e400"};
     constexpr std::string_view coefficients[] = {"1", "1", "0.9", "1.1", "0", "-1", "1e-310", "1e300"};
     constexpr std::string_view return_periods[] = {"", "", "10", "50", "500", "1.02", "0.5", "1e300"};
     Program program;

@@ -43,6 +43,25 @@ TEST(Batch, GoesOnAfterALineThatIsNoRequest) {
                                     no_object, HasSubstr("più lunga"), ""));
 }
 
+TEST(Batch, TellsTheStepThatStoppedItAndWhatTheIllustratedReportLacks) {
+    const CommandRun run =
+        run_command({"lotto"}, {request(by_number, R"("alfa":15,"passaggi":true,"periodo-ritorno":1e17)"),
+                                request(R"("zona":0,"altitudine":-1e400)", R"("alfa":15,"passaggi":true)"),
+                                request(by_number, R"("alfa":15,"illustrata":"a.pdf")"),
+                                request(by_number, R"("alfa":15,"sovrascrivi":true)"),
+                                request(by_number, R"("alfa":15,"impaginazione":"completa")")});
+    const std::vector<Json> results = run.results();
+    for (const auto& [i, symbol] : {std::pair(0, "cT"), std::pair(1, "as")}) {
+        const Json& last = results.at(static_cast<std::size_t>(i)).at("passaggi").back();
+        EXPECT_EQ(last["simbolo"], symbol);
+        EXPECT_TRUE(last["valore"].is_null());
+        EXPECT_EQ(last["errore"], "errore numerico");
+    }
+    EXPECT_EQ(error_of(results.at(2)), "il file di «illustrata» deve finire in .html: «a.pdf»");
+    EXPECT_EQ(error_of(results.at(3)), "«sovrascrivi» serve solo con «illustrata»");
+    EXPECT_EQ(error_of(results.at(4)), "«impaginazione» serve solo con «illustrata»");
+}
+
 TEST(Batch, NamesTheFirstCharacterThatCannotStandWhereItIs) {
     const std::vector<std::pair<std::string, int>> cases{
         {R"({"id": 18)", 10},  // cut

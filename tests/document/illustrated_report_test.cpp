@@ -6,8 +6,10 @@
 #include "calculate/Calcola2.h"
 #include "document/formula_text.h"
 #include "document/html.h"
+#include "document/independent_check.h"
 #include "document/request_line.h"
 #include "document/sensitivity.h"
+#include "tests/support/formula.h"
 
 namespace coltre {
 namespace {
@@ -47,13 +49,24 @@ TEST(IllustratedReport, TellsTheStepsAndWhatGovernedOfEachCalculation) {
         std::vector<const char*> says;
     };
     for (const Case& c : {
-             Case{Kind::one_pitch, {"35"}, {"0,6667", "0,361 kN/m", "30 &lt; <i>α</i> ≤ 60"}},
+             Case{Kind::one_pitch,
+                  {"35"},
+                  {"0,6667", "0,361 kN/m", "30 &lt; <i>α</i> ≤ 60", "ramo discendente", "(50) = 0,8056",
+                   "Normale: Aree"}},
              Case{Kind::two_pitches, {"20", "40"}, {"disposizione III: 0,8212 kN/m²", "0,623 kN/m"}},
              Case{Kind::several_pitches, {"20", "40"}, {"2,4637 kN/m²", "nel compluvio"}},
-             Case{Kind::cylindrical, {"20", "4"}, {"14,5", "43,6°", "3,0796 kN/m²", "9,239 kN/m"}},
-             Case{Kind::level_change, {"3", "4", "2", "10"}, {"1,5244", "1,75", "C.6.4"}},
-             Case{Kind::wall, {"2.30"}, {"3,0796 kN/m²", "verificare che ls vi stia"}},
-             Case{Kind::snow_guard, {"1.2318", "5", "20"}, {"2,1065", "5,32 m", "6,4 % in più"}},
+             Case{Kind::cylindrical,
+                  {"20", "4"},
+                  {"14,5000", "43,6°", "3,0796 kN/m²", "9,239 kN/m", "2,2000", "limite superiore 2,0",
+                   "qs ≥ 3 kN/m²) per <i>q</i><sub>s,4c</sub>"}},
+             Case{Kind::level_change,
+                  {"3", "4", "2", "10"},
+                  {"1,5244", "1,75", "C.6.4", "2,5977", "(la larghezza delle coperture)", "taglio",
+                   "limite inferiore 5 m", "qs2/2 = 1,35 m, minore"}},
+             Case{Kind::wall,
+                  {"2.30"},
+                  {"3,0796 kN/m²", "verificare che ls vi stia", "2,9874", "limite superiore 2,0"}},
+             Case{Kind::snow_guard, {"1.2318", "5", "20"}, {"Forza Fs", "2,107", "5,32 m", "6,4 % in più"}},
          }) {
         const Subject subject = calculated(c.kind, c.entries);
         const std::string complete = html(subject);
@@ -66,6 +79,10 @@ TEST(IllustratedReport, TellsTheStepsAndWhatGovernedOfEachCalculation) {
                                                  text.find(' ', text.rfind('=') + 2) - text.rfind('=') - 2)));
         EXPECT_THAT(complete, HasSubstr("Scuola &lt;A&gt; &amp; B"));
         EXPECT_THAT(complete, Not(HasSubstr("Scuola <A>")));
+        EXPECT_THAT(complete, HasSubstr("non superiore allo 0,1 %"));
+        EXPECT_THAT(complete, Not(HasSubstr("] — ")));
+        for (const Step& step : subject.outcome.trace->steps)
+            EXPECT_EQ(formula_value(step.numbers), FormulaReader(step.numbers, {}).formula()) << step.numbers;
         EXPECT_EQ(complete, html(calculated(c.kind, c.entries))) << "the same request gives the same bytes";
         EXPECT_LT(html(subject, Layout::brief).size(), complete.size());
     }
@@ -76,12 +93,35 @@ TEST(IllustratedReport, TellsAStopAndTheStepThatCouldNotBeComputed) {
          std::vector<std::tuple<Kind, std::vector<std::string>, const char*>>{
              {Kind::one_pitch, {"75"}, "non si può calcolare: divisione per zero"},
              {Kind::cylindrical, {"4", "3"}, "Dimensioni copertura non congruenti"},
+             {Kind::several_pitches, {"-5", "1e400"}, "scritto «1e400», non letto"},
+             {Kind::two_pitches, {"70", "20"}, "non calcola i carichi della falda 2"},
+             {Kind::two_pitches, {"-5", "20"}, "conserva il valore lasciato dal calcolo precedente"},
              {Kind::wall, {"due"}, "non è un numero"}}) {
         for (const Layout layout : {Layout::complete, Layout::brief, Layout::steps_alone})
             EXPECT_FALSE(html(calculated(kind, entries), layout).empty());
         EXPECT_THAT(html(calculated(kind, entries)), HasSubstr(says));
         EXPECT_THAT(html(calculated(kind, entries)), Not(HasSubstr("Sensibilità")));
     }
+}
+
+TEST(IllustratedReport, CallsNoSnowOnASteepPitchNoError) {
+    const std::string steep = html(calculated(Kind::one_pitch, {"60"}));
+    EXPECT_THAT(steep, HasSubstr("Non è un errore di calcolo"));
+    EXPECT_THAT(steep, HasSubstr("schema in scala"));
+    EXPECT_THAT(steep, Not(HasSubstr("Calcolo interrotto")));
+}
+
+TEST(IllustratedReport, TellsARefusedReturnPeriodAndAsksForItAgain) {
+    Subject subject = calculated(Kind::one_pitch, {"15"});
+    subject.return_period = 1;
+    subject.job_name = "Scuola";
+    subject.request = request_line(subject);
+    EXPECT_THAT(html(subject), HasSubstr("1 anno, rifiutato"));
+    EXPECT_THAT(subject.request, HasSubstr(R"("periodo-ritorno": "1")"));
+    EXPECT_THAT(subject.request, HasSubstr(R"("lavoro": "Scuola")"));
+    subject.confirmed_return_period = 200;
+    EXPECT_THAT(html(subject), HasSubstr("vale 200 anni, confermato"));
+    EXPECT_THAT(request_line(subject), HasSubstr(R"("periodo-ritorno": "200")"));
 }
 
 // Two pitches of 20 and 40 degrees, the numbers of the calculation made anew with one input changed.

@@ -46,7 +46,7 @@ TEST(DocumentPdf, HoldsTheWholeTextOnNumberedPages) {
         text += page + "|";
     }
     for (const char* expected :
-         {"Coefficienti di forma", "cT = 1 periodo",
+         {"Coefficienti di forma", "cT = 1,0000 periodo",
           "µ1(α2) = 0,8 · (60 − α2)/30 = 0,8 · (60 − 40)/30 = 0,5333 30 < α2 ≤ 60", "1,2319 governa 3 · d2a",
           "+ 1,2319 = 14,7822 kN/m² 0 ≤ α1", "coltre-calcolo lotto FILE.", "Il progettista ....."})
         EXPECT_TRUE(text.contains(expected)) << expected;
@@ -100,11 +100,11 @@ TEST(DocumentCopy, GivesSpreadsheetsOneNumberACell) {
     const QStringList rows = table.text.split('\n');
     for (const char* row :
          {"3  Carico neve al suolo",
-          "q0\t1,39 · (1 + (as/728)^2) = 1,39 · (1 + (239/728)^2)\t1,5398\tkN/m²\tas > 200; D.M. 16 "
+          "q0\t1,39 · (1 + (as/728)²) = 1,39 · (1 + (239/728)²)\t1,5398\tkN/m²\tas > 200; D.M. 16 "
           "gennaio 1996, zona I Alpina",
-          "cT\t\t1\t\tperiodo di ritorno non confermato", "µ1(α1)\t\t0,8\t\t0 ≤ α1 ≤ 30"})
+          "cT\t\t1,0000\t\tperiodo di ritorno non confermato", "µ1(α1)\t\t0,8000\t\t0 ≤ α1 ≤ 30"})
         EXPECT_TRUE(rows.contains(row)) << row;
-    EXPECT_TRUE(table.html.contains("<tr><td><i>c</i><sub>T</sub></td><td></td><td>1</td>"));
+    EXPECT_TRUE(table.html.contains("<tr><td><i>c</i><sub>T</sub></td><td></td><td>1,0000</td>"));
     EXPECT_TRUE(table.html.contains("<i>a</i><sub>s</sub> &gt; 200"));
 }
 
@@ -120,7 +120,7 @@ TEST(DocumentCopy, TakesAStepThatStoppedAndATable) {
         {ColumnAlign::left, ColumnAlign::right}, {plain("a"), plain("b")}, {{plain("1"), plain("x\ty")}}});
     EXPECT_EQ(copied_table(document).text.toStdString(),
               "k\t3/d = 3/0\t\t\tnon si può calcolare: divisione per zero\n"
-              "ls\tb2\t4\tm\t\nh\t\t2\tm\t\na\tb\n1\tx y\n");
+              "ls\tb2\t4,00\tm\t\nh\t\t2,00\tm\t\na\tb\n1\tx y\n");
     EXPECT_TRUE(
         copied_text(document).startsWith("k = 3/d = 3/0   [non si può calcolare: divisione per zero]\n"));
 }
@@ -143,7 +143,7 @@ TEST_F(StepsWindowTest, FollowsEachCalculation) {
 
     window.show_document(sample_steps());
     EXPECT_TRUE(
-        shown().contains("\nq0 = 1,39 · (1 + (as/728)2) = 1,39 · (1 + (239/728)2) = 1,5398 kN/m²\tas > 200"));
+        shown().contains("\nq0 = 1,39 · (1 + (as/728)²) = 1,39 · (1 + (239/728)²) = 1,5398 kN/m²\tas > 200"));
     auto& bar = *control<QTextBrowser>(window, "passaggi").verticalScrollBar();
     bar.setValue(bar.maximum() / 2);
     const int height = bar.value();
@@ -168,6 +168,10 @@ TEST_F(StepsWindowTest, RemarksGoBelowWhereTheWindowIsNarrow) {
     EXPECT_EQ(control<QTextBrowser>(window, "passaggi").horizontalScrollBar()->maximum(), 0);
     window.resize(1000, 500);
     EXPECT_TRUE(shown().contains("\tas > 200"));
+    EXPECT_FALSE(control(window, "figura").isVisible());
+    window.resize(1200, 500);
+    EXPECT_TRUE(control(window, "figura").isVisible()) << "the figure stands beside its steps";
+    EXPECT_FALSE(shown().contains(QChar::ObjectReplacementCharacter));
 }
 
 TEST_F(StepsWindowTest, IsReadableOnDark) {
