@@ -92,6 +92,12 @@ const Result* greatest(const Subject& subject, Holds holds) {
     return most;
 }
 
+/// Whether the drift of a level change is longer than the lower roof.
+bool is_cut(const Subject& subject, double ls) {
+    const Step* const whole = subject.step("ls_intero");
+    return whole != nullptr && whole->value && ls < *whole->value;
+}
+
 bool is_overhang(const ResultCell* cell) {
     return std::ranges::find(overhang_loads, cell) != overhang_loads.end();
 }
@@ -195,7 +201,9 @@ void write_summary(Composer& write, const Subject& subject) {
     row_of("Carico massimo in gronda: ", greatest(subject, is_overhang));
     for (const ResultCell* length : {&level_ls, &wall_ls})
         if (const auto value = subject.computed(*length))
-            row("Lunghezza di accumulo ls", *value, length->quantity);
+            row(std::string("Lunghezza di accumulo ls") +
+                    (is_cut(subject, *value) ? ", tagliata al bordo" : ""),
+                *value, length->quantity);
     if (const auto force = subject.computed(Fs))
         row("Forza Fs sull'ostacolo, per unità di lunghezza", *force, Fs.quantity);
     write.table(std::move(rows));

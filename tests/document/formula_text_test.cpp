@@ -50,8 +50,12 @@ TEST(NumberText, HasFourDecimalsOrFourSignificantDigits) {
 }
 
 TEST(StepLine, SaysNothingTwice) {
-    Step step{
-        .symbol = "mu1", .formula = "0.8", .numbers = "0.8", .value = 0.8, .condition = "0 <= alfa <= 30"};
+    Step step{.symbol = "mu1",
+              .formula = "0.8",
+              .numbers = "0.8",
+              .value = 0.8,
+              .condition = "0 <= alfa <= 30",
+              .quantity = quantities::coefficient};
     EXPECT_EQ(plain_text(step_line(step).formula), "µ1 = 0,8000");
     EXPECT_EQ(plain_text(step_line(step).remark), "0 ≤ α ≤ 30");
     step = {.symbol = "ls",

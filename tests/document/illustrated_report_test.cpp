@@ -58,7 +58,7 @@ TEST(IllustratedReport, TellsTheStepsAndWhatGovernedOfEachCalculation) {
              Case{Kind::cylindrical,
                   {"20", "4"},
                   {"14,5000", "43,6°", "3,0796 kN/m²", "9,239 kN/m", "2,2000", "limite superiore 2,0",
-                   "qs ≥ 3 kN/m²) per <i>q</i><sub>s,4c</sub>"}},
+                   "qs ≥ 3 kN/m²)</em> per <i>q</i><sub>s,4c</sub>"}},
              Case{Kind::level_change,
                   {"3", "4", "2", "10"},
                   {"1,5244", "1,75", "C.6.4", "2,5977", "(la larghezza delle coperture)", "taglio",
