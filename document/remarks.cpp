@@ -18,13 +18,13 @@ std::string printed(double value, const Quantity& quantity) {
 /// A negative pitch leaves a coefficient as it was: deliberate, no error, but nothing to build on.
 void tell_negative_pitches(const Subject& subject, std::vector<std::string>& remarks) {
     for (const Step& step : subject.trace().steps) {
-        if (!step.formula.ends_with("_precedente") || !step.symbol.starts_with("mu") || !step.value) continue;
+        if (!step.symbol.starts_with("mu") || !step.condition.ends_with(" < 0") || !step.value) continue;
         const std::string pitch(step.condition.substr(0, step.condition.find(' ')));
-        const std::string symbol = plain_text(symbol_text(step.symbol));
         remarks.push_back(plain_text(symbol_text(pitch)) + " è negativa: le formule non la prevedono. " +
-                          symbol + " conserva il valore lasciato dal calcolo precedente, " +
+                          plain_text(symbol_text(step.symbol)) +
+                          " conserva il valore che il coefficiente aveva prima, " +
                           value_text(*step.value, coefficient) +
-                          " (0 se non ce n'è stato alcuno), e i carichi che ne seguono non dipendono "
+                          " (0 se non era mai stato calcolato), e i carichi che ne seguono non dipendono "
                           "dall'inclinazione scritta: verificare il dato.");
     }
 }

@@ -95,7 +95,7 @@ TEST(IllustratedReport, TellsAStopAndTheStepThatCouldNotBeComputed) {
              {Kind::cylindrical, {"4", "3"}, "Dimensioni copertura non congruenti"},
              {Kind::several_pitches, {"-5", "1e400"}, "scritto «1e400», non letto"},
              {Kind::two_pitches, {"70", "20"}, "non calcola i carichi della falda 2"},
-             {Kind::two_pitches, {"-5", "20"}, "conserva il valore lasciato dal calcolo precedente"},
+             {Kind::two_pitches, {"-5", "20"}, "conserva il valore che il coefficiente aveva prima"},
              {Kind::wall, {"due"}, "non è un numero"}}) {
         for (const Layout layout : {Layout::complete, Layout::brief, Layout::steps_alone})
             EXPECT_FALSE(html(calculated(kind, entries), layout).empty());
