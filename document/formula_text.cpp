@@ -207,12 +207,12 @@ std::string with_unit(std::string number, std::string_view unit) {
 Pieces governing_text(const Step& step) {
     if (step.governs.empty()) return {};
     if (step.governs.ends_with("_formula")) return {{"nessun limite interviene", Style::emphasis}};
-    const std::string words(step.words);
-    if (is_digit(step.governs.front()) && !words.empty() && step.governs.find(' ') == std::string::npos)
-        return {{words, Style::emphasis}};
+    const std::string meaning(step.words);
+    if (is_digit(step.governs.front()) && !meaning.empty() && step.governs.find(' ') == std::string::npos)
+        return {{meaning, Style::emphasis}};
     Pieces pieces{{"governa ", Style::emphasis}};
     append(pieces, formula_text(step.governs));
-    append(pieces, words.empty() ? "" : " (" + words + ")", Style::emphasis);
+    append(pieces, meaning.empty() ? "" : " (" + meaning + ")", Style::emphasis);
     return pieces;
 }
 

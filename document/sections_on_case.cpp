@@ -199,11 +199,11 @@ void write_summary(Composer& write, const Subject& subject) {
             if (is_area_load(result.cell)) row_of(load, &result);
     }
     row_of("Carico massimo in gronda: ", greatest(subject, is_overhang));
-    for (const ResultCell* length : {&level_ls, &wall_ls})
-        if (const auto value = subject.computed(*length))
+    for (const ResultCell* drift : {&level_ls, &wall_ls})
+        if (const auto value = subject.computed(*drift))
             row(std::string("Lunghezza di accumulo ls") +
                     (is_cut(subject, *value) ? ", tagliata al bordo" : ""),
-                *value, length->quantity);
+                *value, drift->quantity);
     if (const auto force = subject.computed(Fs))
         row("Forza Fs sull'ostacolo, per unità di lunghezza", *force, Fs.quantity);
     write.table(std::move(rows));
