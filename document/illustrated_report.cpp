@@ -450,19 +450,7 @@ void Writer::sensitivity() {
     paragraph(plain("Il carico massimo è " +
                     with_unit(*now, m_calculation.needs_ground_load ? area_load : line_load) +
                     ". Se cambia un solo dato:"));
-    Table rows{{ColumnAlign::left, ColumnAlign::right, ColumnAlign::right},
-               {plain("Se cambia"), plain("carico massimo"), plain("variazione")},
-               {}};
-    for (const Variation& variation : variations(inputs)) {
-        if (!variation.load) {
-            rows.rows.push_back({plain(variation.what), plain("non si calcola"), plain("–")});
-            continue;
-        }
-        const double change = *now == 0 ? 0 : 100 * (*variation.load / *now - 1);
-        rows.rows.push_back({plain(variation.what), plain(fixed_text(*variation.load, 3)),
-                             plain((change > 0 ? "+" : "") + fixed_text(change, 1) + " %")});
-    }
-    table(std::move(rows));
+    table(variation_table(inputs));
 }
 
 void Writer::unit_systems() {

@@ -185,13 +185,11 @@ Drawing load_over_altitude(const AltitudeDiagram& diagram) {
 
 Drawing ground_load_over_altitude(SnowZone zone, double factor, double CE, double Ct, double altitude) {
     const auto curve_of = [&](SnowZone code) {
-        std::string_view name = zone_caption(code);  // in brackets
-        name.remove_prefix(1);
-        name.remove_suffix(1);
         ProgramCells of_zone;
         of_zone.zone = code;
         of_zone.return_period_factor = factor;
-        return AltitudeCurve{std::string(name), [of_zone, CE, Ct](double as) -> std::optional<double> {
+        return AltitudeCurve{std::string(zone_name(code)),
+                             [of_zone, CE, Ct](double as) -> std::optional<double> {
                                  ProgramCells result = of_zone;
                                  if (set_base_load(result, as) != Fault::none ||
                                      apply_load_factors(result, CE, Ct) != Fault::none)

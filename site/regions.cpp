@@ -123,6 +123,11 @@ std::string_view zone_caption(SnowZone zone) {
     return zone_table[static_cast<std::size_t>(zone)].caption;
 }
 
+std::string_view zone_name(SnowZone zone) {
+    const std::string_view caption = zone_caption(zone);
+    return caption.substr(1, caption.size() - 2);
+}
+
 ProvinceZone ZoneOfProvince(std::string_view province) {
     const std::string wanted = lower_case(province);
     std::size_t zone = 0;

@@ -38,6 +38,9 @@ struct ProvinceZone {
 /// Caption of a zone code, 0 to 3.
 std::string_view zone_caption(SnowZone zone);
 
+/// Its name: the caption without the parentheses.
+std::string_view zone_name(SnowZone zone);
+
 /// Zone of a province by the name lists of the Decree. The name is looked for in lower case anywhere in a
 /// list, as a part of a word too; a name in none of the lists lies in zone III. Deliberate: "Enna" is found
 /// in "Ravenna", and an empty name in the first list.
