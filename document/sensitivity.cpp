@@ -47,13 +47,6 @@ void vary_ground_load(std::vector<Variation>& variations, const LoadInputs& inpu
     }
 }
 
-/// The quantity that the greatest load of a calculation is.
-std::string_view load_symbol(Kind kind) {
-    const Description& calculation = describe(kind);
-    if (!calculation.needs_ground_load) return "Fs";
-    return calculation.window == Window::main ? "qs" : "qs2";
-}
-
 /// The program cells with the ground load of the inputs.
 std::optional<ProgramCells> loaded_cells(const LoadInputs& inputs) {
     ProgramCells cells;
@@ -123,9 +116,9 @@ std::vector<Variation> variations(const LoadInputs& inputs) {
             if (slope && number < 0) continue;
             if (worst_load(changed) == now) continue;  // the slope of a level change, for one
             vary(variations,
-                 plain_text(symbol_text(entry.symbol)) + " = " + number_text(number) + " " +
-                     std::string(entry.unit) + " (" + (sign < 0 ? "− " : "+ ") + (slope ? "5°" : "10 %") +
-                     ")",
+                 plain_text(symbol_text(entry.symbol)) + " = " + number_text(number) +
+                     (slope ? "°" : " " + std::string(entry.unit)) + " (" + (sign < 0 ? "− " : "+ ") +
+                     (slope ? "5°" : "10 %") + ")",
                  changed);
         }
     }
@@ -149,10 +142,10 @@ Table variation_table(const LoadInputs& inputs) {
     return table;
 }
 
-std::string greatest_load_name(Kind kind) {
-    const Quantity& quantity =
-        describe(kind).needs_ground_load ? quantities::area_load : quantities::line_load;
-    return std::string(load_symbol(kind)) + " max [" + std::string(quantity.unit) + "]";
+LoadName greatest_load_name(Kind kind) {
+    const Description& calculation = describe(kind);
+    if (!calculation.needs_ground_load) return {"Fs", quantities::line_load};
+    return {calculation.window == Window::main ? "qs" : "qs2", quantities::area_load};
 }
 
 std::optional<Drawing> load_over_altitude(const LoadInputs& inputs) {
@@ -165,7 +158,8 @@ std::optional<Drawing> load_over_altitude(const LoadInputs& inputs) {
                                  return worst_load(at);
                              }};
     };
-    AltitudeDiagram diagram{std::string(load_symbol(kind)), inputs.altitude, curve_of(inputs.zone), {}};
+    AltitudeDiagram diagram{
+        std::string(greatest_load_name(kind).symbol), inputs.altitude, curve_of(inputs.zone), {}};
     for (SnowZone other = 0; other < 4; ++other)
         if (other != inputs.zone) diagram.others.push_back(curve_of(other));
     return load_over_altitude(diagram);

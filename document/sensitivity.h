@@ -2,10 +2,12 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "calculate/click.h"
 #include "document/document.h"
+#include "engine/results.h"
 
 // What changes the load of a calculation, and by how much: the same core, run again with one input changed.
 namespace coltre {
@@ -46,8 +48,12 @@ std::vector<Variation> variations(const LoadInputs& inputs);
 /// The variations as a table: what changes, the greatest load then, by how much it differs.
 Table variation_table(const LoadInputs& inputs);
 
-/// The greatest load of a calculation in words, with its unit: "qs max [kN/m²]".
-std::string greatest_load_name(Kind kind);
+/// What the greatest load of a calculation is: "qs" of a roof, "qs2" of a drift, "Fs" of a snow guard.
+struct LoadName {
+    std::string_view symbol;
+    Quantity quantity;
+};
+LoadName greatest_load_name(Kind kind);
 
 /// The greatest load over the altitude, in the zone of the inputs and in the other three.
 /// @return nothing for a calculation that the ground load plays no part in

@@ -44,14 +44,12 @@ Table site_comparison(const std::vector<const Place*>& places, const LoadInputs&
     std::ranges::stable_sort(compared, std::greater(),
                              [](const Compared& it) { return std::tuple(it.load, it.qsk); });
 
-    const Kind kind = calculation.entries.kind;
+    const auto& [symbol, quantity] = greatest_load_name(calculation.entries.kind);
     using enum ColumnAlign;
     Table table{{left, left, left, right, right, right},
                 {cell("Comune"), cell("Provincia"), cell("Zona"), cell("Altitudine [m]"), cell("qsk [kN/m²]"),
-                 cell(greatest_load_name(kind))},
+                 cell(std::string(symbol) + " max [" + std::string(quantity.unit) + "]")},
                 {}};
-    const Quantity& quantity =
-        describe(kind).needs_ground_load ? quantities::area_load : quantities::line_load;
     for (const auto& [place, load, qsk] : compared)
         table.rows.push_back({cell(place->name), cell(std::string(place->province)),
                               cell(std::string(zone_name(place->zone))), cell(place->altitude),

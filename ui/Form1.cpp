@@ -242,7 +242,6 @@ void Form1::choose_site(const std::string& province, const std::string& municipa
     m_ui->regione->choose(std::string(region->name));
     m_ui->Provinciainput->choose(province);
     m_ui->comuneinput->choose(municipality);
-    activateWindow();
     m_ui->Calcola->setFocus();
 }
 

@@ -1,7 +1,6 @@
 #include "ui/place_finder.h"
 
 #include <QApplication>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <utility>
 
@@ -19,16 +18,15 @@ PlaceFinder::PlaceFinder(std::string ProgramDirectory, UserDialogs& dialogs, QWi
       m_model(new PlaceModel(this)) {
     m_ui->setupUi(this);
     m_ui->comuni->setModel(m_model);
-    const QFontMetrics letters = fontMetrics();
+    const int character = fontMetrics().averageCharWidth();
     const std::pair<int, int> widths[] = {{PlaceModel::name, 29},
-                                          {PlaceModel::province, 16},
-                                          {PlaceModel::zone, 19},
+                                          {PlaceModel::province, 18},
+                                          {PlaceModel::zone, 22},
                                           {PlaceModel::altitude, 15},
                                           {PlaceModel::qsk, 13}};
     for (const auto& [column, characters] : widths)
-        m_ui->comuni->setColumnWidth(column, characters * letters.averageCharWidth());
-    // Rows are all alike: measuring each of thousands would be felt at every key.
-    m_ui->comuni->verticalHeader()->setDefaultSectionSize(letters.height() + letters.height() / 3);
+        m_ui->comuni->setColumnWidth(column, characters * character);
+    set_row_height(*m_ui->comuni);
     m_ui->comuni->installEventFilter(this);
     m_ui->cerca->installEventFilter(this);
     m_ui->avviso->hide();
@@ -121,6 +119,7 @@ bool PlaceFinder::eventFilter(QObject* object, QEvent* event) {
 }
 
 void PlaceFinder::showEvent(QShowEvent* event) {
+    read_places();
     m_ui->cerca->setFocus();
     m_ui->cerca->selectAll();
     QDialog::showEvent(event);

@@ -16,14 +16,23 @@ void bring_to_front(QWidget& window) {
     window.activateWindow();
 }
 
-/// What stands above a table of loads: "Copertura a due falde, qs max [kN/m²]: 1,2318".
+QString qt(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+/// "Copertura a due falde"
+QString name_of(const LoadInputs& calculation) {
+    const QString name = qt(describe(calculation.entries.kind).meaning);
+    return name.left(1).toUpper() + name.mid(1);
+}
+
+/// "Copertura a due falde: qs max = 1,2318 kN/m²"
 QString heading_of(const LoadInputs& calculation) {
-    const Kind kind = calculation.entries.kind;
-    QString heading = QString::fromStdString(std::string(describe(kind).meaning));
-    heading[0] = heading[0].toUpper();
+    const auto& [symbol, quantity] = greatest_load_name(calculation.entries.kind);
     const auto load = worst_load(calculation);
-    return heading + ", " + QString::fromStdString(greatest_load_name(kind)) + ": " +
-           (load ? QString::fromStdString(fixed_text(*load, 3)) : QObject::tr("non si calcola"));
+    if (!load) return name_of(calculation) + QObject::tr(": il carico non si calcola con questi dati");
+    return QObject::tr("%1: %2 max = %3 %4")
+        .arg(name_of(calculation), qt(symbol), qt(fixed_text(*load, quantity.decimals)), qt(quantity.unit));
 }
 
 const char* const no_calculation = "Un dato del calcolo non è un numero: i carichi non si calcolano.";
@@ -90,9 +99,10 @@ void SideWindows::follow_in_comparison() {
     } else if (!now) {
         m_comparison->show_table(tr(no_calculation), {}, {});
     } else {
-        QString heading = QString::fromStdString(std::string(describe(now->entries.kind).meaning));
-        heading[0] = heading[0].toUpper();
-        m_comparison->show_table(heading + tr(": dal sito più gravoso"), site_comparison(places, *now), {});
+        m_comparison->show_table(name_of(*now) + (describe(now->entries.kind).needs_ground_load
+                                                      ? tr(": dal sito più gravoso")
+                                                      : tr(": il carico non dipende dal sito")),
+                                 site_comparison(places, *now), {});
     }
 }
 
