@@ -12,6 +12,7 @@
 #include "cli/answers.h"
 #include "cli/batch.h"
 #include "cli/help.h"
+#include "cli/places_command.h"
 #include "version/maker.h"
 #include "version/version.h"
 
@@ -91,6 +92,7 @@ struct Choice {
     bool json = false;
     std::string batch_file = "-";
     std::string altitude_directory;
+    PlacesQuery places;
     std::function<std::string()> help = general_help;
     std::string usage_error;
     std::function<int()> action;
@@ -180,6 +182,16 @@ int run(std::span<const std::string> arguments, const Environment& environment, 
     batch.add_option("file", choice.batch_file);
     batch.callback(
         [&] { choice.action = [&] { return run_batch_command(choice.batch_file, environment, streams); }; });
+
+    CLI::App& places = add_subcommand(app, "comuni", choice, places_help);
+    places.add_option("testo", choice.places.text);
+    places.add_option("--provincia", choice.places.province);
+    places.add_flag("--json", choice.places.json);
+    places.callback([&] {
+        choice.action = [&] {
+            return check_output(out, err, places_command(choice.places, environment.own_directory, out, err));
+        };
+    });
 
     CLI::App& altitudes = add_subcommand(app, "altitudini", choice, altitudes_help);
     altitudes.require_subcommand(0, 1);

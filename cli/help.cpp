@@ -27,12 +27,14 @@ std::string general_help() {
         "Carico neve sulle coperture secondo il D.M. 16 gennaio 1996 e la circolare 4 luglio 1996.\n\n"
         "Uso: coltre-calcolo CALCOLO OPZIONI\n"
         "     coltre-calcolo lotto [FILE | -]\n"
+        "     coltre-calcolo comuni [TESTO] [--provincia P] [--json]\n"
         "     coltre-calcolo altitudini scrivi | verifica | ripara [DIR]\n\n"
         "Calcoli:\n";
     for (const Description& calculation : calculations())
         append_row(help, calculation.name, calculation.meaning);
     help += "\nAltri comandi:\n";
     append_row(help, "lotto", "una richiesta JSON per riga, un risultato JSON per riga");
+    append_row(help, "comuni", "cerca i comuni, anche con il nome di oggi: provincia, zona e altitudine");
     append_row(help, "altitudini", "scrive, verifica o ripara il file altitudini.txt");
     help += "\nOpzioni:\n";
     append_row(help, "-h, --help", "questo aiuto; dopo un comando, il suo");
@@ -70,6 +72,22 @@ std::string batch_help() {
            "  echo '{\"calcolo\": \"una-falda\", \"zona\": 0, \"altitudine\": 239, \"alfa\": 15}' | "
            "coltre-calcolo "
            "lotto\n";
+}
+
+std::string places_help() {
+    std::string help =
+        "coltre-calcolo comuni [TESTO] [--provincia P] [--json]: comuni, zone e altitudini\n\n"
+        "Elenca i comuni il cui nome, del 1996 o di oggi, contiene il TESTO, senza distinguere maiuscole, "
+        "accenti,\n"
+        "apostrofi e spazi; senza TESTO, tutti. Le altitudini sono quelle del file altitudini.txt.\n\n"
+        "Opzioni:\n";
+    append_row(help, "--provincia P", "soltanto i comuni di questa provincia, o di questa sigla di oggi");
+    append_row(help, "--json", "un oggetto JSON per riga invece della tabella");
+    append_row(help, "-h, --help", "questo aiuto");
+    return help +
+           "\nStato di uscita: 0 tutto bene, 1 nessun comune trovato, 2 uso errato.\n\n"
+           "Esempio:\n"
+           "  coltre-calcolo comuni valsamoggia\n";
 }
 
 std::string altitudes_help() {

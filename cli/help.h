@@ -10,6 +10,7 @@ namespace coltre::cli {
 std::string general_help();
 std::string calculation_help(const Description& calculation);
 std::string batch_help();
+std::string places_help();
 std::string altitudes_help();
 
 }  // namespace coltre::cli

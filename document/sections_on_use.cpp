@@ -68,26 +68,12 @@ void write_sensitivity(Composer& write, const Subject& subject) {
     const LoadInputs inputs = subject.load_inputs();
     const auto now = worst_load(inputs);
     if (!now) return;
-    const bool force = subject.fields.kind == Kind::snow_guard;
-    const Quantity& quantity = force ? Fs.quantity : area_load;
-    const std::string what = force ? "forza Fs" : "carico massimo";
+    const LoadName load = greatest_load_name(subject.fields.kind);
     write.section("Sensibilità");
-    write.paragraph((force ? "La forza Fs è " : "Il carico massimo è ") +
-                    with_unit(value_text(*now, quantity), quantity.unit) + ". Se cambia un solo dato:");
-    Table rows{
-        {ColumnAlign::left, ColumnAlign::right, ColumnAlign::right},
-        {plain("Se cambia"), plain(what + " [" + std::string(quantity.unit) + "]"), plain("variazione")},
-        {}};
-    for (const Variation& variation : variations(inputs)) {
-        if (!variation.load) {
-            rows.rows.push_back({plain(variation.what), plain("non si calcola"), plain("–")});
-            continue;
-        }
-        const double change = *now == 0 ? 0 : 100 * (*variation.load / *now - 1);
-        rows.rows.push_back({plain(variation.what), plain(value_text(*variation.load, quantity)),
-                             plain((change > 0 ? "+" : "") + fixed_text(change, 1) + " %")});
-    }
-    write.table(std::move(rows));
+    write.paragraph((load.symbol == "Fs" ? "La forza Fs è " : "Il carico massimo è ") +
+                    with_unit(value_text(*now, load.quantity), load.quantity.unit) +
+                    ". Se cambia un solo dato:");
+    write.table(variation_table(inputs));
 }
 
 void write_unit_systems(Composer& write, const Subject& subject) {

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "document/formula_text.h"
+#include "drawings/diagrams.h"
 #include "engine/ground_load.h"
 #include "site/regions.h"
 
@@ -45,7 +47,36 @@ void vary_ground_load(std::vector<Variation>& variations, const LoadInputs& inpu
     }
 }
 
+/// The program cells with the ground load of the inputs.
+std::optional<ProgramCells> loaded_cells(const LoadInputs& inputs) {
+    ProgramCells cells;
+    cells.zone = inputs.zone;
+    cells.return_period_factor = inputs.factor;
+    if (set_base_load(cells, inputs.altitude) != Fault::none) return std::nullopt;
+    if (apply_load_factors(cells, inputs.CE, inputs.Ct) != Fault::none) return std::nullopt;
+    return cells;
+}
+
 }  // namespace
+
+std::optional<LoadInputs> load_inputs(const Fields& fields, SnowZone zone, double factor) {
+    EntryReader reader;
+    LoadInputs inputs;
+    inputs.zone = zone;
+    inputs.factor = factor;
+    inputs.altitude = reader.lenient("altitudine", "as", "m", fields.asinput);
+    inputs.CE = reader.lenient("coefficiente di esposizione", "CE", "", fields.ComboEsp);
+    inputs.Ct = reader.lenient("coefficiente termico", "Ct", "", fields.TextCTermico);
+    inputs.entries = reader.entries(fields.kind, fields.entries, fields.decimal_separator);
+    if (reader.stop()) return std::nullopt;
+    return inputs;
+}
+
+std::optional<double> ground_load(const LoadInputs& inputs) {
+    const auto cells = loaded_cells(inputs);
+    if (!cells) return std::nullopt;
+    return cells->qsk;
+}
 
 std::optional<Result> worst_load(const Calculation& calculation) {
     std::optional<Result> worst;
@@ -58,12 +89,9 @@ std::optional<Result> worst_load(const Calculation& calculation) {
 }
 
 std::optional<double> worst_load(const LoadInputs& inputs) {
-    ProgramCells cells;
-    cells.zone = inputs.zone;
-    cells.return_period_factor = inputs.factor;
-    if (set_base_load(cells, inputs.altitude) != Fault::none) return std::nullopt;
-    if (apply_load_factors(cells, inputs.CE, inputs.Ct) != Fault::none) return std::nullopt;
-    const Calculation calculation = calculate(cells, inputs.entries);
+    auto cells = loaded_cells(inputs);
+    if (!cells) return std::nullopt;
+    const Calculation calculation = calculate(*cells, inputs.entries);
     const auto worst = worst_load(calculation);
     if (calculation.end.stopped() || !worst) return std::nullopt;
     return worst->value;
@@ -90,6 +118,49 @@ std::vector<Variation> variations(const LoadInputs& inputs) {
         }
     }
     return variations;
+}
+
+Table variation_table(const LoadInputs& inputs) {
+    const Quantity quantity = greatest_load_name(inputs.entries.kind).quantity;
+    const std::string what = describe(inputs.entries.kind).needs_ground_load ? "carico massimo" : "forza Fs";
+    Table table{
+        {ColumnAlign::left, ColumnAlign::right, ColumnAlign::right},
+        {plain("Se cambia"), plain(what + " [" + std::string(quantity.unit) + "]"), plain("variazione")},
+        {}};
+    const std::optional<double> now = worst_load(inputs);
+    for (const Variation& variation : variations(inputs)) {
+        std::string load = "non si calcola", change = "–";
+        if (variation.load) load = value_text(*variation.load, quantity);
+        if (variation.load && now.value_or(0) != 0) {
+            const double percent = 100 * (*variation.load / *now - 1);
+            change = (percent > 0 ? "+" : "") + fixed_text(percent, 1) + " %";
+        }
+        table.rows.push_back({plain(variation.what), plain(load), plain(change)});
+    }
+    return table;
+}
+
+LoadName greatest_load_name(Kind kind) {
+    const Description& calculation = describe(kind);
+    if (!calculation.needs_ground_load) return {"Fs", quantities::line_load};
+    return {calculation.window == Window::main ? "qs" : "qs2", quantities::area_load};
+}
+
+std::optional<Drawing> load_over_altitude(const LoadInputs& inputs) {
+    const Kind kind = inputs.entries.kind;
+    if (!describe(kind).needs_ground_load) return std::nullopt;
+    const auto curve_of = [&](SnowZone zone) {
+        return AltitudeCurve{std::string(zone_name(zone)), [at = inputs, zone](double altitude) mutable {
+                                 at.zone = zone;
+                                 at.altitude = altitude;
+                                 return worst_load(at);
+                             }};
+    };
+    AltitudeDiagram diagram{
+        std::string(greatest_load_name(kind).symbol), inputs.altitude, curve_of(inputs.zone), {}};
+    for (SnowZone other = 0; other < 4; ++other)
+        if (other != inputs.zone) diagram.others.push_back(curve_of(other));
+    return load_over_altitude(diagram);
 }
 
 }  // namespace coltre

@@ -1,6 +1,7 @@
 #include "requests/site_choice.h"
 
 #include <algorithm>
+#include <map>
 #include <span>
 #include <string>
 #include <string_view>
@@ -10,21 +11,25 @@
 #include "site/altitude_file.h"
 #include "site/built_in_altitudes.h"
 #include "site/municipalities.h"
+#include "site/places.h"
 #include "site/regions.h"
+#include "site/todays_names.h"
 #include "text/names.h"
 
 namespace coltre {
 
 namespace {
 
+constexpr std::size_t most_suggestions = 3;
+
 /// A name as the table spells it: the one that is typed exactly or, failing that, the only one that differs
 /// in case, accents, apostrophes and blanks alone.
 struct NameSearch {
-    std::string found;
-    std::string error;  ///< Italian; empty if the name was found
+    std::optional<std::string> found;
+    std::vector<std::string> hits;  ///< names that differ in no more, if they are several
 };
 
-NameSearch find_name(std::string_view what, std::string_view typed, std::span<const std::string> names) {
+NameSearch find_name(std::string_view typed, std::span<const std::string> names) {
     if (std::ranges::find(names, typed) != names.end()) return {std::string(typed), {}};
 
     const std::string folded = fold_name(typed);
@@ -33,14 +38,55 @@ NameSearch find_name(std::string_view what, std::string_view typed, std::span<co
         if (fold_name(name) == folded && std::ranges::find(hits, name) == hits.end()) hits.push_back(name);
     }
     if (hits.size() == 1) return {hits.front(), {}};
+    return {std::nullopt, hits};
+}
 
-    const auto nearest = hits.empty() ? nearest_names(typed, names, 3) : hits;
-    std::string error = std::string(what) + (hits.empty() ? " sconosciut" : " ambigu");
-    error += what == "provincia" ? "a" : "o";
-    error += ": " + in_quotes(typed);
-    for (std::size_t i = 0; i < nearest.size(); ++i)
-        error += (i == 0 ? "; forse " : ", ") + nearest[i];
-    return {{}, error};
+/// @param what  "comune sconosciuto"
+std::string not_found(std::string_view what, std::string_view typed, std::span<const std::string> perhaps) {
+    std::string error = std::string(what) + ": " + in_quotes(typed);
+    for (std::size_t i = 0; i < perhaps.size(); ++i)
+        error += (i == 0 ? "; forse " : ", ") + perhaps[i];
+    return error;
+}
+
+/// The provinces that were perhaps meant: those of 1996 that the municipality was in, which may be in a
+/// younger one today, then the nearest names.
+std::vector<std::string> suggested_provinces(const Request& request, std::span<const std::string> all) {
+    static const Places places(built_in_altitude_file());
+    const std::string municipality = fold_name(*request.value(keys::comune));
+    std::vector<std::string> suggested;
+    const auto add = [&](std::string_view province) {
+        if (suggested.size() < most_suggestions && std::ranges::find(suggested, province) == suggested.end())
+            suggested.emplace_back(province);
+    };
+    for (const PlaceHit& hit : places.find(municipality)) {
+        const std::string_view name = hit.later_name.empty() ? hit.place->name : hit.later_name;
+        if (fold_name(name) == municipality) add(hit.place->province);
+    }
+    for (const std::string& near : nearest_names(*request.value(keys::provincia), all, most_suggestions))
+        add(near);
+    return suggested;
+}
+
+/// The municipalities of a province that were perhaps meant. A later name that comes near stands for those
+/// that it was made of: "Bazzano, Savigno (poi Valsamoggia)".
+std::vector<std::string> suggested_municipalities(std::string_view typed, std::string_view province,
+                                                  std::vector<std::string> names) {
+    std::map<std::string_view, std::string> made_of;
+    for (const LaterName& later : later_names()) {
+        std::string parts;
+        for (const Municipality& it : later.made_of)
+            if (it.province == province && std::ranges::find(names, it.name) != names.end())
+                parts.append(parts.empty() ? "" : ", ").append(it.name);
+        if (!parts.empty()) made_of[later.name] = parts + " (poi " + std::string(later.name) + ")";
+    }
+    for (const auto& [name, parts] : made_of)
+        names.emplace_back(name);
+    auto nearest = nearest_names(typed, names, most_suggestions);
+    if (!nearest.empty() && fold_name(nearest.front()) == fold_name(typed)) nearest.resize(1);
+    for (std::string& name : nearest)
+        if (const auto later = made_of.find(name); later != made_of.end()) name = later->second;
+    return nearest;
 }
 
 /// Ends the request with a message, which says what went wrong.
@@ -68,8 +114,12 @@ Message built_in_answered(const std::string& province) {
 std::optional<Site> choose_site(const Request& request, const std::string& directory, SiteMemory& memory,
                                 Answer& result) {
     static const std::vector<std::string> all_provinces(provinces().begin(), provinces().end());
-    const NameSearch province = find_name("provincia", *request.value(keys::provincia), all_provinces);
-    if (!province.error.empty()) return end_with_error(province.error, result);
+    const std::string& typed_province = *request.value(keys::provincia);
+    const std::optional<std::string> province = find_name(typed_province, all_provinces).found;
+    if (!province)
+        return end_with_error(
+            not_found("provincia sconosciuta", typed_province, suggested_provinces(request, all_provinces)),
+            result);
 
     const AltitudeTable& table = memory.table(directory);
     if (table.missing) return end_with(altitude_write_error(), result);
@@ -78,20 +128,24 @@ std::optional<Site> choose_site(const Request& request, const std::string& direc
                                   find_path(altitude_file_name(directory)).string() + ": " + *table.failure,
                               result);
     std::string_view file = table.bytes;
-    auto municipalities = municipalities_in(file, province.found);
+    auto municipalities = municipalities_in(file, *province);
     const bool from_built_in = !municipalities;
     if (from_built_in) {
         file = built_in_altitude_file();
-        municipalities = municipalities_in(file, province.found);
+        municipalities = municipalities_in(file, *province);
         if (!municipalities) return end_with(altitude_read_error(), result);
-        result.messages.push_back(built_in_answered(province.found));
+        result.messages.push_back(built_in_answered(*province));
     }
-    const NameSearch municipality = find_name("comune", *request.value(keys::comune), *municipalities);
-    if (!municipality.error.empty()) return end_with_error(municipality.error, result);
-    const auto altitude = altitude_in(file, province.found, municipality.found);
+    const std::string& typed = *request.value(keys::comune);
+    const auto [municipality, hits] = find_name(typed, *municipalities);
+    if (!hits.empty()) return end_with_error(not_found("comune ambiguo", typed, hits), result);
+    if (!municipality)
+        return end_with_error(not_found("comune sconosciuto", typed,
+                                        suggested_municipalities(typed, *province, *municipalities)),
+                              result);
+    const auto altitude = altitude_in(file, *province, *municipality);
     if (!altitude) return end_with(altitude_read_error(), result);
-    return Site{province.found, municipality.found, *altitude, ZoneOfProvince(province.found).zone,
-                from_built_in};
+    return Site{*province, *municipality, *altitude, ZoneOfProvince(*province).zone, from_built_in};
 }
 
 }  // namespace

@@ -39,21 +39,31 @@ auto read_or_write_anew(std::string_view ProgramDirectory, AltitudeNotices& noti
 
 }  // namespace
 
-std::optional<std::vector<std::string>> municipalities_in(std::string_view file, std::string_view province) {
+std::optional<std::vector<std::string_view>> municipality_lines_in(std::string_view file,
+                                                                   std::string_view province) {
     std::optional<FieldReader> reader = find_field(file, name_in_file(province));
     if (!reader) return std::nullopt;
-    std::vector<std::string> names;
+    std::vector<std::string_view> lines;
     while (reader->next()) {
         if (reader->field().empty()) {
             // Without a municipality there is no first one to select.
-            if (names.empty()) return std::nullopt;
-            return names;
+            if (lines.empty()) return std::nullopt;
+            return lines;
         }
-        const std::optional<std::string_view> name = municipality_of(reader->field());
-        if (!name) return std::nullopt;
-        names.push_back(from_code_page(*name));
+        if (!municipality_of(reader->field())) return std::nullopt;
+        lines.push_back(reader->field());
     }
     return std::nullopt;
+}
+
+std::optional<std::vector<std::string>> municipalities_in(std::string_view file, std::string_view province) {
+    const auto lines = municipality_lines_in(file, province);
+    if (!lines) return std::nullopt;
+    std::vector<std::string> names;
+    names.reserve(lines->size());
+    for (const std::string_view line : *lines)
+        names.push_back(from_code_page(*municipality_of(line)));
+    return names;
 }
 
 std::optional<std::string> altitude_in(std::string_view file, std::string_view province,

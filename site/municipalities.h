@@ -14,6 +14,12 @@
 // "33543") and "Oristano" (no empty line at the end of the file) fail.
 namespace coltre {
 
+/// The lines of a province's municipalities as the file holds them, at least one, each with a blank.
+/// @param file  bytes of an altitude file
+/// @return nothing if the read fails
+std::optional<std::vector<std::string_view>> municipality_lines_in(std::string_view file,
+                                                                   std::string_view province);
+
 /// The municipalities of a province, at least one, in the order of the file.
 /// @param file  bytes of an altitude file
 /// @return nothing if the read fails

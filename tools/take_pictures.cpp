@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPalette>
 #include <QPushButton>
 #include <QStyleFactory>
@@ -19,8 +20,10 @@
 #include "ui/Form1.h"
 #include "ui/PeriododiRitorno.h"
 #include "ui/casipart.h"
+#include "ui/place_finder.h"
 #include "ui/qt_dialogs.h"
 #include "ui/sketch_widget.h"
+#include "ui/table_window.h"
 
 namespace {
 
@@ -165,7 +168,6 @@ void take_main_window(Form1& window, PicturedDialogs& dialogs, Pictures& picture
 }
 
 void take_special_cases(Form1& window, Pictures& pictures) {
-    type(window, "asinput", "239");
     click(window, "Bottcpart");
     auto& special_cases = *window.findChild<casipart*>();
     special_cases.resize(900, 540);
@@ -173,6 +175,31 @@ void take_special_cases(Form1& window, Pictures& pictures) {
     take_tab(special_cases, "cartelle", 0, "Calcola2", "casi-discontinuita", pictures);
     take_tab(special_cases, "cartelle", 1, "Calcola2", "casi-pareti", pictures);
     take_tab(special_cases, "cartelle", 2, "Calcola2", "casi-ostacoli", pictures);
+}
+
+/// Chooses an entry of the window's menus, which opens a window of this class.
+template <typename Window>
+Window& open_by_menu(QWidget& window, const QString& entry) {
+    for (QAction* const action : window.findChild<QMenuBar*>()->findChildren<QAction*>())
+        if (action->text() == entry) action->trigger();
+    return *window.findChildren<Window*>().constLast();
+}
+
+void take_side_windows(Form1& window, Pictures& pictures) {
+    type(window, "asinput", "239");
+    auto& finder = open_by_menu<PlaceFinder>(window, "Trova comune…");
+    for (const char* const marked : {"torino", "aosta", "belluno"}) {
+        type(finder, "cerca", marked);
+        click(finder, "segna");
+    }
+    type(finder, "cerca", "valsamoggia");
+    pictures.take(finder, "trova-comune");
+    finder.close();
+    auto& comparison = open_by_menu<TableWindow>(window, "Confronta siti…");
+    comparison.resize(comparison.width(), 270);
+    pictures.take(comparison, "confronta-siti");
+    window.findChild<QTabWidget*>("SSTab1")->setCurrentIndex(1);
+    pictures.take(open_by_menu<TableWindow>(window, "Che cosa succede se…"), "che-cosa-succede-se");
 }
 
 }  // namespace
@@ -195,6 +222,7 @@ int main(int argc, char** argv) {
     Form1 window(program, dialogs);
     if (!window.load("", suite_notation(directory.path().toStdString()))) return 1;
     take_main_window(window, dialogs, pictures);
+    take_side_windows(window, pictures);
     take_special_cases(window, pictures);
     return pictures.complete ? 0 : 1;
 }

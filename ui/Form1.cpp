@@ -70,6 +70,10 @@ void Form1::connect_controls() {
     connect(m_ui->asinput, &QLineEdit::textChanged, this, &Form1::site_changed);
     connect(m_ui->TextCTermico, &QLineEdit::textChanged, this, &Form1::site_changed);
     connect(m_ui->ComboEsp, &QComboBox::currentIndexChanged, this, &Form1::site_changed);
+    connect(&m_menus, &Menus::find_place, &m_side_windows, &SideWindows::find_place);
+    connect(&m_menus, &Menus::compare_sites, &m_side_windows, &SideWindows::compare_sites);
+    connect(&m_menus, &Menus::show_what_if, &m_side_windows, &SideWindows::show_what_if);
+    connect(&m_side_windows, &SideWindows::place_chosen, this, &Form1::choose_site);
     connect(this, &Form1::site_changed, this, &Form1::follow_inputs);
     connect(m_ui->SSTab1, &QTabWidget::currentChanged, this, &Form1::follow_inputs);
     for (const auto& tab : m_tabs)
@@ -92,6 +96,24 @@ void Form1::follow_inputs() {
     CalculationTab& tab = open_tab();
     tab.follow(inputs(tab));
     m_ui->caricosuolo->set_stale(m_ground_load_of && *m_ground_load_of != site());
+    m_side_windows.follow();
+}
+
+Inputs Form1::shown_inputs() const {
+    if (!m_special_cases || !m_special_cases_in_front) return inputs(open_tab());
+    Inputs shown = site();
+    shown.fields = m_special_cases->fields();
+    return shown;
+}
+
+void Form1::in_front(bool special_cases) {
+    m_special_cases_in_front = special_cases;
+    m_side_windows.follow();
+}
+
+void Form1::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) in_front(false);
+    QWidget::changeEvent(event);
 }
 
 void Form1::set_up_hints(QWidget& ground) {
@@ -151,12 +173,8 @@ Inputs Form1::site() const {
     site.zone = m_program.cells.zone;
     site.return_period_factor = m_program.cells.return_period_factor;
 
-    if (m_ui->Provinciainput->currentIndex() < 0) {
-        std::string_view zone = zone_caption(site.zone);  // in parentheses
-        zone.remove_prefix(1);
-        zone.remove_suffix(1);
-        site.site_notes.push_back("sito non scelto: " + std::string(zone));
-    }
+    if (m_ui->Provinciainput->currentIndex() < 0)
+        site.site_notes.push_back("sito non scelto: " + std::string(zone_name(site.zone)));
     if (m_ui->asinput->is_marked())
         site.site_notes.push_back("altitudine: " + m_ui->asinput->reading().toStdString());
     if (m_ui->TextCTermico->is_marked())
@@ -218,6 +236,16 @@ void Form1::municipality_chosen() {
     m_ui->asinput->setText(QString::fromStdString(*altitude));
 }
 
+void Form1::choose_site(const std::string& province, const std::string& municipality) {
+    const auto region = std::ranges::find_if(regions(), [&province](const Region& it) {
+        return std::ranges::find(it.provinces, province) != it.provinces.end();
+    });
+    m_ui->regione->choose(std::string(region->name));
+    m_ui->Provinciainput->choose(province);
+    m_ui->comuneinput->choose(municipality);
+    m_ui->Calcola->setFocus();
+}
+
 void Form1::report_switched() {
     m_ui->udmcombo->setEnabled(m_ui->Check1Box->isChecked());
 }
@@ -243,6 +271,8 @@ void Form1::special_cases_clicked() {
         m_program, m_dialogs, [this] { return site(); }, [this] { show_ground_load(site()); }, this);
     connect(this, &Form1::site_changed, window, &casipart::follow_inputs);
     connect(window, &casipart::calculated, this, &Form1::keep);
+    connect(window, &casipart::changed, &m_side_windows, &SideWindows::follow);
+    connect(window, &casipart::came_to_front, this, [this] { in_front(true); });
     m_menus.add_to(*window, [window]() -> CalculationTab& { return window->open_tab(); });
     m_special_cases = window;
     window->show();

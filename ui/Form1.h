@@ -9,9 +9,11 @@
 
 #include "startup/program.h"
 #include "ui/calculation_tab.h"
+#include "ui/casipart.h"
 #include "ui/hints.h"
 #include "ui/last_calculation.h"
 #include "ui/menus.h"
+#include "ui/side_windows.h"
 #include "ui/user_dialogs.h"
 
 namespace coltre {
@@ -50,6 +52,7 @@ class Form1 : public QWidget {
     void site_changed();
 
   protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
@@ -59,6 +62,10 @@ class Form1 : public QWidget {
 
     [[nodiscard]] CalculationTab& open_tab() const;
     [[nodiscard]] Inputs inputs(const CalculationTab& tab) const;
+    /// Of the calculation on show: that of the window which was in front last.
+    [[nodiscard]] Inputs shown_inputs() const;
+    /// The main window is in front now, or that of the special cases.
+    void in_front(bool special_cases);
     /// The sketch of the open tab, and the ground load, for what is typed and chosen now.
     void follow_inputs();
 
@@ -68,6 +75,10 @@ class Form1 : public QWidget {
 
     /// Keeps a calculation of either window for its documents.
     void keep(const Fields& fields, const Outcome& outcome);
+
+    /// Chooses region, province and municipality by their events.
+    /// @param province  in the spelling of the table
+    void choose_site(const std::string& province, const std::string& municipality);
 
     // One handler a control and event.
     void region_chosen(int index);
@@ -86,12 +97,14 @@ class Form1 : public QWidget {
     std::vector<std::unique_ptr<CalculationTab>> m_tabs;
     LastCalculation m_last_calculation{*this, m_dialogs};
     Menus m_menus{*this, m_program, m_last_calculation, m_dialogs};
+    SideWindows m_side_windows{*this, m_program, m_dialogs, [this] { return shown_inputs(); }};
+    bool m_special_cases_in_front = false;
     std::string m_listed_altitude;           // of the municipality that was chosen last
     std::optional<Inputs> m_ground_load_of;  // nothing before it is shown for the first time
     QTimer m_Timer1{this};
     std::unique_ptr<Hints> m_hints;
     QPointer<QWidget> m_return_period;  // one at a time
-    QPointer<QWidget> m_special_cases;
+    QPointer<casipart> m_special_cases;
 };
 
 }  // namespace coltre

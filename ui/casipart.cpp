@@ -76,6 +76,12 @@ Inputs casipart::inputs(const CalculationTab& tab) const {
 void casipart::follow_inputs() {
     CalculationTab& tab = open_tab();
     tab.follow(inputs(tab));
+    emit changed();
+}
+
+void casipart::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) emit came_to_front();
+    QWidget::changeEvent(event);
 }
 
 void casipart::keyPressEvent(QKeyEvent* event) {
@@ -108,8 +114,8 @@ void casipart::report_switched() {
     m_ui->udmcombo->setEnabled(m_ui->Check1Box->isChecked());
 }
 
-void casipart::calculate_clicked() {
-    CalculationTab& tab = open_tab();
+Fields casipart::fields() const {
+    const CalculationTab& tab = open_tab();
     Fields fields = m_site().fields;
     fields.kind = tab.kind();
     fields.entries = tab.texts();
@@ -117,6 +123,12 @@ void casipart::calculate_clicked() {
     fields.udmcombo = m_ui->udmcombo->currentText().toStdString();
     fields.Check1Box = m_ui->Check1Box->isChecked();
     fields.traced = true;
+    return fields;
+}
+
+void casipart::calculate_clicked() {
+    CalculationTab& tab = open_tab();
+    const Fields fields = this->fields();
     const Outcome outcome = Calcola2(fields, m_program);
     // The labels are refreshed before the message about the report.
     if (outcome.complete) {

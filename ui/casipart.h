@@ -34,11 +34,19 @@ class casipart : public QWidget {
 
     [[nodiscard]] CalculationTab& open_tab() const;
 
+    /// What a click on Calcola would calculate now.
+    [[nodiscard]] Fields fields() const;
+
   signals:
     /// A calculation ended.
     void calculated(const Fields& fields, const Outcome& outcome);
 
+    /// Another page is open, or something else is typed or chosen.
+    void changed();
+    void came_to_front();
+
   protected:
+    void changeEvent(QEvent* event) override;
     /// Enter calculates, wherever the focus is but on a button.
     void keyPressEvent(QKeyEvent* event) override;
 

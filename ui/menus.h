@@ -38,6 +38,11 @@ class Menus : public QObject {
     /// @return false if there is none
     std::function<bool(const QUrl& file)> open_file;
 
+  signals:
+    void find_place(const CalculationTab& open_tab);
+    void compare_sites(const CalculationTab& open_tab);
+    void show_what_if(const CalculationTab& open_tab);
+
   private:
     struct Entry {
         const char* menu;  ///< entries of one menu follow each other

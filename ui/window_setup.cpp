@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAccessibleWidget>
 #include <QEvent>
+#include <QHeaderView>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -97,6 +98,13 @@ void answer_mnemonics_at_once(QWidget& window) {
 void fill(QComboBox& list, std::span<const std::string_view> items) {
     for (const std::string_view item : items)
         list.addItem(QString::fromUtf8(item.data(), static_cast<qsizetype>(item.size())));
+}
+
+void set_row_height(QTableView& table) {
+    const int letters = table.fontMetrics().height();
+    table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table.verticalHeader()->setMinimumSectionSize(letters);
+    table.verticalHeader()->setDefaultSectionSize(letters + letters / 2);
 }
 
 void leave_lists_to_clicks_and_keys(QWidget& window) {

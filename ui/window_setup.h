@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QTableView>
 #include <span>
 #include <string_view>
 
@@ -29,6 +30,9 @@ void answer_mnemonics_at_once(QWidget& window);
 /// Fills an empty list. Before its window is laid out: a list keeps the least width that it had when it was
 /// first measured.
 void fill(QComboBox& list, std::span<const std::string_view> items);
+
+/// Gives the rows of a table, all alike, the height of their text.
+void set_row_height(QTableView& table);
 
 /// Keeps the mouse wheel from choosing entries of the closed lists of a window: a turn over a list that
 /// happens to lie under the pointer would change the site or a coefficient unseen.

@@ -130,7 +130,8 @@ class BatchByName : public testing::Test {
 TEST_F(BatchByName, NamesAreMatchedAndAnsweredInTheTablesSpelling) {
     const CommandRun run = run_command(
         {"lotto"}, {place("FORLI'", "forlì"), place("torino", "AGLIÈ"), place("Vicenza", "Vicenza"),
-                    place("Torin", "Torino"), place("Torino", "Moncaliere"), place("Palermo", "palermo")});
+                    place("Torin", "Torino"), place("Torino", "Moncaliere"), place("Palermo", "palermo"),
+                    place("MB", "Monza"), place("Bologna", "valsamoggia")});
     EXPECT_EQ(run.status, failed);
     std::vector<std::string> answers;
     for (const Json& result : run.results()) {
@@ -144,7 +145,9 @@ TEST_F(BatchByName, NamesAreMatchedAndAnsweredInTheTablesSpelling) {
                     "Vicenza; Vicenza; Errore in lettura del file altitudine.txt .",
                     StartsWith("Torin; Torino; provincia sconosciuta: «Torin»; forse Torino"),
                     StartsWith("Torino; Moncaliere; comune sconosciuto: «Moncaliere»; forse Moncalieri"),
-                    "Palermo; Palermo; 3"));
+                    "Palermo; Palermo; 3", "MB; Monza; provincia sconosciuta: «MB»; forse Milano, Roma, Como",
+                    "Bologna; valsamoggia; comune sconosciuto: «valsamoggia»; forse Bazzano, "
+                    "CastelloDiSerravalle, Crespellano, Monteveglio, Savigno (poi Valsamoggia)"));
 }
 
 /// Hands lines on one by one, each made when it is asked for; an empty one ends them.

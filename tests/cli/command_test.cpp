@@ -54,9 +54,30 @@ TEST(Command, JsonIsTheResultOfABatch) {
     EXPECT_EQ(run.out, batch.out);
 }
 
+TEST(Command, MunicipalitiesAreListedByNamesOf1996AndOfToday) {
+    EXPECT_EQ(
+        run_command({"comuni", "cagn", "--provincia=trento"}).out,
+        "Comune                       Provincia       Zona                     Altitudine\n"
+        "Cagno                        Trento          0 (Zona I Alpina)             663 m  oggi Novella "
+        "(dal 2020); omonimo in provincia di Como\n");
+    EXPECT_EQ(run_command({"comuni", "monza", "--json", "--provincia", "MB"}).out,
+              R"({"comune": "Monza", "provincia": "Milano", "zona": 1, "altitudine": 162, )"
+              "\"provincia_oggi\": \"MB\"}\n");
+    EXPECT_EQ(run_command({"comuni", "--json"}).results().size(), 8102U);
+    for (const auto& [arguments, err] : std::vector<std::pair<std::vector<std::string>, std::string>>{
+             {{"comuni", "valsamogia"}, "Errore: nessun comune trovato: «valsamogia»; forse Valsamoggia, "},
+             {{"comuni", "--provincia", "Milan"},
+              "Errore: provincia sconosciuta: «Milan»; forse Milano, "}}) {
+        const CommandRun run = run_command(arguments);
+        EXPECT_EQ(run.status, failed);
+        EXPECT_EQ(run.out, "");
+        EXPECT_THAT(run.err, HasSubstr(err));
+    }
+}
+
 TEST(Command, HelpIsItalianAndHasAnExample) {
     for (const char* command : {"", "una-falda", "due-falde", "piu-falde", "cilindrica", "discontinuita",
-                                "parete", "ostacolo", "lotto", "altitudini"}) {
+                                "parete", "ostacolo", "lotto", "comuni", "altitudini"}) {
         std::vector<std::string> arguments{"--help"};
         if (*command != '\0') arguments.insert(arguments.begin(), command);
         const CommandRun run = run_command(arguments);
