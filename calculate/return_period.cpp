@@ -41,4 +41,11 @@ ReturnPeriodOutcome confirm_return_period(std::string_view InputPerRIT, ProgramC
     return {std::nullopt, std::string(trim_blanks(display_number_text(Tr))), Fault::none};
 }
 
+void withdraw_return_period(ProgramCells& cells) {
+    const ProgramCells at_start;
+    cells.return_period = at_start.return_period;
+    cells.return_period_factor = at_start.return_period_factor;
+    cells.confirmed_return_period = at_start.confirmed_return_period;
+}
+
 }  // namespace coltre

@@ -26,4 +26,7 @@ struct ReturnPeriodOutcome {
 /// prints it.
 ReturnPeriodOutcome confirm_return_period(std::string_view InputPerRIT, ProgramCells& cells);
 
+/// As at the start: 50 years, of which none is confirmed.
+void withdraw_return_period(ProgramCells& cells);
+
 }  // namespace coltre
