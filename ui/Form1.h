@@ -7,9 +7,13 @@
 #include <string_view>
 #include <vector>
 
+#include "requests/job.h"
+#include "site/municipalities.h"
 #include "startup/program.h"
 #include "ui/calculation_tab.h"
+#include "ui/casipart.h"
 #include "ui/hints.h"
+#include "ui/job_file.h"
 #include "ui/last_calculation.h"
 #include "ui/menus.h"
 #include "ui/user_dialogs.h"
@@ -51,6 +55,7 @@ class Form1 : public QWidget {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
   private:
     void connect_controls();
@@ -66,8 +71,24 @@ class Form1 : public QWidget {
     /// tell.
     void show_return_period_factor();
 
+    /// What a click on Calcola would calculate now.
+    [[nodiscard]] Fields fields() const;
+    /// These fields at the site, and with the return period, that are chosen now.
+    [[nodiscard]] Subject subject(const Fields& fields) const;
     /// Keeps a calculation of either window for its documents.
     void keep(const Fields& fields, const Outcome& outcome);
+
+    void tell(const AltitudeNotices& notices);
+
+    /// Chooses region, province and municipality by their events; without a province none is chosen.
+    /// @param province  in the spelling of the table
+    void choose_site(const std::string& province, const std::string& municipality);
+    void set_return_period(const std::string& confirmed);
+
+    void open_job();
+    void save_job(const CalculationTab& tab);
+    /// Fills the windows, by the events of their fields.
+    void take(const Job& job);
 
     // One handler a control and event.
     void region_chosen(int index);
@@ -86,12 +107,13 @@ class Form1 : public QWidget {
     std::vector<std::unique_ptr<CalculationTab>> m_tabs;
     LastCalculation m_last_calculation{*this, m_dialogs};
     Menus m_menus{*this, m_program, m_last_calculation, m_dialogs};
+    JobFile m_job{m_dialogs, this};
     std::string m_listed_altitude;           // of the municipality that was chosen last
     std::optional<Inputs> m_ground_load_of;  // nothing before it is shown for the first time
     QTimer m_Timer1{this};
     std::unique_ptr<Hints> m_hints;
     QPointer<QWidget> m_return_period;  // one at a time
-    QPointer<QWidget> m_special_cases;
+    QPointer<casipart> m_special_cases;
 };
 
 }  // namespace coltre

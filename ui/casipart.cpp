@@ -108,8 +108,8 @@ void casipart::report_switched() {
     m_ui->udmcombo->setEnabled(m_ui->Check1Box->isChecked());
 }
 
-void casipart::calculate_clicked() {
-    CalculationTab& tab = open_tab();
+Fields casipart::fields() const {
+    const CalculationTab& tab = open_tab();
     Fields fields = m_site().fields;
     fields.kind = tab.kind();
     fields.entries = tab.texts();
@@ -117,6 +117,18 @@ void casipart::calculate_clicked() {
     fields.udmcombo = m_ui->udmcombo->currentText().toStdString();
     fields.Check1Box = m_ui->Check1Box->isChecked();
     fields.traced = true;
+    return fields;
+}
+
+void casipart::take(const Fields& fields) {
+    m_ui->cartelle->setCurrentIndex(describe(fields.kind).page);
+    open_tab().set_texts(fields.entries);
+    m_ui->udmcombo->setCurrentText(QString::fromStdString(fields.udmcombo));
+}
+
+void casipart::calculate_clicked() {
+    CalculationTab& tab = open_tab();
+    const Fields fields = this->fields();
     const Outcome outcome = Calcola2(fields, m_program);
     // The labels are refreshed before the message about the report.
     if (outcome.complete) {

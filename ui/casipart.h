@@ -34,6 +34,11 @@ class casipart : public QWidget {
 
     [[nodiscard]] CalculationTab& open_tab() const;
 
+    /// What a click on Calcola would calculate now.
+    [[nodiscard]] Fields fields() const;
+    /// Opens the page of a calculation and fills it.
+    void take(const Fields& fields);
+
   signals:
     /// A calculation ended.
     void calculated(const Fields& fields, const Outcome& outcome);

@@ -92,6 +92,16 @@ void SiteList::fill(std::span<const std::string> entries) {
     setCurrentIndex(-1);
 }
 
+void SiteList::choose(const std::string& entry) {
+    const int index = findText(QString::fromStdString(entry));
+    if (index < 0) return;
+    if (index == currentIndex()) {
+        emit chosen(index);
+    } else {
+        setCurrentIndex(index);
+    }
+}
+
 void SiteList::showPopup() {
     m_index_at_popup = currentIndex();
     QComboBox::showPopup();

@@ -20,6 +20,10 @@ class SiteList : public QComboBox {
     /// The selected entry as the core takes it; empty if there is none.
     [[nodiscard]] std::string utf8() const { return currentText().toStdString(); }
 
+    /// Chooses an entry as the user does, the selected one once more. One that is not in the list changes
+    /// nothing.
+    void choose(const std::string& entry);
+
     void showPopup() override;
 
   signals:
