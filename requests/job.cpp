@@ -40,6 +40,8 @@ JsonRequest read_request(std::string_view bytes) {
     if (is_batch(bytes)) return refused("il file contiene più richieste, è un lotto del comando");
     JsonRequest request = read_json_request(bytes, UnknownKeys::listed);
     if (request.error.empty()) request.error = validation_error(request.request);
+    if (!request.error.empty())
+        request.error = "il file è incompleto, o non è un lavoro di questa versione: " + request.error;
     return request;
 }
 

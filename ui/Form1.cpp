@@ -255,12 +255,16 @@ void Form1::open_job() {
     const std::optional<Job> job = m_job.open(m_program.directories.ProgramDirectory);
     if (!job) return;
     take(*job);
-    m_job.opened(job_file(subject(job->fields)));
+    m_job.opened(job_of(job->fields.kind));
 }
 
 void Form1::save_job(const CalculationTab& tab) {
-    const bool main = describe(tab.kind()).window == Window::main;
-    m_job.save(job_file(subject(main ? fields() : m_special_cases->fields())));
+    m_job.save(job_of(tab.kind()));
+}
+
+std::string Form1::job_of(Kind kind) const {
+    const bool main = describe(kind).window == Window::main;
+    return job_file(subject(main ? fields() : m_special_cases->fields()));
 }
 
 void Form1::take(const Job& job) {

@@ -87,6 +87,8 @@ class Form1 : public QWidget {
 
     void open_job();
     void save_job(const CalculationTab& tab);
+    /// What saving the window of this calculation writes.
+    [[nodiscard]] std::string job_of(Kind kind) const;
     /// Fills the windows, by the events of their fields.
     void take(const Job& job);
 

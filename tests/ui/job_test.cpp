@@ -63,14 +63,15 @@ TEST_F(JobTest, OpeningAJobFillsTheWindowsSoThatSavingWritesItAgain) {
 
 TEST_F(JobTest, AFileThatIsNoJobChangesNothing) {
     const std::string before = saved(window);
+    const std::string no_job = "il file è incompleto, o non è un lavoro di questa versione: ";
     const std::pair<std::string, std::string> files[] = {
         {"", "il file è vuoto"},
-        {R"({"calcolo":"parete","zona":2,"alt)", "JSON illeggibile al carattere 34"},
-        {R"({"name":"app","version":2})", "manca «calcolo»"},
-        {R"({"calcolo":"valanga","h":2})", "calcolo sconosciuto: «valanga»"},
-        {R"({"calcolo":"una-falda","zona":2,"altitudine":5})", "manca «alfa»"},
+        {R"({"calcolo":"parete","zona":2,"alt)", no_job + "JSON illeggibile al carattere 34"},
+        {R"({"name":"app","version":2})", no_job + "manca «calcolo»"},
+        {R"({"calcolo":"valanga","h":2})", no_job + "calcolo sconosciuto: «valanga»"},
+        {R"({"calcolo":"una-falda","zona":2,"altitudine":5})", no_job + "manca «alfa»"},
         {R"({"calcolo":"una-falda","zona":2,"altitudine":5,"alfa":[15]})",
-         "«alfa» deve essere un numero o un testo, non una lista"},
+         no_job + "«alfa» deve essere un numero o un testo, non una lista"},
         {"{\"calcolo\":\"parete\",\"zona\":2,\"altitudine\":5,\"h\":2}\n{}\n",
          "il file contiene più richieste, è un lotto del comando"},
         {std::string(longest_job + 1, ' '), "il file è più lungo di 30000 byte"},
