@@ -44,4 +44,11 @@ bool is_refused_return_period(double Tr) {
     return return_period_factor(Checked(Tr)).fault() != Fault::none;
 }
 
+void withdraw_return_period(ProgramCells& cells) {
+    const ProgramCells at_start;
+    cells.return_period = at_start.return_period;
+    cells.return_period_factor = at_start.return_period_factor;
+    cells.confirmed_return_period = at_start.confirmed_return_period;
+}
+
 }  // namespace coltre

@@ -33,4 +33,7 @@ ReturnPeriodOutcome confirm_return_period(std::string_view InputPerRIT, ProgramC
 /// @param Tr  years
 bool is_refused_return_period(double Tr);
 
+/// As at the start: 50 years, of which none is confirmed.
+void withdraw_return_period(ProgramCells& cells);
+
 }  // namespace coltre

@@ -28,11 +28,8 @@ std::string kept(const std::string& name) {
 }
 
 void list(std::ostream& out, const std::vector<AltitudeFault>& faults) {
-    for (const AltitudeFault& fault : faults) {
-        if (fault.line > 0) out << "riga " << fault.line << ": ";
-        if (!fault.province.empty()) out << fault.province << ": ";
-        out << fault.reason << '\n';
-    }
+    for (const AltitudeFault& fault : faults)
+        out << text_of(fault) << '\n';
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ ProgramCells results_of_unit_ground_load(const Entries& entries) {
 
 void mark_as_pending(Drawing& drawing) {
     drawing.pending = true;
-    add_row_above(drawing, "risultati non aggiornati: premere Calcola");
+    add_row_above(drawing, pending_results);
     drawing.page.height += note_row;  // as much room below, so that the drawing stays where it was
 }
 

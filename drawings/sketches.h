@@ -24,6 +24,9 @@ namespace coltre {
 inline constexpr double drift_end_whole = 4680;  ///< the drift lies wholly on the lower roof
 inline constexpr double drift_end_cut = 5160;    ///< the drift is cut at the end of the lower roof
 
+/// What is said of numbers that belong to other entries than those on show.
+inline constexpr const char* pending_results = "risultati non aggiornati: premere Calcola";
+
 /// Says on the drawing that the numbers in its labels belong to the entries of the last calculation, not to
 /// these.
 void mark_as_pending(Drawing& drawing);

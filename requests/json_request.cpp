@@ -24,8 +24,9 @@ bool has_half_character(std::string_view text) {
 class RequestHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, RequestHandler> {
   public:
     /// @param stream  that the parser reads: the line, or a text of the same length
-    RequestHandler(std::string_view line, const rapidjson::MemoryStream& stream, JsonRequest& result)
-        : m_line(line), m_stream(stream), m_result(result) {}
+    RequestHandler(std::string_view line, const rapidjson::MemoryStream& stream, UnknownKeys unknown,
+                   JsonRequest& result)
+        : m_line(line), m_stream(stream), m_unknown(unknown), m_result(result) {}
 
     bool Null() { return literal("null"); }
     bool Bool(bool value) {
@@ -77,7 +78,7 @@ class RequestHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Re
         m_is_id = name == "id";
         m_is_kind = name == "calcolo";
         m_key = m_is_id || m_is_kind ? std::nullopt : find_key(name);
-        if (!m_is_id && !m_is_kind && !m_key) error("chiave sconosciuta: " + in_quotes(name));
+        if (!m_is_id && !m_is_kind && !m_key) unknown_key(name);
         const bool repeated = (m_is_id && !m_result.id.empty()) || (m_is_kind && m_result.request.kind) ||
                               (m_key && m_result.request.value(*m_key) != nullptr);
         if (repeated) error("chiave ripetuta: " + in_quotes(name));
@@ -93,6 +94,14 @@ class RequestHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Re
 
     void error(std::string_view text) {
         if (m_result.error.empty()) m_result.error = text;
+    }
+
+    void unknown_key(std::string_view name) {
+        if (m_unknown == UnknownKeys::refused) {
+            error("chiave sconosciuta: " + in_quotes(name));
+        } else {
+            m_result.unknown_keys.emplace_back(name);
+        }
     }
 
     void wrong_type(std::string_view what) {
@@ -135,6 +144,7 @@ class RequestHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Re
 
     std::string_view m_line;
     const rapidjson::MemoryStream& m_stream;
+    UnknownKeys m_unknown;
     JsonRequest& m_result;
     std::size_t m_depth = 0;
     std::optional<coltre::Key> m_key;
@@ -146,11 +156,12 @@ class RequestHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Re
 /// Reads the line once.
 /// @param parsed  what the parser sees of it, of the same length
 /// @return the start of a number that the parser refuses because it is beyond the range of doubles
-std::optional<std::size_t> read_once(std::string_view line, std::string_view parsed, JsonRequest& result) {
+std::optional<std::size_t> read_once(std::string_view line, std::string_view parsed, UnknownKeys unknown,
+                                     JsonRequest& result) {
     constexpr unsigned flags = rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseValidateEncodingFlag |
                                rapidjson::kParseIterativeFlag;
     rapidjson::MemoryStream stream(parsed.data(), parsed.size());
-    RequestHandler handler(line, stream, result);
+    RequestHandler handler(line, stream, unknown, result);
     rapidjson::Reader reader;
     const rapidjson::ParseResult end = reader.Parse<flags>(stream, handler);
     // The parser takes a null character for the end of the text.
@@ -168,7 +179,7 @@ std::optional<std::size_t> read_once(std::string_view line, std::string_view par
 
 }  // namespace
 
-JsonRequest read_json_request(std::string_view line) {
+JsonRequest read_json_request(std::string_view line, UnknownKeys unknown) {
     constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
     if (line.starts_with(byte_order_mark)) line.remove_prefix(byte_order_mark.size());
 
@@ -177,7 +188,7 @@ JsonRequest read_json_request(std::string_view line) {
         result.error = "riga vuota";
         return result;
     }
-    auto refused = read_once(line, line, result);
+    auto refused = read_once(line, line, unknown, result);
     if (!refused) return result;
 
     // A number beyond the range is a text like others: the field that reads it finds it too large. A zero as
@@ -190,7 +201,7 @@ JsonRequest read_json_request(std::string_view line) {
         parsed.replace(*refused, length, length, '0');
         parsed[*refused + 1] = '.';
         result = {};
-        refused = read_once(line, parsed, result);
+        refused = read_once(line, parsed, unknown, result);
     }
     return result;
 }

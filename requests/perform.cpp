@@ -22,18 +22,6 @@ namespace coltre {
 
 namespace {
 
-Fields fields_of(const Request& request, std::string altitude, char decimal_separator) {
-    return {.asinput = std::move(altitude),
-            .ComboEsp = request.value_or(keys::ce, "1.0"),
-            .TextCTermico = request.value_or(keys::ct, "1.0"),
-            .kind = *request.kind,
-            .entries = entry_texts(request),
-            .udmcombo = request.value_or(keys::unita, unit_items.front()),
-            .Check1Box = request.value(keys::relazione) != nullptr,
-            .decimal_separator = decimal_separator,
-            .traced = request.flag(keys::passaggi) || request.value(keys::illustrata) != nullptr};
-}
-
 void append(Messages& messages, Messages more) {
     std::ranges::move(more, std::back_inserter(messages));
 }
@@ -93,6 +81,18 @@ void write_illustrated_report(const Request& request, Subject subject, Answer& r
 }
 
 }  // namespace
+
+Fields fields_of(const Request& request, std::string altitude, char decimal_separator) {
+    return {.asinput = std::move(altitude),
+            .ComboEsp = request.value_or(keys::ce, "1.0"),
+            .TextCTermico = request.value_or(keys::ct, "1.0"),
+            .kind = *request.kind,
+            .entries = entry_texts(request),
+            .udmcombo = request.value_or(keys::unita, unit_items.front()),
+            .Check1Box = request.value(keys::relazione) != nullptr,
+            .decimal_separator = decimal_separator,
+            .traced = request.flag(keys::passaggi) || request.value(keys::illustrata) != nullptr};
+}
 
 Answer perform(const Request& request, const Environment& environment, SiteMemory& memory) {
     Answer result;

@@ -241,6 +241,13 @@ AltitudeInspection inspect_altitudes(std::string_view file) {
     return {std::move(inspection.faults), std::move(inspection.repaired)};
 }
 
+std::string text_of(const AltitudeFault& fault) {
+    std::string text;
+    if (fault.line > 0) text = "riga " + std::to_string(fault.line) + ": ";
+    if (!fault.province.empty()) text.append(fault.province).append(": ");
+    return text.append(fault.reason);
+}
+
 AltitudeFileCheck check_altitude_file(std::string_view ProgramDirectory) {
     const FileContent file = read_content_at_rest(altitude_file_name(ProgramDirectory));
     if (file.end == ReadEnd::disturbed) return {file.reason, {}, {}};

@@ -26,6 +26,9 @@ struct AltitudeFault {
     std::string_view reason;    ///< in Italian, as part of a sentence
 };
 
+/// The fault as a line of a list, "riga 3530: Vicenza: manca lo spazio tra il nome e l'altitudine".
+std::string text_of(const AltitudeFault& fault);
+
 /// What came of going through an altitude file.
 struct AltitudeInspection {
     /// Those with a line first, in the order of the lines. The built-in table has two: the line "33543" in

@@ -1,18 +1,17 @@
 #include "ui/Form1.h"
 
+#include <QCloseEvent>
 #include <QKeyEvent>
 #include <algorithm>
 
 #include "calculate/Calcola.h"
 #include "calculate/return_period.h"
 #include "report/unit_systems.h"
-#include "site/municipalities.h"
 #include "site/regions.h"
 #include "startup/start_up.h"
 #include "text/number_text.h"
 #include "ui/CoeffEsposizione.h"
 #include "ui/PeriododiRitorno.h"
-#include "ui/casipart.h"
 #include "ui/window_setup.h"
 #include "ui_Form1.h"
 #include "version/maker.h"
@@ -73,7 +72,13 @@ void Form1::connect_controls() {
     connect(&m_menus, &Menus::find_place, &m_side_windows, &SideWindows::find_place);
     connect(&m_menus, &Menus::compare_sites, &m_side_windows, &SideWindows::compare_sites);
     connect(&m_menus, &Menus::show_what_if, &m_side_windows, &SideWindows::show_what_if);
-    connect(&m_side_windows, &SideWindows::place_chosen, this, &Form1::choose_site);
+    connect(&m_side_windows, &SideWindows::place_chosen, this,
+            [this](const std::string& province, const std::string& municipality) {
+                choose_site(province, municipality);
+                m_ui->Calcola->setFocus();
+            });
+    connect(&m_menus, &Menus::open_job, this, &Form1::open_job);
+    connect(&m_menus, &Menus::save_job, this, &Form1::save_job);
     connect(this, &Form1::site_changed, this, &Form1::follow_inputs);
     connect(m_ui->SSTab1, &QTabWidget::currentChanged, this, &Form1::follow_inputs);
     for (const auto& tab : m_tabs)
@@ -173,8 +178,12 @@ Inputs Form1::site() const {
     site.zone = m_program.cells.zone;
     site.return_period_factor = m_program.cells.return_period_factor;
 
-    if (m_ui->Provinciainput->currentIndex() < 0)
+    const std::string province = m_ui->Provinciainput->utf8();
+    if (province.empty()) {
         site.site_notes.push_back("sito non scelto: " + std::string(zone_name(site.zone)));
+    } else if (ZoneOfProvince(province).zone != site.zone) {
+        site.site_notes.push_back("zona del lavoro, non della provincia: " + std::string(zone_name(site.zone)));
+    }
     if (m_ui->asinput->is_marked())
         site.site_notes.push_back("altitudine: " + m_ui->asinput->reading().toStdString());
     if (m_ui->TextCTermico->is_marked())
@@ -216,9 +225,10 @@ void Form1::province_chosen() {
     m_ui->Zonalabel->setText(qt(zone.caption));
     emit site_changed();
     m_ui->comuneinput->fill({});
+    m_ui->altitude_note->hide();
     AltitudeNotices notices;
     const auto municipalities = FillMunicipalities(m_program.directories.ProgramDirectory, province, notices);
-    m_dialogs.show(notices.messages);
+    tell(notices);
     if (!municipalities) return m_dialogs.end();
     m_ui->comuneinput->setEnabled(true);
     m_ui->comuneinput->fill(*municipalities);
@@ -230,20 +240,75 @@ void Form1::municipality_chosen() {
     const std::optional<std::string> altitude =
         ReadAltitude(m_program.directories.ProgramDirectory, m_ui->Provinciainput->utf8(),
                      m_ui->comuneinput->utf8(), notices);
-    m_dialogs.show(notices.messages);
+    tell(notices);
     if (!altitude) return m_dialogs.end();
     m_listed_altitude = *altitude;
     m_ui->asinput->setText(QString::fromStdString(*altitude));
+}
+
+void Form1::tell(const AltitudeNotices& notices) {
+    if (!notices.note.empty()) {
+        m_ui->altitude_note->setText(QString::fromStdString(notices.note));
+        m_ui->altitude_note->show();
+    }
+    m_dialogs.show(notices.messages);
 }
 
 void Form1::choose_site(const std::string& province, const std::string& municipality) {
     const auto region = std::ranges::find_if(regions(), [&province](const Region& it) {
         return std::ranges::find(it.provinces, province) != it.provinces.end();
     });
+    if (region == regions().end()) return region_chosen(m_ui->regione->currentIndex());
     m_ui->regione->choose(std::string(region->name));
     m_ui->Provinciainput->choose(province);
     m_ui->comuneinput->choose(municipality);
-    m_ui->Calcola->setFocus();
+}
+
+void Form1::set_return_period(const std::string& confirmed) {
+    withdraw_return_period(m_program.cells);
+    if (!confirmed.empty()) confirm_return_period(confirmed, m_program.cells);
+    m_ui->OutputPerRit->setText(qt(display_number_text(m_program.cells.return_period)).trimmed());
+    show_return_period_factor();
+}
+
+void Form1::open_job() {
+    const std::optional<Job> job = m_job.open(m_program.directories.ProgramDirectory);
+    if (!job) return;
+    take(*job);
+    m_job.opened(job_of(job->fields.kind));
+}
+
+void Form1::save_job(const CalculationTab& tab) {
+    m_job.save(job_of(tab.kind()));
+}
+
+std::string Form1::job_of(Kind kind) const {
+    const bool main = describe(kind).window == Window::main;
+    return job_file(subject(main ? fields() : m_special_cases->fields()));
+}
+
+void Form1::take(const Job& job) {
+    choose_site(job.province, job.municipality);
+    m_program.cells.zone = job.zone;
+    m_ui->Zonalabel->setText(qt(zone_caption(job.zone)));
+    m_ui->asinput->setText(QString::fromStdString(job.fields.asinput));
+    set_return_period(job.return_period);
+    m_ui->ComboEsp->setCurrentText(QString::fromStdString(job.fields.ComboEsp));
+    m_ui->TextCTermico->setText(QString::fromStdString(job.fields.TextCTermico));
+    if (describe(job.fields.kind).window == Window::main) {
+        m_ui->SSTab1->setCurrentIndex(describe(job.fields.kind).page);
+        m_ui->udmcombo->setCurrentText(QString::fromStdString(job.fields.udmcombo));
+        open_tab().set_texts(job.fields.entries);
+        raise_open(this);
+    } else {
+        special_cases_clicked();
+        m_special_cases->take(job.fields);
+    }
+    emit site_changed();
+}
+
+void Form1::closeEvent(QCloseEvent* event) {
+    event->setAccepted(m_job.may_end());
 }
 
 void Form1::report_switched() {
@@ -278,14 +343,19 @@ void Form1::special_cases_clicked() {
     window->show();
 }
 
+Fields Form1::fields() const {
+    Fields fields = inputs(open_tab()).fields;
+    fields.udmcombo = m_ui->udmcombo->currentText().toStdString();
+    fields.Check1Box = m_ui->Check1Box->isChecked();
+    fields.traced = true;
+    return fields;
+}
+
 void Form1::calculate_clicked() {
     CalculationTab& tab = open_tab();
     const Inputs calculated_site = site();
     const Inputs calculated = inputs(tab);
-    Fields fields = calculated.fields;
-    fields.udmcombo = m_ui->udmcombo->currentText().toStdString();
-    fields.Check1Box = m_ui->Check1Box->isChecked();
-    fields.traced = true;
+    const Fields fields = this->fields();
     if (const auto notice = altitude_notice(fields)) {
         m_dialogs.show(notice->message);
         m_ui->asinput->setText(QString::fromStdString(notice->asinput));
@@ -302,21 +372,27 @@ void Form1::calculate_clicked() {
     follow_inputs();  // the altitude field may hold another altitude by now
 }
 
-void Form1::keep(const Fields& fields, const Outcome& outcome) {
-    m_menus.remember_report(outcome.report);
+Subject Form1::subject(const Fields& fields) const {
     Subject subject;
     subject.fields = fields;
-    subject.outcome = outcome;
     subject.job_name = m_program.directories.JobName;
     subject.zone = m_program.cells.zone;
     subject.return_period = m_program.cells.return_period;
     subject.confirmed_return_period = m_program.cells.confirmed_return_period;
     subject.province = m_ui->Provinciainput->utf8();
-    subject.zone_of_province = !subject.province.empty();
-    if (subject.zone_of_province) {
+    if (!subject.province.empty()) {
+        subject.zone_of_province = ZoneOfProvince(subject.province).zone == subject.zone;
         subject.municipality = m_ui->comuneinput->utf8();
         subject.listed_altitude = m_listed_altitude;
     }
+    return subject;
+}
+
+void Form1::keep(const Fields& fields, const Outcome& outcome) {
+    m_menus.remember_report(outcome.report);
+    Subject subject = this->subject(fields);
+    m_job.calculated(job_file(subject));
+    subject.outcome = outcome;
     m_last_calculation.keep(std::move(subject));
 }
 

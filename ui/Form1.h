@@ -7,10 +7,13 @@
 #include <string_view>
 #include <vector>
 
+#include "requests/job.h"
+#include "site/municipalities.h"
 #include "startup/program.h"
 #include "ui/calculation_tab.h"
 #include "ui/casipart.h"
 #include "ui/hints.h"
+#include "ui/job_file.h"
 #include "ui/last_calculation.h"
 #include "ui/menus.h"
 #include "ui/side_windows.h"
@@ -54,6 +57,7 @@ class Form1 : public QWidget {
   protected:
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
   private:
     void connect_controls();
@@ -73,12 +77,26 @@ class Form1 : public QWidget {
     /// tell.
     void show_return_period_factor();
 
+    /// What a click on Calcola would calculate now.
+    [[nodiscard]] Fields fields() const;
+    /// These fields at the site, and with the return period, that are chosen now.
+    [[nodiscard]] Subject subject(const Fields& fields) const;
     /// Keeps a calculation of either window for its documents.
     void keep(const Fields& fields, const Outcome& outcome);
 
-    /// Chooses region, province and municipality by their events.
+    void tell(const AltitudeNotices& notices);
+
+    /// Chooses region, province and municipality by their events; without a province none is chosen.
     /// @param province  in the spelling of the table
     void choose_site(const std::string& province, const std::string& municipality);
+    void set_return_period(const std::string& confirmed);
+
+    void open_job();
+    void save_job(const CalculationTab& tab);
+    /// What saving the window of this calculation writes.
+    [[nodiscard]] std::string job_of(Kind kind) const;
+    /// Fills the windows, by the events of their fields.
+    void take(const Job& job);
 
     // One handler a control and event.
     void region_chosen(int index);
@@ -99,6 +117,7 @@ class Form1 : public QWidget {
     Menus m_menus{*this, m_program, m_last_calculation, m_dialogs};
     SideWindows m_side_windows{*this, m_program, m_dialogs, [this] { return shown_inputs(); }};
     bool m_special_cases_in_front = false;
+    JobFile m_job{m_dialogs, this};
     std::string m_listed_altitude;           // of the municipality that was chosen last
     std::optional<Inputs> m_ground_load_of;  // nothing before it is shown for the first time
     QTimer m_Timer1{this};

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "platform/environment.h"
+#include "platform/interruption.h"
 #include "ui/Form1.h"
 #include "ui/pictures.h"
 #include "ui/qt_dialogs.h"
@@ -50,6 +51,18 @@ constexpr std::string_view help =
     "     coltre '|diroot=RADICE|'  avviato dalla suite installata in RADICE\n\n"
     "Senza schermo si usa il comando coltre-calcolo.\n";
 
+/// The name of the Shift key on Italian keyboards, which Qt's own translation leaves out.
+class KeyNames : public QTranslator {
+  public:
+    using QTranslator::QTranslator;
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char* context, const char* text, const char* /*disambiguation*/,
+                                    int /*n*/) const override {
+        const bool shift = qstrcmp(context, "QShortcut") == 0 && qstrcmp(text, "Shift") == 0;
+        return shift ? QStringLiteral("Maiusc") : QString();
+    }
+};
+
 /// @return the exit status of the process
 int print(std::string_view text) {
     std::cout << text << std::flush;
@@ -66,6 +79,7 @@ int run(int argc, char** argv) {
     if (command_line == "--help") return print(help);
 
     take_file_size_limit_as_error();
+    remove_temporary_files_when_interrupted();
     qInstallMessageHandler(end_without_display);
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
@@ -81,6 +95,8 @@ int run(int argc, char** argv) {
     QTranslator italian;
     if (italian.load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&italian);
+    KeyNames key_names;
+    QApplication::installTranslator(&key_names);
     load_pictures();
     QApplication::setWindowIcon(QIcon(":/images/coltre.png"));
 

@@ -57,6 +57,11 @@ std::vector<std::string> CalculationTab::texts() const {
     return texts;
 }
 
+void CalculationTab::set_texts(const std::vector<std::string>& texts) {
+    for (std::size_t i = 0; i < m_fields.size(); ++i)
+        m_fields[i]->setText(qt(texts[i]));
+}
+
 std::vector<std::string> CalculationTab::notes(const Inputs& now) const {
     std::vector<std::string> notes;
     if (m_description.needs_ground_load) notes = now.site_notes;
@@ -69,6 +74,7 @@ std::vector<std::string> CalculationTab::notes(const Inputs& now) const {
 
 void CalculationTab::follow(const Inputs& now) {
     const bool calculated = m_last && m_last->inputs == now;
+    m_stale = m_last && !calculated;
     EntryReader reader;
     Entries entries = reader.entries(kind(), now.fields.entries, now.fields.decimal_separator);
     // Entries that are no numbers, or beyond all range, make no roof: the sketch says so by its neutral

@@ -45,6 +45,8 @@ class CalculationTab : public QObject {
     /// The texts of the entries, as Fields holds them.
     [[nodiscard]] std::vector<std::string> texts() const;
 
+    void set_texts(const std::vector<std::string>& texts);
+
     /// What the sketch is to say of these inputs: what is to be known of the site, where it plays a part, and
     /// each entry that is not wholly understood ("α letto come 22").
     [[nodiscard]] std::vector<std::string> notes(const Inputs& now) const;
@@ -59,6 +61,8 @@ class CalculationTab : public QObject {
     /// What show_results() showed last: the ground load where it plays a part, the labels in the order of the
     /// row's places, then what the calculation gave besides, under its symbol. Nothing before.
     [[nodiscard]] std::vector<ShownResult> shown_results() const;
+    /// Whether they belong to other inputs than those of the last follow().
+    [[nodiscard]] bool results_are_stale() const { return m_stale; }
 
   signals:
     /// Something else is typed in one of the fields.
@@ -76,6 +80,7 @@ class CalculationTab : public QObject {
         Calculation calculation;
     };
     std::optional<Calculated> m_last;
+    bool m_stale = false;
     bool m_drift_length_shown = true;  // of a level change; moves with its calculations alone
 };
 

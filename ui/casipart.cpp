@@ -126,6 +126,12 @@ Fields casipart::fields() const {
     return fields;
 }
 
+void casipart::take(const Fields& fields) {
+    m_ui->cartelle->setCurrentIndex(describe(fields.kind).page);
+    open_tab().set_texts(fields.entries);
+    m_ui->udmcombo->setCurrentText(QString::fromStdString(fields.udmcombo));
+}
+
 void casipart::calculate_clicked() {
     CalculationTab& tab = open_tab();
     const Fields fields = this->fields();

@@ -36,6 +36,8 @@ class casipart : public QWidget {
 
     /// What a click on Calcola would calculate now.
     [[nodiscard]] Fields fields() const;
+    /// Opens the page of a calculation and fills it.
+    void take(const Fields& fields);
 
   signals:
     /// A calculation ended.

@@ -79,6 +79,11 @@ struct TableFrame {
 /// Lays out the blocks and paints them page by page.
 class PdfPages {
   public:
+    explicit PdfPages(const Document& document) : m_document(document) {
+        for (const Block& block : document.blocks)
+            std::visit(*this, block);
+    }
+
     void operator()(const Heading& heading) {
         const auto text = std::make_shared<TextBox>(QString::fromStdString(heading.text),
                                                     heading_format(heading.level, m_look), m_look);
@@ -192,16 +197,18 @@ class PdfPages {
         });
     }
 
+    /// @param scale  dots of the device a twip
     /// @return false if the device does not take it
-    bool paint(QPdfWriter& writer, const Document& document) const {
+    bool paint(QPagedPaintDevice& device, double scale = 1) const {
         const std::vector<Place> places = paginate(m_flow, text_height_a_page);
         const int pages = places.empty() ? 1 : places.back().page + 1;
         QPainter painter;
-        if (!painter.begin(&writer)) return false;
+        if (!painter.begin(&device)) return false;
+        painter.scale(scale, scale);
         std::size_t i = 0;
         for (int page = 0; page < pages; ++page) {
-            if (page > 0 && !writer.newPage()) return false;
-            paint_frame(painter, document, page, pages);
+            if (page > 0 && !device.newPage()) return false;
+            paint_frame(painter, page, pages);
             painter.save();
             painter.translate(side_margin, text_top);
             painter.setPen(Qt::black);
@@ -255,7 +262,7 @@ class PdfPages {
     }
 
     /// Header and footer.
-    void paint_frame(QPainter& painter, const Document& document, int page, int pages) const {
+    void paint_frame(QPainter& painter, int page, int pages) const {
         QFont font = m_look.font;
         font.setPixelSize(qRound(8.5 * point));
         const QFontMetricsF metrics(font, painter.device());
@@ -268,14 +275,15 @@ class PdfPages {
         const double room = text_width_a_page - metrics.horizontalAdvance(number) - between_columns;
         const double footer = footer_line + 1.2 * mm + metrics.ascent();
         painter.drawText(QPointF(side_margin, header_line - 1.2 * mm - metrics.descent()),
-                         one_line(document.page_header, text_width_a_page));
-        painter.drawText(QPointF(side_margin, footer), one_line(document.page_footer, room));
+                         one_line(m_document.page_header, text_width_a_page));
+        painter.drawText(QPointF(side_margin, footer), one_line(m_document.page_footer, room));
         painter.drawText(QPointF(page_width - side_margin - metrics.horizontalAdvance(number), footer),
                          number);
         for (const double line : {header_line, footer_line})
             painter.fillRect(QRectF(side_margin, line, text_width_a_page, hairline), rule_colour);
     }
 
+    const Document& m_document;
     DocumentLook m_look = page_look();
     DocumentLook m_remark_look = page_look(remark_letters);
     std::vector<FlowItem> m_flow;
@@ -315,12 +323,16 @@ QByteArray to_pdf(const Document& document) {
     writer.setPageMargins({});
     writer.setTitle(QString::fromStdString(document.title));
     writer.setCreator(QStringLiteral("Coltre"));
-    PdfPages pages;
-    for (const Block& block : document.blocks)
-        std::visit(pages, block);
-    if (!pages.paint(writer, document)) return {};
+    if (!PdfPages(document).paint(writer)) return {};
     fix_date(content);
     return content;
+}
+
+bool print(const Document& document, QPagedPaintDevice& printer) {
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setPageMargins({});
+    const double scale = std::min(printer.width() / page_width, printer.height() / page_height);
+    return PdfPages(document).paint(printer, scale);
 }
 
 }  // namespace coltre

@@ -4,6 +4,8 @@
 
 #include "document/document.h"
 
+class QPagedPaintDevice;
+
 namespace coltre {
 
 /// The document as a PDF file on A4 paper: vectors, text that can be selected, header and footer with "pagina
@@ -14,5 +16,9 @@ namespace coltre {
 /// is none: the document's own date is printed in it.
 /// @return empty if it could not be made
 QByteArray to_pdf(const Document& document);
+
+/// The same pages on a printer, made smaller where its paper is not A4.
+/// @return false if the printer does not take them
+bool print(const Document& document, QPagedPaintDevice& printer);
 
 }  // namespace coltre

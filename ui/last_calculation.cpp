@@ -3,6 +3,7 @@
 #include "document/html.h"
 #include "document/request_line.h"
 #include "platform/date.h"
+#include "ui/clipboard.h"
 #include "version/version.h"
 
 namespace coltre {
@@ -25,11 +26,19 @@ void LastCalculation::keep(Subject subject) {
 void LastCalculation::show_steps() {
     if (m_steps == nullptr) {
         m_steps = new StepsWindow(&m_main_window);
+        QObject::connect(m_steps, &StepsWindow::clipboard_refused, &m_main_window, [this] {
+            m_dialogs.show({Icon::error, std::string(program_title), clipboard_refuses.toStdString()});
+        });
         if (m_subject) m_steps->show_document(steps_document(*m_subject));
     }
     m_steps->show();
     m_steps->raise();
     m_steps->activateWindow();
+}
+
+std::optional<Document> LastCalculation::report() const {
+    if (!m_subject) return std::nullopt;
+    return illustrated_report(*m_subject, m_choices.title_block, m_choices.layout);
 }
 
 void LastCalculation::write_report(QWidget* parent, const std::string& job_name) {

@@ -28,6 +28,10 @@ class LastCalculation {
     /// @param parent    the window that asks   @param job_name  offered as the name of the work
     void write_report(QWidget* parent, const std::string& job_name);
 
+    /// The illustrated report with the heading and the layout of its dialog; nothing before the first
+    /// calculation.
+    [[nodiscard]] std::optional<Document> report() const;
+
   private:
     QWidget& m_main_window;
     UserDialogs& m_dialogs;

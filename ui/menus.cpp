@@ -2,15 +2,20 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QClipboard>
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QShortcut>
 
+#include "drawings/sketches.h"
 #include "platform/files.h"
+#include "ui/altitude_repair.h"
+#include "ui/clipboard.h"
+#include "ui/document_pdf.h"
 #include "ui/results_copy.h"
 #include "ui/window_setup.h"
 #include "version/maker.h"
@@ -41,7 +46,10 @@ QString chapter(Kind kind) {
 }  // namespace
 
 const Menus::Entry Menus::entries[] = {
+    {"File", "Apri lavoro…", "Ctrl+O", &Menus::open_job},
+    {"File", "Salva lavoro…", "Ctrl+S", &Menus::save_job},
     {"File", "Relazione illustrata…", "Ctrl+E", &Menus::write_illustrated_report},
+    {"File", "Stampa…", "Ctrl+P", &Menus::print_report},
     {"File", "Apri l'ultima relazione", "", &Menus::open_last_report},
     {"File", "Esci", "Ctrl+Q", &Menus::end_program},
     {"Modifica", "Copia i risultati", "Ctrl+Shift+C", &Menus::copy_results},
@@ -50,6 +58,7 @@ const Menus::Entry Menus::entries[] = {
     {"Calcolo", "Confronta siti…", "", &Menus::compare_sites},
     {"Calcolo", "Che cosa succede se…", "Ctrl+D", &Menus::show_what_if},
     {"Calcolo", "Passaggi del calcolo", "Ctrl+T", &Menus::show_steps},
+    {"Strumenti", "Verifica e ripara altitudini.txt…", "", &Menus::check_altitudes},
     {"Aiuto", "Manuale", "F1", &Menus::open_manual},
     {"Aiuto", "Informazioni su Coltre", "", &Menus::show_about},
 };
@@ -58,6 +67,11 @@ Menus::Menus(QWidget& main_window, const Program& program, LastCalculation& last
              UserDialogs& dialogs)
     : QObject(&main_window),
       open_file(QDesktopServices::openUrl),
+      ask_printer([](QPrinter& printer) {
+          QPrintDialog dialog(&printer, QApplication::activeWindow());
+          dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+          return dialog.exec() == QDialog::Accepted;
+      }),
       m_main_window(main_window),
       m_program(program),
       m_last_calculation(last_calculation),
@@ -98,6 +112,25 @@ void Menus::write_illustrated_report(const CalculationTab& /*open_tab*/) {
     m_last_calculation.write_report(QApplication::activeWindow(), m_program.directories.JobName);
 }
 
+void Menus::print_report(const CalculationTab& /*open_tab*/) {
+    const std::optional<Document> report = m_last_calculation.report();
+    if (!report) return show_error(QString::fromUtf8(no_calculation_yet.data()));
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(QString::fromStdString(report->title));
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setFullPage(true);
+    if (!ask_printer(printer) || print(*report, printer)) return;
+    const QString file = printer.outputFileName();
+    show_error(file.isEmpty()
+                   ? tr("La stampante %1 non accetta il documento: controllare che sia accesa e collegata.")
+                         .arg(printer.printerName())
+                   : tr("Impossibile stampare nel file %1.").arg(file));
+}
+
+void Menus::check_altitudes(const CalculationTab& /*open_tab*/) {
+    check_and_repair_altitudes(m_program.directories.ProgramDirectory, m_dialogs);
+}
+
 void Menus::show_steps(const CalculationTab& /*open_tab*/) {
     m_last_calculation.show_steps();
 }
@@ -119,7 +152,9 @@ void Menus::end_program(const CalculationTab& /*open_tab*/) {
 void Menus::copy_results(const CalculationTab& open_tab) {
     const std::vector<ShownResult> results = open_tab.shown_results();
     if (results.empty()) return show_error(tr("Non ci sono risultati da copiare: premere «Calcola»."));
-    QApplication::clipboard()->setMimeData(copied(results).release());
+    if (!put_on_clipboard(
+            copied(results, open_tab.results_are_stale() ? QString(pending_results) : QString())))
+        show_error(clipboard_refuses);
 }
 
 void Menus::copy_sketch(const CalculationTab& open_tab) {

@@ -10,6 +10,7 @@
 #include "ui/last_calculation.h"
 #include "ui/user_dialogs.h"
 
+class QPrinter;
 class QWidget;
 
 namespace coltre {
@@ -37,6 +38,13 @@ class Menus : public QObject {
     /// How a file is opened: by the program that the desktop has for it, unless replaced.
     /// @return false if there is none
     std::function<bool(const QUrl& file)> open_file;
+    /// How the user chooses a printer: by the dialog, unless replaced.
+    /// @return false if nothing is to be printed
+    std::function<bool(QPrinter& printer)> ask_printer;
+
+  signals:
+    void open_job(const CalculationTab& open_tab);
+    void save_job(const CalculationTab& open_tab);
 
   signals:
     void find_place(const CalculationTab& open_tab);
@@ -54,7 +62,9 @@ class Menus : public QObject {
 
     // What the entries do.
     void write_illustrated_report(const CalculationTab&);
+    void print_report(const CalculationTab&);
     void show_steps(const CalculationTab&);
+    void check_altitudes(const CalculationTab&);
     void open_last_report(const CalculationTab&);
     void end_program(const CalculationTab&);
     void copy_results(const CalculationTab& open_tab);

@@ -5,9 +5,13 @@
 
 namespace coltre {
 
-std::unique_ptr<QMimeData> copied(const std::vector<ShownResult>& results) {
+std::unique_ptr<QMimeData> copied(const std::vector<ShownResult>& results, const QString& remark) {
     QString text;
     QString table = "<html><head><meta charset=\"utf-8\"></head><body><table>\n";
+    if (!remark.isEmpty()) {
+        text = remark + '\n';
+        table += "<tr><td colspan=\"3\">" + remark.toHtmlEscaped() + "</td></tr>\n";
+    }
     for (const ShownResult& it : results) {
         const QString unit =
             QString::fromUtf8(it.quantity.unit.data(), static_cast<qsizetype>(it.quantity.unit.size()));

@@ -19,6 +19,7 @@ struct ShownResult {
 /// Results for the clipboard, a row each of meaning, number and unit: text with tabs for a spreadsheet, a
 /// table for a word processor. Numbers are rounded as the labels show them, with the decimal separator of the
 /// user.
-std::unique_ptr<QMimeData> copied(const std::vector<ShownResult>& results);
+/// @param remark  what is to be known of them, in a row above; empty: nothing
+std::unique_ptr<QMimeData> copied(const std::vector<ShownResult>& results, const QString& remark);
 
 }  // namespace coltre

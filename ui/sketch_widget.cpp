@@ -1,26 +1,25 @@
 #include "ui/sketch_widget.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QClipboard>
 #include <QEvent>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QFontInfo>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPaintEvent>
 #include <QtMath>
 #include <algorithm>
+#include <memory>
 #include <utility>
+
+#include "ui/clipboard.h"
+#include "ui/file_choice.h"
 
 namespace coltre {
 
 SketchWidget::SketchWidget(QWidget* parent) : QWidget(parent) {
     ask_file = [this](const QString& title, const QString& suggested, const QString& filter) {
-        QFileDialog dialog(this, title, suggested, filter);
-        dialog.setAcceptMode(QFileDialog::AcceptSave);
-        dialog.setDefaultSuffix(QFileInfo(suggested).suffix());
-        return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+        return choose_file_to_save(this, title, suggested, filter);
     };
     report_error = [this](const QString& text) {
         QMessageBox::critical(this, QStringLiteral("Coltre"), text);
@@ -179,7 +178,12 @@ bool SketchWidget::save(const QString& path, PictureFormat format) {
 }
 
 void SketchWidget::copy_picture() const {
-    QApplication::clipboard()->setImage(sketch_image(m_drawing, label_texts(), font()));
+    const LabelTexts labels = label_texts();
+    auto copied = std::make_unique<QMimeData>();
+    copied->setImageData(sketch_image(m_drawing, labels, font()));
+    copied->setData("image/svg+xml", sketch_picture(m_drawing, labels, font(), PictureFormat::svg));
+    copied->setData("application/pdf", sketch_picture(m_drawing, labels, font(), PictureFormat::pdf));
+    if (!put_on_clipboard(std::move(copied))) report_error(clipboard_refuses);
 }
 
 }  // namespace coltre

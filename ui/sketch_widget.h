@@ -51,7 +51,7 @@ class SketchWidget : public QWidget {
     /// @return true if the file is written
     bool save(const QString& path, PictureFormat format);
 
-    /// The same picture to the clipboard.
+    /// The same picture to the clipboard, in all formats; a message says if that fails.
     void copy_picture() const;
 
     [[nodiscard]] QSize sizeHint() const override;

@@ -1,10 +1,10 @@
 #include "ui/steps_window.h"
 
-#include <QClipboard>
 #include <QEvent>
 #include <QMimeData>
 #include <QScrollBar>
 
+#include "ui/clipboard.h"
 #include "ui/document_copy.h"
 #include "ui/document_text.h"
 #include "ui/window_setup.h"
@@ -87,15 +87,17 @@ void StepsWindow::changeEvent(QEvent* event) {
 }
 
 void StepsWindow::copy_as_text() const {
-    QGuiApplication::clipboard()->setText(copied_text(*m_document));
+    auto copied = std::make_unique<QMimeData>();
+    copied->setText(copied_text(*m_document));
+    if (!put_on_clipboard(std::move(copied))) emit clipboard_refused();
 }
 
 void StepsWindow::copy_as_table() const {
     const CopiedTable table = copied_table(*m_document);
-    auto* const copied = new QMimeData;  // the clipboard's
+    auto copied = std::make_unique<QMimeData>();
     copied->setText(table.text);
     copied->setHtml(table.html);
-    QGuiApplication::clipboard()->setMimeData(copied);
+    if (!put_on_clipboard(std::move(copied))) emit clipboard_refused();
 }
 
 }  // namespace coltre

@@ -29,6 +29,9 @@ class StepsWindow : public QDialog {
     /// Shows these steps in place of the last ones, at the same height where they are as long.
     void show_document(const Document& document);
 
+  signals:
+    void clipboard_refused() const;
+
   protected:
     /// Follows the colours and the font of the screen.
     void changeEvent(QEvent* event) override;

@@ -1,3 +1,5 @@
+#include <QPrinter>
+
 #include "platform/files.h"
 #include "tests/ui/window_test.h"
 #include "ui/casipart.h"
@@ -74,8 +76,14 @@ TEST_F(MenusTest, ResultsAreCopiedAsTheyAreShownWithTheUsersDecimalSign) {
     click("Calcola");
     choose(window, "Copia i risultati");
     EXPECT_THAT(QApplication::clipboard()->text().toStdString(), EndsWith("L1\t12,56\tm\nL2\t3,14\tm\n"));
+    type("hcopcil", "2.5");
+    choose(window, "Copia i risultati");
+    EXPECT_THAT(QApplication::clipboard()->text().toStdString(),
+                StartsWith("risultati non aggiornati: premere Calcola\nCarico"));
     choose(window, "Copia lo schizzo");
     EXPECT_FALSE(QApplication::clipboard()->image().isNull());
+    for (const auto& [format, begin] : {std::pair("image/svg+xml", "<svg"), {"application/pdf", "%PDF"}})
+        EXPECT_THAT(QApplication::clipboard()->mimeData()->data(format).toStdString(), HasSubstr(begin));
 
     casipart& special_cases = open_special_cases();
     control<QTabWidget>(special_cases, "cartelle").setCurrentIndex(2);
@@ -83,6 +91,67 @@ TEST_F(MenusTest, ResultsAreCopiedAsTheyAreShownWithTheUsersDecimalSign) {
     choose(special_cases, "Copia i risultati");
     EXPECT_EQ(QApplication::clipboard()->text(),
               "Forza Fs esercitata dalla neve sull'ostacolo\t1,111\tkN/m\n");
+}
+
+TEST_F(MenusTest, ReportIsPrinted) {
+    const std::string file = (directory.path() / "stampa.pdf").string();
+    std::string output = file;
+    menus().ask_printer = [&](QPrinter& printer) {
+        printer.setOutputFileName(output.c_str());
+        return true;
+    };
+    dialogs.expect(Icon::error, std::string(no_calculation_yet));
+    choose(window, "Stampa…");
+    click("Calcola");
+    QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_THAT(read_file(file).value(), HasSubstr("%%EOF"));
+    output = "/proc/stampa.pdf";
+    dialogs.expect(Icon::error, "Impossibile stampare nel file /proc/stampa.pdf.");
+    choose(window, "Stampa…");
+}
+
+TEST_F(MenusTest, AltitudesAreCheckedAndRepairedAfterAQuestionAndARewritingIsNoted) {
+    const std::string file = (directory.path() / "altitudini.txt").string();
+    const auto check = [this] { choose(window, "Verifica e ripara altitudini.txt…"); };
+    dialogs.expect_question(
+        Icon::information,
+        "Non c'è ancora il file " + file + ".\rScriverlo dalla tabella del programma, senza i suoi difetti?",
+        true);
+    dialogs.expect(Icon::information, "Scritto il file " + file + ", senza difetti.");
+    check();
+    dialogs.expect(Icon::information, "Nessun difetto nel file " + file + ".");
+    check();
+
+    std::string table = read_file(file).value();
+    table.erase(table.find("Sestriere") + 9, 22);
+    directory.put("altitudini.txt", table);
+    const auto faults = [&file](const std::string& lines) {
+        return "Difetti del file " + file + ":" + lines +
+               "\r\rRiparare il file? Le altre righe restano come sono; il file di ora si conserva accanto.";
+    };
+    dialogs.expect_question(Icon::warning,
+                            faults("\rriga 265: Torino: manca lo spazio tra il nome e l'altitudine"), false);
+    check();
+    EXPECT_EQ(read_file(file), table);
+
+    EXPECT_FALSE(get("altitude_note").isVisible());
+    list("Provinciainput").setCurrentText("Torino");
+    EXPECT_EQ(
+        text("altitude_note"),
+        "Il file altitudini.txt è stato riscritto dalla tabella del programma; quello di prima resta come "
+        "altitudini.bak.");
+    EXPECT_TRUE(get("altitude_note").isVisible());
+    dialogs.expect_question(
+        Icon::warning,
+        faults(
+            "\rriga 3530: Vicenza: manca lo spazio tra il nome e l'altitudine\rriga 8618: Oristano: manca la "
+            "riga vuota che chiude la provincia alla fine del file"),
+        true);
+    dialogs.expect(Icon::information,
+                   "Scritto il file " + file + ", senza difetti. Quello di prima resta come altitudini.bak.");
+    check();
+    list("Provinciainput").setCurrentText("Asti");
+    EXPECT_FALSE(get("altitude_note").isVisible());
 }
 
 TEST_F(MenusTest, LastReportOfEitherWindowIsOpened) {

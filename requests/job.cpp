@@ -1,0 +1,126 @@
+#include "requests/job.h"
+
+#include <algorithm>
+
+#include "calculate/return_period.h"
+#include "document/request_line.h"
+#include "requests/json_request.h"
+#include "requests/perform.h"
+#include "requests/site_choice.h"
+#include "site/regions.h"
+#include "startup/start_up.h"
+#include "text/number_reading.h"
+
+namespace coltre {
+
+namespace {
+
+/// What belongs to the command, and to no control.
+constexpr std::array command_keys{keys::lavoro,     keys::relazione,     keys::altitudini, keys::passaggi,
+                                  keys::illustrata, keys::impaginazione, keys::sovrascrivi};
+
+constexpr std::string_view blanks = " \t\r\n";
+
+bool is_batch(std::string_view bytes) {
+    const std::size_t end = std::min(bytes.find('\n'), bytes.size());
+    return bytes.find_first_not_of(blanks, end) != std::string_view::npos &&
+           read_json_request(bytes.substr(0, end)).error.empty();
+}
+
+JsonRequest refused(std::string error) {
+    JsonRequest request;
+    request.error = std::move(error);
+    return request;
+}
+
+JsonRequest read_request(std::string_view bytes) {
+    if (bytes.size() > longest_job)
+        return refused("il file è più lungo di " + std::to_string(longest_job) + " byte");
+    if (bytes.find_first_not_of(blanks) == std::string_view::npos) return refused("il file è vuoto");
+    if (is_batch(bytes)) return refused("il file contiene più richieste, è un lotto del comando");
+    JsonRequest request = read_json_request(bytes, UnknownKeys::listed);
+    if (request.error.empty()) request.error = validation_error(request.request);
+    if (!request.error.empty())
+        request.error = "il file è incompleto, o non è un lavoro di questa versione: " + request.error;
+    return request;
+}
+
+void take_site(const Request& request, const std::string& ProgramDirectory, Job& job) {
+    if (const std::string* const province = request.value(keys::provincia)) {
+        Program program;
+        program.directories.ProgramDirectory = ProgramDirectory;
+        SiteMemory memory;
+        Answer answer;
+        std::optional<Site> site = site_by_name(request, program, memory, answer);
+        if (site) {
+            job.province = site->province;
+            job.municipality = site->municipality;
+            if (request.value(keys::altitudine) == nullptr) job.fields.asinput = site->altitude;
+        } else {
+            job.not_taken.push_back("sito " + in_quotes(*request.value(keys::comune)) + ", " +
+                                    in_quotes(*province) + ": " + answer.error);
+        }
+        if (site || std::ranges::find(provinces(), *province) != provinces().end())
+            job.zone = ZoneOfProvince(site ? site->province : *province).zone;
+    }
+    if (const std::string* const zone = request.value(keys::zona)) job.zone = *zone_of(*zone);
+}
+
+void take_exposure(Job& job) {
+    const StrictNumber typed = read_strictly(job.fields.ComboEsp, '.');
+    const auto is_typed = [&typed](std::string_view item) {
+        return typed.verdict == StrictNumber::Verdict::number && typed.value == read_leniently(item).value;
+    };
+    const auto item = std::ranges::find_if(exposure_items, is_typed);
+    if (item == exposure_items.end())
+        job.not_taken.push_back("«ce» " + in_quotes(job.fields.ComboEsp) +
+                                ": l'elenco ha 0.9, 1.0 e 1.1; vale 1.0");
+    job.fields.ComboEsp = item != exposure_items.end() ? *item : exposure_items[1];
+}
+
+void take_return_period(const Request& request, Job& job) {
+    const std::string* const typed = request.value(keys::periodo_ritorno);
+    if (typed == nullptr) return;
+    ProgramCells trial;
+    const ReturnPeriodOutcome outcome = confirm_return_period(*typed, trial);
+    if (outcome.OutputPerRit) {
+        job.return_period = *typed;
+    } else {
+        job.not_taken.push_back("«periodo-ritorno» " + in_quotes(*typed) +
+                                ": il periodo non è valido; vale il coefficiente 1");
+    }
+}
+
+}  // namespace
+
+Job read_job(std::string_view bytes, const std::string& ProgramDirectory) {
+    Job job;
+    const JsonRequest read = read_request(bytes);
+    job.error = read.error;
+    if (!job.error.empty()) return job;
+
+    const Request& request = read.request;
+    job.fields = fields_of(request, request.value_or(keys::altitudine, ""), '.');
+    take_site(request, ProgramDirectory, job);
+    take_exposure(job);
+    take_return_period(request, job);
+    for (const std::string& key : read.unknown_keys)
+        job.not_taken.push_back("chiave sconosciuta " + in_quotes(key) +
+                                ", forse di una versione più recente");
+    for (const Key& key : command_keys)
+        if (request.value(key) != nullptr)
+            job.not_taken.push_back("chiave " + in_quotes(key.name) + ", che serve soltanto al comando");
+    if (!read.id.empty()) job.not_taken.emplace_back("chiave «id», che serve soltanto al lotto");
+    return job;
+}
+
+std::string job_file(Subject subject) {
+    EntryReader reader;
+    subject.outcome = {};
+    subject.outcome.entries =
+        reader.entries(subject.fields.kind, subject.fields.entries, subject.fields.decimal_separator);
+    subject.outcome.complete = !reader.stop();
+    return request_line(subject) + '\n';
+}
+
+}  // namespace coltre

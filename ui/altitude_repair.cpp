@@ -1,0 +1,59 @@
+#include "ui/altitude_repair.h"
+
+#include <filesystem>
+#include <string>
+
+#include "platform/files.h"
+#include "site/altitude_check.h"
+#include "site/altitude_file.h"
+
+namespace coltre {
+
+namespace {
+
+Message box(Icon icon, std::string text) {
+    return {icon, std::string(program_title), std::move(text)};
+}
+
+/// As many faults as fit a message box.
+std::string list(const std::vector<AltitudeFault>& faults) {
+    constexpr std::size_t most = 12;
+    std::string text;
+    for (std::size_t i = 0; i < faults.size() && i < most; ++i)
+        text += "\r" + text_of(faults[i]);
+    if (faults.size() > most) text += "\re altri " + std::to_string(faults.size() - most) + ".";
+    return text;
+}
+
+}  // namespace
+
+void check_and_repair_altitudes(std::string_view ProgramDirectory, UserDialogs& dialogs) {
+    const std::filesystem::path path = find_path(altitude_file_name(ProgramDirectory));
+    const std::string file = "il file " + path.string();
+    std::error_code unknown;
+    if (!std::filesystem::exists(path, unknown) && !unknown) {
+        if (!dialogs.ask(box(Icon::information, "Non c'è ancora " + file +
+                                                    ".\rScriverlo dalla tabella del programma, senza i suoi "
+                                                    "difetti?")))
+            return;
+    } else {
+        const AltitudeFileCheck check = check_altitude_file(ProgramDirectory);
+        if (check.failure)
+            return dialogs.show(
+                box(Icon::error, "Impossibile leggere " + file + ": " + *check.failure + "."));
+        if (check.faults.empty())
+            return dialogs.show(box(Icon::information, "Nessun difetto nel file " + path.string() + "."));
+        if (!dialogs.ask(box(Icon::warning, "Difetti del file " + path.string() + ":" + list(check.faults) +
+                                                "\r\rRiparare il file? Le altre righe restano come sono; il "
+                                                "file di ora si conserva accanto.")))
+            return;
+    }
+    const AltitudeFileCheck repair = repair_altitude_file(ProgramDirectory);
+    if (repair.failure)
+        return dialogs.show(box(Icon::error, "Impossibile riparare " + file + ": " + *repair.failure + "."));
+    const std::string kept =
+        repair.kept_name.empty() ? "" : " Quello di prima resta come " + repair.kept_name + ".";
+    dialogs.show(box(Icon::information, "Scritto " + file + ", senza difetti." + kept));
+}
+
+}  // namespace coltre
