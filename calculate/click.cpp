@@ -22,7 +22,9 @@ std::string zero_load_reason(const ResultCell* qe, const Entries& entries, const
         name = second_side ? "alfa2" : "alfa1";
         alfa = second_side ? entries.alfa2 : entries.alfa1;
     }
-    if (alfa < 0) return std::string(name) + " è negativo: il coefficiente di forma mu1 resta com'era, 0.";
+    if (alfa < 0)
+        return std::string(name) +
+               " è negativo: il coefficiente di forma mu1 conserva il valore precedente, 0.";
     return "Il carico sulla falda è 0: il coefficiente di forma mu1 è 0 per " + std::string(name) + " = " +
            plain_number_text(alfa) + "°.";
 }

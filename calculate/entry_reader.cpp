@@ -64,7 +64,7 @@ double EntryReader::strict(std::string_view name, std::string_view unit, std::st
         case StrictNumber::Verdict::not_a_number:
             m_stop = {Fault::invalid_conversion, trim_blanks(text).empty()
                                                      ? "Il campo «" + std::string(name) + "» è vuoto."
-                                                     : "Il testo scritto per «" + std::string(name) +
+                                                     : "Il valore di «" + std::string(name) +
                                                            "» non è un numero: «" + std::string(text) + "»."};
             break;
     }

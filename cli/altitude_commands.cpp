@@ -24,7 +24,7 @@ int complain(std::ostream& err, std::string_view what, std::string_view director
 
 /// What became of an earlier file that was replaced.
 std::string kept(const std::string& name) {
-    return name.empty() ? "" : "; quello di prima resta come " + name;
+    return name.empty() ? "" : "; il precedente è conservato come " + name;
 }
 
 void list(std::ostream& out, const std::vector<AltitudeFault>& faults) {

@@ -108,7 +108,7 @@ void add_options(CLI::App& command, const Description& calculation, Choice& choi
         }
         const auto take = [&choice, key](const std::vector<std::string>& values) {
             if (values.size() > 1)
-                choice.usage_error = "l'opzione --" + std::string(key.name) + " è data più volte";
+                choice.usage_error = "l'opzione --" + std::string(key.name) + " è ripetuta";
             choice.request.set(key, values.front());
         };
         command.add_option_function<std::vector<std::string>>("--" + std::string(key.name), take)
@@ -149,7 +149,7 @@ std::string parse_error_text(const CLI::ParseError& error) {
     const std::string text = error.what();
     const std::string option = text.substr(0, text.find(':'));
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return "manca il valore di " + option;
-    if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) return "--json non prende un valore";
+    if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) return "--json non accetta un valore";
     return "argomenti errati";
 }
 
@@ -200,7 +200,7 @@ int run(std::span<const std::string> arguments, const Environment& environment, 
         CLI::App& action = add_subcommand(altitudes, name, choice, altitudes_help);
         action.add_option("dir", choice.altitude_directory);
         action.callback([&choice, &streams, command] {
-            if (choice.altitude_directory.empty()) choice.usage_error = "la cartella è vuota";
+            if (choice.altitude_directory.empty()) choice.usage_error = "manca il nome della cartella";
             choice.action = [&choice, &streams, command] {
                 return check_output(streams.out, streams.err,
                                     command(choice.altitude_directory, streams.out, streams.err));
@@ -229,8 +229,8 @@ int run(std::span<const std::string> arguments, const Environment& environment, 
     }
     if (!choice.usage_error.empty()) return complain(err, choice.usage_error);
     if (!choice.action) {
-        return complain(
-            err, altitudes.parsed() ? "manca il comando: scrivi, verifica o ripara" : "manca il calcolo");
+        return complain(err, altitudes.parsed() ? "manca il comando: scrivi, verifica o ripara"
+                                                : "manca il nome del calcolo");
     }
     return choice.action();
 }

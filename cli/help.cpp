@@ -37,7 +37,7 @@ std::string general_help() {
     append_row(help, "comuni", "cerca i comuni, anche con il nome di oggi: provincia, zona e altitudine");
     append_row(help, "altitudini", "scrive, verifica o ripara il file altitudini.txt");
     help += "\nOpzioni:\n";
-    append_row(help, "-h, --help", "questo aiuto; dopo un comando, il suo");
+    append_row(help, "-h, --help", "mostra questo aiuto; dopo un comando, l'aiuto del comando");
     append_row(help, "--version", "la versione");
     help += "\nEsempio:\n  coltre-calcolo una-falda " + std::string(describe(Kind::one_pitch).example) + "\n";
     return help;

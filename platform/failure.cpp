@@ -20,18 +20,18 @@ Failure system_failure(int error_number) {
             return "il disco è pieno";
 #ifdef EDQUOT
         case EDQUOT:
-            return "lo spazio concesso all'utente è esaurito";
+            return "la quota disco dell'utente è esaurita";
 #endif
         case EISDIR:
-            return "al suo posto c'è qualcosa che non è un file";
+            return "con questo nome esiste già una cartella o altro che non è un file";
         case EFBIG:
-            return "il file supera la grandezza concessa";
+            return "il file supera la dimensione massima consentita";
         case EINVAL:
             return "il nome non è valido";
         case ENAMETOOLONG:
             return "il nome è troppo lungo";
         case ELOOP:
-            return "il collegamento non porta a un file";
+            return "il collegamento simbolico è interrotto";
         case EIO:
             return "il disco segnala un errore";
         case EMFILE:

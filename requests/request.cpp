@@ -164,7 +164,7 @@ std::string validation_error(const Request& request) {
     for (const Key& key : {relazione, altitudini}) {
         const std::string* const directory = request.value(key);
         if (directory == nullptr) continue;
-        if (directory->empty()) return "la cartella di " + in_quotes(key.name) + " è vuota";
+        if (directory->empty()) return "per " + in_quotes(key.name) + " manca il nome della cartella";
         if (directory->find('\0') != std::string::npos) {
             return "la cartella di " + in_quotes(key.name) + " contiene un carattere nullo";
         }

@@ -13,8 +13,8 @@ bool WriteAltitudeFile(std::string_view ProgramDirectory, AltitudeNotices& notic
     }
     if (!replaced.kept_name.empty())
         notices.note =
-            "Il file altitudini.txt è stato riscritto dalla tabella del programma; quello di prima "
-            "resta come " +
+            "Il file altitudini.txt è stato riscritto dalla tabella del programma; il precedente è "
+            "conservato come " +
             replaced.kept_name + ".";
     return true;
 }

@@ -16,14 +16,14 @@ TEST(Command, ExitStatusTellsWhoIsWrong) {
         bool at_a_site = false;
     };
     for (Case c : std::vector<Case>{
-             {{}, bad_usage, "manca il calcolo"},
+             {{}, bad_usage, "manca il nome del calcolo"},
              {{"tetto"}, bad_usage, "argomento sconosciuto: «tetto»"},
              {{"altitudini"}, bad_usage, "manca il comando"},
              {{"lotto", "/nessuna/richiesta"}, bad_usage, "impossibile leggere il file"},
-             {{"parete", "--json=x"}, bad_usage, "--json non prende un valore"},
+             {{"parete", "--json=x"}, bad_usage, "--json non accetta un valore"},
              {{"parete", "--h"}, bad_usage, "manca il valore di --h"},
              {{"parete"}, bad_usage, "manca «h»", true},
-             {{"parete", "--h", "1", "--h", "2"}, bad_usage, "--h è data più volte", true},
+             {{"parete", "--h", "1", "--h", "2"}, bad_usage, "--h è ripetuta", true},
              {{"parete", "--h", "1", "--alfa", "2"}, bad_usage, "«--alfa»", true},
              {{"parete", "--h="}, failed, "Il campo «h» è vuoto.", true},
              {{"parete", "--h", "x"}, failed, "Calcolo interrotto: conversione", true},

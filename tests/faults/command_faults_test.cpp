@@ -78,9 +78,9 @@ TEST_F(CommandFaults, ObstacleIsToldWithTheFileAndStaysAsItIs) {
     const auto place_is = [&](const Make& make) {
         return [=](const fs::path& file) { missing_place(file), make(file.parent_path()); };
     };
-    const std::string no_file = "al suo posto c'è qualcosa che non è un file", denied = "permesso negato",
-                      bad_link = "il collegamento non porta a un file", no_place = "la cartella non esiste",
-                      unreadable = "il file non si può leggere";
+    const std::string no_file = "con questo nome esiste già una cartella o altro che non è un file",
+                      denied = "permesso negato", bad_link = "il collegamento simbolico è interrotto",
+                      no_place = "la cartella non esiste", unreadable = "il file non si può leggere";
     struct Obstacle {
         std::string reason;
         Make make;
@@ -102,7 +102,7 @@ TEST_F(CommandFaults, ObstacleIsToldWithTheFileAndStaysAsItIs) {
           {denied, text_file, unreadable, false, 0000},
           {denied, text_file, "", false, 0644, 0555},
           {denied, text_file, unreadable, false, 0644, 0600},
-          {"il file supera la grandezza concessa", text_file, "", false, 0644, 0755, 100}}) {
+          {"il file supera la dimensione massima consentita", text_file, "", false, 0644, 0755, 100}}) {
         const fs::path place = path() / "sub";
         /// Runs the command where the obstacle is, and finds everything left as it was.
         const auto met = [&](const char* name, Arguments command) {
@@ -210,7 +210,7 @@ TEST_F(CommandFaults, TableThatCannotBeReadIsSetAsideByTheCommandForThatAlone) {
         EXPECT_EQ(run(site(), {.permissions_bind = true}).err, built_in_answers);
         EXPECT_THAT(files(), ElementsAre("altitudini.txt"));
         EXPECT_EQ(run(altitudes("scrivi"), {.permissions_bind = true}).out,
-                  "Scritto il file " + table() + "; quello di prima resta come altitudini.bak.\n");
+                  "Scritto il file " + table() + "; il precedente è conservato come altitudini.bak.\n");
         fs::resize_file(path() / "altitudini.bak", own_table.size());
         ::chmod((path() / "altitudini.bak").c_str(), 0600);
         EXPECT_EQ(left()["altitudini.txt"], built_in);

@@ -71,7 +71,8 @@ TEST_F(WindowFaults, FullDiskKeepsTheOldReportAndTheOldPicture) {
     expect_refused("x.png", PictureFormat::png, "il disco è pieno");
     expect_refused("x.pdf", PictureFormat::pdf, "il disco è pieno");
     expect_refused("X.svg", PictureFormat::svg, "il disco è pieno");  // another file than x.svg
-    expect_refused("full.svg", PictureFormat::svg, "al suo posto c'è qualcosa che non è un file");
+    expect_refused("full.svg", PictureFormat::svg,
+                   "con questo nome esiste già una cartella o altro che non è un file");
     dialogs.expect(Icon::error, "Errore di scrittura del file altitudini.txt .");
     choose("Provinciainput", "Torino");
     EXPECT_EQ(dialogs.ended, 1);

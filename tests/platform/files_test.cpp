@@ -139,7 +139,7 @@ TEST_F(Replacement, OfNothingLeavesWhatHasAppearedMeanwhile) {
 
 TEST(SystemFailure, SaysTheReasonInItalian) {
     EXPECT_EQ(system_failure(0), std::nullopt);
-    for (const auto& [error, reason] : {std::pair{EDQUOT, "lo spazio concesso all'utente è esaurito"},
+    for (const auto& [error, reason] : {std::pair{EDQUOT, "la quota disco dell'utente è esaurita"},
                                         {EIO, "il disco segnala un errore"},
                                         {EMFILE, "troppi file sono aperti"},
                                         {ESTALE, "la cartella di rete non risponde"},

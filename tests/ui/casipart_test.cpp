@@ -148,7 +148,7 @@ TEST_F(CasipartTest, AnEarlyStopIsToldAndLeavesEveryLabel) {
           std::tuple(1, "h3input", "h", "2.30")}) {
         type(name, "2;5");
         EXPECT_EQ(get(name).accessibleDescription(), "non è un numero") << name;
-        dialogs.expect_stop("conversione non valida.\rIl testo scritto per «" + std::string(symbol) +
+        dialogs.expect_stop("conversione non valida.\rIl valore di «" + std::string(symbol) +
                             "» non è un numero: «2;5».");
         calculate(page);
         type(name, good);
