@@ -80,6 +80,7 @@ Answer perform(const Request& request, const Environment& environment, SiteMemor
         return result;
     }
     result.partly_understood = partly_understood(request);
+    result.unusual = unusual_coefficients(request);
 
     Program program;
     program.directories.ProgramDirectory = environment.own_directory;
@@ -113,6 +114,9 @@ Answer perform(const Request& request, const Environment& environment, SiteMemor
             return result;
         }
     }
+
+    result.return_period = program.cells.confirmed_return_period;
+    result.return_period_factor = program.cells.return_period_factor;
 
     const Fields fields = fields_of(request, std::move(altitude), environment.decimal_separator);
     const bool main_window = describe(fields.kind).window == Window::main;
