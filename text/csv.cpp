@@ -56,7 +56,7 @@ bool CsvReader::more_at_hand() const {
 /// Goes on in the record.
 /// @return whether its end is there
 bool CsvReader::scan() {
-    for (; m_position < m_buffer.size(); ++m_position) {
+    for (; m_position < std::min(m_buffer.size(), m_record + longest); ++m_position) {
         const char c = m_buffer[m_position];
         const bool ends_line = c == '\n';
         if (ends_line && m_first_line_end == 0) m_first_line_end = m_position + 1;
@@ -145,6 +145,11 @@ void CsvReader::skip_long_line() {
     }
     break_record(CsvFault::too_long);
     m_fields.clear();
+    const std::size_t line_end = m_buffer.find('\n', m_position);
+    if (line_end != std::string::npos) {
+        end_record(line_end + 1);
+        return;
+    }
     m_buffer.clear();
     m_record = m_next_record = 0;
     m_in.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
@@ -166,8 +171,10 @@ bool CsvReader::fill() {
         m_record = 0;
     }
     const std::size_t size = m_buffer.size();
-    m_buffer.resize(size + block);
-    const std::streamsize count = m_in.readsome(m_buffer.data() + size, block);
+    const auto at_hand = static_cast<std::size_t>(std::max<std::streamsize>(m_in.rdbuf()->in_avail(), 1));
+    m_buffer.resize(size + std::min(at_hand, block));
+    const std::streamsize count =
+        m_in.readsome(m_buffer.data() + size, static_cast<std::streamsize>(m_buffer.size() - size));
     m_buffer.resize(size + static_cast<std::size_t>(count));
     return count > 0;
 }

@@ -42,7 +42,7 @@ class CsvReader {
     [[nodiscard]] bool has_byte_order_mark() const { return m_has_byte_order_mark; }
 
     static constexpr std::size_t longest = 1U << 20U;  ///< record, bytes: far beyond any request
-    static constexpr std::size_t most_fields = 64;
+    static constexpr std::size_t most_fields = 128;
 
   private:
     enum class State { field_start, plain, quoted, behind_quotes, behind_return, broken };
