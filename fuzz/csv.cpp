@@ -4,14 +4,15 @@
 #include <cstddef>
 #include <cstdint>
 #include <sstream>
+#include <streambuf>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/batch.h"
 #include "fuzz/require.h"
 #include "requests/csv_request.h"
 #include "site/built_in_altitudes.h"
-#include "tests/support/byte_by_byte.h"
 #include "tests/support/temporary_directory.h"
 
 // Input: a table of requests. One with columns for files is left out, so that an execution writes none.
@@ -20,6 +21,20 @@ namespace {
 
 using namespace coltre;
 using namespace coltre::fuzz;
+
+/// Hands a text on byte by byte, as a slow pipe does.
+struct ByteByByte : std::streambuf {
+    explicit ByteByByte(std::string_view text) : rest(text) {}
+    int_type underflow() override {
+        if (rest.empty()) return traits_type::eof();
+        byte = rest.front();
+        rest.remove_prefix(1);
+        setg(&byte, &byte, &byte + 1);
+        return traits_type::to_int_type(byte);
+    }
+    std::string_view rest;
+    char byte = 0;
+};
 
 struct Record {
     std::vector<std::string> fields;

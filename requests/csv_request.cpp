@@ -63,7 +63,7 @@ std::string value_of(const Key& key, std::string text, char separator) {
         std::ranges::count(text, ',') == 1)
         std::ranges::replace(text, ',', '.');
     if (key.type != KeyType::flag) return text;
-    const std::string flag = lower_case(text);
+    std::string flag = lower_case(text);
     if (flag == "vero") return "true";
     if (flag == "falso") return "false";
     return flag;
