@@ -64,7 +64,7 @@ int main() {
     LineCounter counter;
     std::istream in(&source);
     std::ostream out(&counter);
-    const cli::BatchEnd end = cli::run_batch(in, out, {.own_directory = directory.text()});
+    const cli::BatchEnd end = cli::run_batch(in, out, {.own_directory = directory.text()}).end;
     if (end != cli::BatchEnd::all_well || counter.lines != request_count) return 2;
     print({"memory of a batch of 1,000,000", "MiB", peak_memory(), std::nullopt, at_most_mib});
     return 0;

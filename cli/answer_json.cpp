@@ -1,4 +1,3 @@
-
 #include "cli/answers.h"
 #include "text/json_text.h"
 
@@ -117,6 +116,7 @@ std::string to_json(const Answer& answer) {
     if (!answer.report.empty()) object.text("relazione", answer.report);
     if (!answer.illustrated_report.empty()) object.text("illustrata", answer.illustrated_report);
     if (!answer.partly_understood.empty()) append_texts(object.member("letture"), answer.partly_understood);
+    if (!answer.unusual.empty()) append_texts(object.member("avvisi"), answer.unusual);
     append_messages(object.member("messaggi"), answer.messages);
     if (answer.error.empty()) {
         object.member("errore") += "null";

@@ -39,6 +39,19 @@ std::string with_unit(double value, std::string_view unit) {
     return text;
 }
 
+/// What the numbers below were computed from, site apart.
+void append_data(std::string& table, const Answer& answer) {
+    const std::string factor =
+        "coefficiente " + shortest_number_text(round_half_even(answer.return_period_factor, 4));
+    append_text_row(table, "Periodo di ritorno",
+                    answer.return_period ? with_unit(*answer.return_period, "anni") + ", " + factor
+                                         : factor + ", non confermato");
+    for (const Datum& datum : answer.trace->data) {
+        const bool told_above = datum.symbol == "zona" || datum.symbol == "as" || datum.symbol == "Tr";
+        if (!told_above && !datum.text.empty()) append_row(table, datum.symbol, shortest_number_text(datum.value), datum.unit);
+    }
+}
+
 /// A line of a step below its symbol.
 void append_step_line(std::string& table, std::string_view before, std::string_view text) {
     if (!text.empty()) table.append("    ").append(before).append(text).append("\n");
@@ -65,7 +78,7 @@ void append_trace(std::string& table, const Trace& trace) {
 
 }  // namespace
 
-std::string to_table(const Answer& answer) {
+std::string to_table(const Answer& answer, bool with_steps) {
     std::string table;
     if (answer.kind) append_text_row(table, "Calcolo", describe(*answer.kind).meaning);
     if (!answer.municipality.empty())
@@ -75,6 +88,7 @@ std::string to_table(const Answer& answer) {
                         std::to_string(*answer.zone) + " " + std::string(zone_caption(*answer.zone)));
     }
     if (answer.altitude) append_row(table, "Altitudine", shortest_number_text(*answer.altitude), "m");
+    if (answer.trace) append_data(table, answer);
     if (answer.qsk)
         append_row(table, "qsk", fixed_number_text(*answer.qsk, quantities::area_load.decimals),
                    quantities::area_load.unit);
@@ -86,7 +100,7 @@ std::string to_table(const Answer& answer) {
     if (!answer.report.empty()) append_text_row(table, "Relazione", answer.report);
     if (!answer.illustrated_report.empty())
         append_text_row(table, "Relazione illustrata", answer.illustrated_report);
-    if (answer.trace) append_trace(table, *answer.trace);
+    if (answer.trace && with_steps) append_trace(table, *answer.trace);
     return table;
 }
 

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "cli/answers.h"
+#include "requests/csv_request.h"
 #include "requests/json_request.h"
 
 namespace coltre::cli {
@@ -71,32 +72,104 @@ Answer perform_line(const LineReader& reader, const Environment& environment, Si
 
 /// The answer to a line. A lack of memory ends this request alone.
 std::string answer(const LineReader& reader, const Environment& environment, SiteMemory& memory,
-                   bool& some_failed) {
+                   std::size_t& failed) {
     std::string id;
     try {
         const Answer result = perform_line(reader, environment, memory, id);
-        some_failed = some_failed || result.end != End::well;
+        failed += result.end == End::well ? 0 : 1;
         return to_json(result);
     } catch (const std::bad_alloc&) {
-        some_failed = true;
+        ++failed;
         return (id.empty() ? "{" : "{\"id\": " + id + ", ") + "\"errore\": \"memoria esaurita\"}";
     }
 }
 
+Answer perform_record(const CsvReader& table, const std::vector<CsvColumn>& columns, CsvEncoding& encoding,
+                      const Environment& environment, SiteMemory& memory) {
+    CsvRequest record = read_csv_request(table, columns, encoding);
+    if (record.error.empty()) return perform(record.request, environment, memory);
+    Answer result;
+    result.fail(End::wrong_request, std::move(record.error));
+    return result;
+}
+
+/// The cells of the request as they were: as many as the header has.
+void append_cells(std::string& line, const CsvReader& table, std::size_t columns) {
+    const auto fields = table.fields();
+    for (std::size_t i = 0; i < columns; ++i) {
+        if (i > 0) line += table.separator();
+        if (i < fields.size()) line += fields[i];
+    }
+}
+
+BatchEnd end_of(const BatchOutcome& outcome, const std::istream& in, const std::ostream& out) {
+    if (!out) return BatchEnd::output_failed;
+    if (in.bad()) return BatchEnd::input_failed;
+    return outcome.failed > 0 ? BatchEnd::some_failed : BatchEnd::all_well;
+}
+
 }  // namespace
 
-BatchEnd run_batch(std::istream& in, std::ostream& out, const Environment& environment) {
-    bool some_failed = false;
+std::string summary(const BatchOutcome& outcome) {
+    const auto counted = [](std::size_t count, std::string_view one, std::string_view many) {
+        return std::to_string(count) + " " + std::string(count == 1 ? one : many);
+    };
+    return counted(outcome.requests, "richiesta", "richieste") + ", " +
+           (outcome.failed == 0 ? "nessun errore" : counted(outcome.failed, "errore", "errori"));
+}
+
+BatchOutcome run_batch(std::istream& in, std::ostream& out, const Environment& environment) {
+    BatchOutcome outcome;
     SiteMemory memory;
     LineReader reader(in);
     while (out && reader.next()) {
-        out << answer(reader, environment, memory, some_failed) << '\n';
+        ++outcome.requests;
+        out << answer(reader, environment, memory, outcome.failed) << '\n';
         if (in.rdbuf()->in_avail() <= 0) out.flush();
     }
     out.flush();
-    if (!out) return BatchEnd::output_failed;
-    if (in.bad()) return BatchEnd::input_failed;
-    return some_failed ? BatchEnd::some_failed : BatchEnd::all_well;
+    outcome.end = end_of(outcome, in, out);
+    return outcome;
+}
+
+BatchOutcome run_csv_batch(std::istream& in, std::ostream& out, const Environment& environment) {
+    BatchOutcome outcome;
+    CsvEncoding encoding = encoding_ahead(in);
+    CsvReader table(in);
+    const bool has_header = table.next();
+    const CsvHeader header = read_csv_header(has_header ? &table : nullptr);
+    if (!header.error.empty()) {
+        outcome.end = in.bad() ? BatchEnd::input_failed : BatchEnd::wrong_header;
+        outcome.header_error = header.error;
+        return outcome;
+    }
+    std::string line = table.has_byte_order_mark() ? "\xEF\xBB\xBF" : "";
+    if (!line.empty()) encoding = CsvEncoding::utf8;
+    append_cells(line, table, header.columns.size());
+    append_csv_columns(line, table.separator());
+    out << line << table.line_end();
+
+    SiteMemory memory;
+    while (out) {
+        if (!table.more_at_hand()) out.flush();
+        if (!table.next()) break;
+        ++outcome.requests;
+        Answer answer;
+        try {
+            answer = perform_record(table, header.columns, encoding, environment, memory);
+        } catch (const std::bad_alloc&) {
+            answer = {};  // a lack of memory ends this request alone
+            answer.fail(End::failed, "memoria esaurita");
+        }
+        outcome.failed += answer.end == End::well ? 0 : 1;
+        line.clear();
+        append_cells(line, table, header.columns.size());
+        append_csv_answer(line, answer, table.separator(), encoding);
+        out << line << table.line_end();
+    }
+    out.flush();
+    outcome.end = end_of(outcome, in, out);
+    return outcome;
 }
 
 }  // namespace coltre::cli

@@ -11,8 +11,10 @@
 #include "cli/altitude_commands.h"
 #include "cli/answers.h"
 #include "cli/batch.h"
+#include "cli/completion.h"
 #include "cli/help.h"
 #include "cli/places_command.h"
+#include "text/names.h"
 #include "version/maker.h"
 #include "version/version.h"
 
@@ -25,10 +27,12 @@ struct Streams {
     std::istream& in;
     std::ostream& out;
     std::ostream& err;
+    bool err_is_terminal;
 };
 
-int complain(std::ostream& err, std::string_view what) {
-    err << "coltre-calcolo: " << what << "\nPer l'aiuto: coltre-calcolo --help\n";
+/// @param command  whose help tells more, with a blank behind it; empty for the help of all
+int complain(std::ostream& err, std::string_view what, std::string_view command) {
+    err << "coltre-calcolo: " << what << "\nPer l'aiuto: coltre-calcolo " << command << "--help\n";
     return bad_usage;
 }
 
@@ -54,34 +58,45 @@ int exit_status(End end) {
 int run_calculation(const Request& request, bool json, const Environment& environment,
                     const Streams& streams) {
     SiteMemory memory;
-    const Answer result = perform(request, environment, memory);
+    Request performed = request;
+    if (!json) performed.set(keys::passaggi, "true");  // the table shows what the steps start from
+    const Answer result = perform(performed, environment, memory);
     if (json) {
         streams.out << to_json(result) << '\n';
     } else {
         for (const std::string& entry : result.partly_understood)
             streams.err << "Attenzione: " << entry << '\n';
+        for (const std::string& coefficient : result.unusual)
+            streams.err << "Attenzione: " << coefficient << '\n';
         for (const Message& message : result.messages)
             print_message(streams.err, message);
-        if (result.end != End::wrong_request) streams.out << to_table(result);
-        if (result.end == End::wrong_request) return complain(streams.err, result.error);
+        if (result.end != End::wrong_request) streams.out << to_table(result, request.flag(keys::passaggi));
+        if (result.end == End::wrong_request)
+            return complain(streams.err, result.error, std::string(describe(*request.kind).name) + " ");
         if (result.end == End::failed) streams.err << "Errore: " << result.error << '\n';
     }
     return check_output(streams.out, streams.err, exit_status(result.end));
 }
 
-int run_batch_command(const std::string& file, const Environment& environment, const Streams& streams) {
+int run_batch_command(const std::string& file, bool csv, const Environment& environment,
+                      const Streams& streams) {
     const auto finish = [&](std::istream& in) {
-        const BatchEnd end = run_batch(in, streams.out, environment);
-        if (end == BatchEnd::input_failed)
+        const BatchOutcome outcome =
+            csv ? run_csv_batch(in, streams.out, environment) : run_batch(in, streams.out, environment);
+        if (outcome.end == BatchEnd::wrong_header)
+            return complain(streams.err, outcome.header_error, "lotto ");
+        if (outcome.end == BatchEnd::input_failed)
             streams.err << "coltre-calcolo: impossibile leggere le richieste\n";
-        return check_output(streams.out, streams.err, end == BatchEnd::all_well ? all_well : failed);
+        if (streams.err_is_terminal) streams.err << summary(outcome) << '\n';
+        return check_output(streams.out, streams.err, outcome.end == BatchEnd::all_well ? all_well : failed);
     };
     if (file == "-") return finish(streams.in);
 
     std::ifstream in(file, std::ios::binary);
     std::error_code error;
     if (!in || std::filesystem::is_directory(file, error)) {
-        return complain(streams.err, "impossibile leggere il file " + in_quotes(file));
+        streams.err << "coltre-calcolo: impossibile leggere il file " << in_quotes(file) << '\n';
+        return bad_usage;
     }
     return finish(in);
 }
@@ -90,6 +105,7 @@ int run_batch_command(const std::string& file, const Environment& environment, c
 struct Choice {
     Request request;
     bool json = false;
+    bool csv = false;
     std::string batch_file = "-";
     std::string altitude_directory;
     PlacesQuery places;
@@ -119,7 +135,7 @@ void add_options(CLI::App& command, const Description& calculation, Choice& choi
     for (const Entry& entry : calculation.entries)
         add(key_of(entry));
     std::ranges::for_each(common_keys(), add);
-    command.add_flag("--json", choice.json);
+    command.add_flag("--" + std::string(json_option.name), choice.json);
 }
 
 CLI::App& add_subcommand(CLI::App& parent, std::string_view name, Choice& choice,
@@ -147,17 +163,43 @@ std::vector<std::string> split_assignments(std::span<const std::string> argument
 /// An Italian sentence for arguments that cannot be taken apart.
 std::string parse_error_text(const CLI::ParseError& error) {
     const std::string text = error.what();
-    const std::string option = text.substr(0, text.find(':'));
+    const std::size_t start = std::min(text.find("--"), text.size());
+    const std::string option = text.substr(start, text.find_first_of(": ", start) - start);
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return "manca il valore di " + option;
-    if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) return "--json non accetta un valore";
+    if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) return option + " non accetta un valore";
     return "argomenti errati";
+}
+
+/// The innermost command that was named.
+const CLI::App& named_command(const CLI::App& app) {
+    const CLI::App* command = &app;
+    while (!command->get_subcommands().empty())
+        command = command->get_subcommands().front();
+    return *command;
+}
+
+/// The names that lead to a command, each with a blank behind it.
+std::string command_path(const CLI::App& command) {
+    if (command.get_parent() == nullptr) return {};
+    return command_path(*command.get_parent()) + command.get_name() + " ";
+}
+
+/// Says that the command does not take an argument, and which one may be meant.
+std::string unknown_argument(const CLI::App& command, const std::string& argument) {
+    const std::string name = argument.substr(0, argument.find('='));
+    const bool is_option = name.starts_with("--");
+    if (is_option && kind_of(command.get_name()) && find_key(name.substr(2)))
+        return in_quotes(name) + " non è del calcolo " + in_quotes(command.get_name());
+    const auto nearest = nearest_names(name, is_option ? option_names(command) : command_names(command), 1);
+    return "argomento sconosciuto: " + in_quotes(argument) +
+           (nearest.empty() ? "" : "; forse " + nearest.front());
 }
 
 }  // namespace
 
 int run(std::span<const std::string> arguments, const Environment& environment, std::istream& in,
-        std::ostream& out, std::ostream& err) {
-    const Streams streams{in, out, err};
+        std::ostream& out, std::ostream& err, bool err_is_terminal) {
+    const Streams streams{in, out, err, err_is_terminal};
     Choice choice;
     CLI::App app;
     app.set_help_flag("-h,--help");
@@ -180,8 +222,12 @@ int run(std::span<const std::string> arguments, const Environment& environment, 
 
     CLI::App& batch = add_subcommand(app, "lotto", choice, batch_help);
     batch.add_option("file", choice.batch_file);
-    batch.callback(
-        [&] { choice.action = [&] { return run_batch_command(choice.batch_file, environment, streams); }; });
+    batch.add_flag("--" + std::string(csv_option.name), choice.csv);
+    batch.callback([&] {
+        choice.action = [&] {
+            return run_batch_command(choice.batch_file, choice.csv, environment, streams);
+        };
+    });
 
     CLI::App& places = add_subcommand(app, "comuni", choice, places_help);
     places.add_option("testo", choice.places.text);
@@ -211,6 +257,13 @@ int run(std::span<const std::string> arguments, const Environment& environment, 
     add_altitude_command("verifica", check_command);
     add_altitude_command("ripara", repair_command);
 
+    // For the shell alone, so that no help names it.
+    if (!arguments.empty() && arguments.front() == "completa") {
+        for (const std::string& word : completions(app, arguments.subspan(1), environment.own_directory))
+            out << word << '\n';
+        return check_output(out, err, all_well);
+    }
+
     try {
         // The library takes its arguments from the end of the list.
         const std::vector<std::string> single = split_assignments(arguments);
@@ -222,15 +275,17 @@ int run(std::span<const std::string> arguments, const Environment& environment, 
         out << version.what() << '\n';
         return check_output(out, err, all_well);
     } catch (const CLI::ParseError& error) {
-        return complain(err, parse_error_text(error));
+        return complain(err, parse_error_text(error), command_path(named_command(app)));
     }
-    if (const auto extras = app.remaining(true); !extras.empty()) {
-        return complain(err, "argomento sconosciuto: " + in_quotes(extras.front()));
-    }
-    if (!choice.usage_error.empty()) return complain(err, choice.usage_error);
+    const CLI::App& command = named_command(app);
+    const std::string path = command_path(command);
+    if (const auto extras = app.remaining(true); !extras.empty())
+        return complain(err, unknown_argument(command, extras.front()), path);
+    if (!choice.usage_error.empty()) return complain(err, choice.usage_error, path);
     if (!choice.action) {
-        return complain(err, altitudes.parsed() ? "manca il comando: scrivi, verifica o ripara"
-                                                : "manca il nome del calcolo");
+        return complain(
+            err, altitudes.parsed() ? "manca il comando: scrivi, verifica o ripara" : "manca il nome del calcolo",
+            path);
     }
     return choice.action();
 }

@@ -17,7 +17,9 @@ void append_row(std::string& help, std::string_view left, std::string_view right
 
 void append_option(std::string& help, const Key& key) {
     const std::string value = key.type == KeyType::flag ? "" : " " + std::string(key.placeholder);
-    append_row(help, "--" + std::string(key.name) + value, key.meaning);
+    std::string meaning(key.meaning);
+    if (!key.otherwise.empty()) meaning += " (se manca: " + std::string(key.otherwise) + ")";
+    append_row(help, "--" + std::string(key.name) + value, meaning);
 }
 
 }  // namespace
@@ -26,14 +28,14 @@ std::string general_help() {
     std::string help =
         "Carico neve sulle coperture secondo il D.M. 16 gennaio 1996 e la circolare 4 luglio 1996.\n\n"
         "Uso: coltre-calcolo CALCOLO OPZIONI\n"
-        "     coltre-calcolo lotto [FILE | -]\n"
+        "     coltre-calcolo lotto [--csv] [FILE | -]\n"
         "     coltre-calcolo comuni [TESTO] [--provincia P] [--json]\n"
         "     coltre-calcolo altitudini scrivi | verifica | ripara [DIR]\n\n"
         "Calcoli:\n";
     for (const Description& calculation : calculations())
         append_row(help, calculation.name, calculation.meaning);
     help += "\nAltri comandi:\n";
-    append_row(help, "lotto", "una richiesta JSON per riga, un risultato JSON per riga");
+    append_row(help, "lotto", "elaborazione in serie: una richiesta JSON, o di una tabella CSV, per riga");
     append_row(help, "comuni", "cerca i comuni, anche con il nome di oggi: provincia, zona e altitudine");
     append_row(help, "altitudini", "scrive, verifica o ripara il file altitudini.txt");
     help += "\nOpzioni:\n";
@@ -51,7 +53,7 @@ std::string calculation_help(const Description& calculation) {
     help += "\nSito (provincia e comune, oppure zona e altitudine) e opzioni comuni:\n";
     for (const Key& key : common_keys())
         append_option(help, key);
-    append_row(help, "--json", "un oggetto JSON invece della tabella");
+    append_option(help, json_option);
     append_row(help, "-h, --help", "questo aiuto");
     help += "\nEsempio:\n  coltre-calcolo " + std::string(calculation.name) + " " +
             std::string(calculation.example) + "\n";
@@ -59,19 +61,30 @@ std::string calculation_help(const Description& calculation) {
 }
 
 std::string batch_help() {
-    return "coltre-calcolo lotto [FILE | -]: un lotto di calcoli\n\n"
-           "Legge una richiesta JSON per riga dal FILE (senza, o con -, dallo standard input) e scrive un "
-           "risultato\n"
-           "JSON per riga, nello stesso ordine. Le chiavi di una richiesta sono \"calcolo\", un \"id\" "
-           "facoltativo che\n"
-           "torna nel risultato, e i nomi delle opzioni di quel calcolo. Una riga errata dà un risultato con "
-           "il suo\n"
-           "errore, e il lotto continua.\n\n"
+    std::string help =
+        "coltre-calcolo lotto [--csv] [FILE | -]: calcoli in serie\n\n"
+        "Legge una richiesta JSON per riga dal FILE (senza, o con -, dallo standard input) e scrive un "
+        "risultato\n"
+        "JSON per riga, nello stesso ordine. Le chiavi di una richiesta sono \"calcolo\", un \"id\" "
+        "facoltativo,\n"
+        "riportato nel risultato, e i nomi delle opzioni di quel calcolo. Una riga errata dà un risultato con "
+        "il suo\n"
+        "errore, e il lotto continua.\n\n";
+    append_option(help, csv_option);
+    return help +
+           "\nLa prima riga di una tabella nomina le chiavi. Il separatore (; , o tabulazione) è quello "
+           "della "
+           "prima\n"
+           "riga; con il punto e virgola i numeri hanno la virgola decimale. Una cella vuota è una chiave "
+           "che "
+           "manca.\n"
+           "Il risultato è la stessa tabella con le colonne dei risultati; \"errore\" è l'ultima.\n\n"
            "Stato di uscita: 0 tutto bene, 1 qualche richiesta non riuscita, 2 uso errato.\n\n"
            "Esempio:\n"
            "  echo '{\"calcolo\": \"una-falda\", \"zona\": 0, \"altitudine\": 239, \"alfa\": 15}' | "
            "coltre-calcolo "
-           "lotto\n";
+           "lotto\n"
+           "  coltre-calcolo lotto --csv siti.csv > risultati.csv\n";
 }
 
 std::string places_help() {
@@ -94,7 +107,7 @@ std::string altitudes_help() {
     return "coltre-calcolo altitudini scrivi | verifica | ripara [DIR]: il file altitudini.txt\n\n"
            "  scrivi      scrive il file dalla tabella del programma; un file diverso resta come "
            "altitudini.bak\n"
-           "  verifica    elenca le righe in cui la lettura inciampa; stato di uscita 1 se ce ne sono\n"
+           "  verifica    elenca le righe che il programma non riesce a leggere; stato di uscita 1 se ce ne sono\n"
            "  ripara      conserva il file come altitudini.bak e ne scrive una copia senza quei difetti;\n"
            "              le altitudini modificate dall'utente restano\n\n"
            "Senza DIR vale la cartella del programma.\n\n"

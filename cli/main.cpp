@@ -19,7 +19,8 @@ int main(int argc, char** argv) try {
     const coltre::Environment environment{
         .own_directory = coltre::own_files(own, coltre::documents_directory()).altitudes,
         .decimal_separator = coltre::user_decimal_separator()};
-    return coltre::cli::run(arguments, environment, std::cin, std::cout, std::cerr);
+    return coltre::cli::run(arguments, environment, std::cin, std::cout, std::cerr,
+                            coltre::error_stream_is_terminal());
 } catch (const std::bad_alloc&) {
     static_cast<void>(std::fputs("coltre-calcolo: memoria esaurita\n", stderr));
     return coltre::cli::failed;

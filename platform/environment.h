@@ -21,6 +21,9 @@ bool may_write_in(std::string_view directory);
 /// middle of it.
 void take_file_size_limit_as_error();
 
+/// Whether somebody reads the standard error stream at a terminal.
+bool error_stream_is_terminal();
+
 /// The decimal separator of the user's locale, for the strict number reading; "." where it cannot be told.
 char user_decimal_separator();
 

@@ -55,6 +55,10 @@ void take_file_size_limit_as_error() {
     static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
 }
 
+bool error_stream_is_terminal() {
+    return ::isatty(STDERR_FILENO) == 1;
+}
+
 char user_decimal_separator() {
     // Not std::locale: the library's does not survive a lack of memory.
     const locale_t users = ::newlocale(LC_NUMERIC_MASK, "", locale_t{});

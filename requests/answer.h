@@ -28,13 +28,16 @@ struct Answer {
     std::string municipality;
     std::optional<double> altitude;  ///< m
     std::optional<SnowZone> zone;
-    std::optional<double> qsk;  ///< kN/m2
+    std::optional<double> qsk;            ///< kN/m2
+    std::optional<double> return_period;  ///< years; nothing while none is confirmed
+    double return_period_factor = 1;
     Calculation calculation;
     std::string report;              ///< path of the report; empty if none was written
     std::string illustrated_report;  ///< likewise of the illustrated one
     std::optional<Trace> trace;      ///< if it was asked for
     Messages messages;
     std::vector<std::string> partly_understood;  ///< in Italian, one text an entry
+    std::vector<std::string> unusual;            ///< coefficients, likewise
     End end = End::well;
     std::string error;  ///< Italian; empty if all is well
 

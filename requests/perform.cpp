@@ -102,6 +102,7 @@ Answer perform(const Request& request, const Environment& environment, SiteMemor
         return result;
     }
     result.partly_understood = partly_understood(request);
+    result.unusual = unusual_coefficients(request);
 
     Program program;
     program.directories.ProgramDirectory = environment.own_directory;
@@ -130,6 +131,8 @@ Answer perform(const Request& request, const Environment& environment, SiteMemor
     const Fields fields = fields_of(request, std::move(altitude), environment.decimal_separator);
     Outcome outcome = calculate_fields(request, fields, program, result.messages);
     append(result.messages, outcome.messages);
+    result.return_period = program.cells.confirmed_return_period;
+    result.return_period_factor = program.cells.return_period_factor;
     if (outcome.trace) keep_text("zona", request.value(keys::zona), *outcome.trace);
     if (outcome.trace) keep_text("Tr", request.value(keys::periodo_ritorno), *outcome.trace);
     result.calculation = outcome.calculation;

@@ -76,7 +76,7 @@ Key key_of(const Entry& entry) {
     // The help has the symbol for the value, "--larghezza L"; of a longer one the first letter.
     constexpr std::string_view letters = "ALHBQ";
     const char first = static_cast<char>(std::toupper(static_cast<unsigned char>(entry.symbol.front())));
-    return {entry.key, letters.substr(letters.find(first), 1), entry.meaning, KeyType::number_or_text};
+    return {entry.key, letters.substr(letters.find(first), 1), entry.meaning, "", KeyType::number_or_text};
 }
 
 std::optional<Key> find_key(std::string_view name) {
@@ -184,6 +184,20 @@ std::vector<std::string> partly_understood(const Request& request) {
         read(key.name);
     for (const Entry& entry : describe(*request.kind).entries)
         if (entry.reading == Reading::lenient) read(entry.key);
+    return texts;
+}
+
+std::vector<std::string> unusual_coefficients(const Request& request) {
+    std::vector<std::string> texts;
+    if (!describe(*request.kind).needs_ground_load) return texts;
+    for (const Key& key : {ce, ct}) {
+        const std::string* const text = request.value(key);
+        if (text == nullptr) continue;
+        const double value = read_leniently(*text).value;
+        if (value < 0.5 || value > 1.5)
+            texts.push_back(std::string(key.name) + " " + in_quotes(*text) +
+                            ": fuori dell'intervallo usuale, da 0.5 a 1.5");
+    }
     return texts;
 }
 

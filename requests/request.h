@@ -23,38 +23,44 @@ struct Key {
     std::string_view name;         ///< long option without its dashes, and key of a batch request
     std::string_view placeholder;  ///< what stands for its value in the help
     std::string_view meaning;      ///< Italian
+    std::string_view otherwise;    ///< what counts where it is not given; empty if nothing is to be said
     KeyType type;
 };
 
 /// The keys that every calculation takes.
 namespace keys {
-inline constexpr Key provincia{"provincia", "P", "provincia; ne viene la zona", KeyType::text};
-inline constexpr Key comune{"comune", "C", "comune; ne viene l'altitudine, da altitudini.txt", KeyType::text};
-inline constexpr Key zona{"zona", "0..3",
-                          "zona: 0 I Alpina, 1 I Mediterranea, 2 II, 3 III; vince su quella della provincia",
-                          KeyType::number_or_text};
-inline constexpr Key altitudine{"altitudine", "M", "altitudine [m]; vince su quella del comune",
+inline constexpr Key provincia{"provincia", "P", "provincia; determina la zona", "", KeyType::text};
+inline constexpr Key comune{"comune", "C", "comune; determina l'altitudine, letta da altitudini.txt", "",
+                            KeyType::text};
+inline constexpr Key zona{
+    "zona", "0..3", "zona: 0 I Alpina, 1 I Mediterranea, 2 II, 3 III; prevale su quella della provincia", "",
+    KeyType::number_or_text};
+inline constexpr Key altitudine{"altitudine", "M", "altitudine [m]; prevale su quella del comune", "",
                                 KeyType::number_or_text};
-inline constexpr Key periodo_ritorno{"periodo-ritorno", "TR",
-                                     "periodo di ritorno [anni]; senza, il coefficiente resta 1.0",
-                                     KeyType::number_or_text};
-inline constexpr Key ce{"ce", "CE", "coefficiente di esposizione (1.0)", KeyType::number_or_text};
-inline constexpr Key ct{"ct", "CT", "coefficiente termico (1.0)", KeyType::number_or_text};
+inline constexpr Key periodo_ritorno{"periodo-ritorno", "TR", "periodo di ritorno [anni], maggiore di 1",
+                                     "coefficiente 1.0", KeyType::number_or_text};
+inline constexpr Key ce{"ce", "CE", "coefficiente di esposizione", "1.0", KeyType::number_or_text};
+inline constexpr Key ct{"ct", "CT", "coefficiente termico", "1.0", KeyType::number_or_text};
 inline constexpr Key unita{
-    "unita", "U", R"(unità della relazione: "kN , m", "Kgf , m" o "kgf , cm" (kN , m))", KeyType::text};
-inline constexpr Key lavoro{"lavoro", "NOME", "nome del lavoro nella relazione", KeyType::text};
-inline constexpr Key relazione{"relazione", "DIR", "scrive la relazione in questa cartella", KeyType::text};
-inline constexpr Key altitudini{"altitudini", "DIR", "cartella di altitudini.txt (quella del programma)",
+    "unita", "U", R"(unità della relazione: "kN , m", "Kgf , m" o "kgf , cm", scritta esattamente così)",
+    R"("kN , m")", KeyType::text};
+inline constexpr Key lavoro{"lavoro", "NOME", "nome del lavoro nella relazione", "", KeyType::text};
+inline constexpr Key relazione{"relazione", "DIR",
+                               "scrive la relazione, coltre.txt o coltrecasipart.txt, in questa cartella", "",
+                               KeyType::text};
+inline constexpr Key altitudini{"altitudini", "DIR", "cartella di altitudini.txt", "quella del programma",
                                 KeyType::text};
-inline constexpr Key passaggi{"passaggi", "", "aggiunge i passaggi del calcolo, formula per formula",
-                              KeyType::flag};
-inline constexpr Key illustrata{"illustrata", "FILE", "scrive la relazione illustrata, HTML, in questo file",
-                                KeyType::text};
+inline constexpr Key passaggi{
+    "passaggi", "", "aggiunge i passaggi: ogni formula con i simboli, con i numeri e con il suo valore", "",
+    KeyType::flag};
+inline constexpr Key illustrata{"illustrata", "FILE",
+                                "scrive la relazione illustrata, in HTML, in questo file", "", KeyType::text};
 inline constexpr Key impaginazione{"impaginazione", "I",
-                                   "della relazione illustrata: completa, sintetica o passaggi (completa)",
+                                   "della relazione illustrata: completa, sintetica o passaggi", "completa",
                                    KeyType::text};
-inline constexpr Key sovrascrivi{"sovrascrivi", "", "la relazione illustrata sostituisce un file che esiste",
-                                 KeyType::flag};
+inline constexpr Key sovrascrivi{
+    "sovrascrivi", "", "la relazione illustrata sostituisce un file che esiste già; senza, è un errore", "",
+    KeyType::flag};
 }  // namespace keys
 
 /// In the order of the help.
@@ -112,5 +118,9 @@ std::string validation_error(const Request& request);
 /// an entry.
 /// @param request  without a validation error
 std::vector<std::string> partly_understood(const Request& request);
+
+/// The coefficients CE and Ct that lie outside of 0.5 to 1.5, if they count in the calculation: perhaps a
+/// slip. In Italian, one text a coefficient.
+std::vector<std::string> unusual_coefficients(const Request& request);
 
 }  // namespace coltre

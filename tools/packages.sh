@@ -6,7 +6,7 @@ program_packages=(g++ cmake ninja-build libcli11-dev rapidjson-dev qt6-base-dev 
 
 # To run all checks besides.
 check_packages=(libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev locales clang-format clang-tidy
-    xvfb xdotool imagemagick git desktop-file-utils appstream mandoc poppler-utils unzip lintian dpkg-dev)
+    xvfb xdotool imagemagick git desktop-file-utils appstream mandoc poppler-utils unzip lintian dpkg-dev parallel)
 
 # For tools/fuzz, besides those of the program.
 fuzz_packages=(clang libclang-rt-14-dev nlohmann-json3-dev)

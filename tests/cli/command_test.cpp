@@ -17,14 +17,18 @@ TEST(Command, ExitStatusTellsWhoIsWrong) {
     };
     for (Case c : std::vector<Case>{
              {{}, bad_usage, "manca il nome del calcolo"},
-             {{"tetto"}, bad_usage, "argomento sconosciuto: «tetto»"},
+             {{"unafalda"}, bad_usage, "argomento sconosciuto: «unafalda»; forse una-falda\n"},
+             {{"altitudini", "verfica"},
+              bad_usage,
+              "forse verifica\nPer l'aiuto: coltre-calcolo altitudini --help\n"},
              {{"altitudini"}, bad_usage, "manca il comando"},
-             {{"lotto", "/nessuna/richiesta"}, bad_usage, "impossibile leggere il file"},
+             {{"lotto", "/nessuna/richiesta"}, bad_usage, "file «/nessuna/richiesta»\n"},
              {{"parete", "--json=x"}, bad_usage, "--json non accetta un valore"},
              {{"parete", "--h"}, bad_usage, "manca il valore di --h"},
-             {{"parete"}, bad_usage, "manca «h»", true},
+             {{"parete"}, bad_usage, "manca «h»\nPer l'aiuto: coltre-calcolo parete --help\n", true},
              {{"parete", "--h", "1", "--h", "2"}, bad_usage, "--h è ripetuta", true},
-             {{"parete", "--h", "1", "--alfa", "2"}, bad_usage, "«--alfa»", true},
+             {{"parete", "--h", "1", "--alfa", "2"}, bad_usage, "«--alfa» non è del calcolo «parete»", true},
+             {{"parete", "--altitudne=1"}, bad_usage, "«--altitudne=1»; forse --altitudine\n", true},
              {{"parete", "--h="}, failed, "Il campo «h» è vuoto.", true},
              {{"parete", "--h", "x"}, failed, "Calcolo interrotto: conversione", true},
              {{"parete", "--h", "1e309"}, failed, "Il numero scritto per «h» è troppo grande.", true},
@@ -73,6 +77,54 @@ TEST(Command, MunicipalitiesAreListedByNamesOf1996AndOfToday) {
         EXPECT_EQ(run.out, "");
         EXPECT_THAT(run.err, HasSubstr(err));
     }
+}
+
+TEST(Command, TableTellsWhatItWasComputedFrom) {
+    const std::vector<std::string> arguments{"una-falda", "--zona",           "0",     "--altitudine",
+                                             "239",       "--alfa",           "22.5x", "--ce",
+                                             "1.6",       "--periodo-ritorno"};
+    for (const auto& [years, row] :
+         {std::pair{"50", "Periodo di ritorno      50 anni, coefficiente 0.8056\n"},
+          {"1", "Periodo di ritorno      coefficiente 1, non confermato\n"}}) {
+        std::vector<std::string> all = arguments;
+        all.emplace_back(years);
+        const CommandRun run = run_command(all);
+        EXPECT_THAT(run.out,
+                    HasSubstr(std::string(row) +
+                              "CE                             1.6\nCt                               1\n"
+                              "alfa                          22.5 °\nqsk "));
+        EXPECT_THAT(run.err, HasSubstr("Attenzione: ce «1.6»: fuori dell'intervallo usuale, da 0.5 a 1.5\n"));
+    }
+}
+
+TEST(Command, CompletesWords) {
+    using testing::ElementsAre;
+    const auto completed = [](std::vector<std::string> words) {
+        words.insert(words.begin(), "completa");
+        std::istringstream lines(run_command(words).out);
+        std::vector<std::string> names;
+        for (std::string line; std::getline(lines, line);)
+            names.push_back(line);
+        return names;
+    };
+    EXPECT_THAT(completed({""}),
+                testing::AllOf(testing::Contains("lotto"), Not(testing::Contains("completa"))));
+    EXPECT_THAT(completed({"altitudini", "v"}), ElementsAre("verifica"));
+    EXPECT_THAT(completed({"una-falda", "--altitudine", "1", "--al"}), ElementsAre("--alfa", "--altitudini"));
+    EXPECT_THAT(completed({"parete", "--provincia", "\"reggio e"}), ElementsAre("ReggioEmilia"));
+    EXPECT_THAT(completed({"parete", "--provincia", "=", "torino", "--comune", "cir"}),
+                ElementsAre("Cirie'"));
+    EXPECT_THAT(completed({"parete", "--comune", "cir"}), ElementsAre());
+    EXPECT_THAT(completed({"parete", "--zona", "="}), ElementsAre("0", "1", "2", "3"));
+    EXPECT_THAT(completed({"lotto", ""}), ElementsAre());
+}
+
+TEST(Command, BatchIsSummedUpAtATerminal) {
+    std::istringstream in("{}\n");
+    std::ostringstream out;
+    std::ostringstream err;
+    run(std::vector<std::string>{"lotto"}, {}, in, out, err, true);
+    EXPECT_EQ(err.str(), "1 richiesta, 1 errore\n");
 }
 
 TEST(Command, HelpIsItalianAndHasAnExample) {

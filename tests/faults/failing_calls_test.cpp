@@ -181,7 +181,7 @@ Report run_batch(const std::string& directory) {
     out.str("");  // which leaves it the room: the stream would hide that it lacks memory
     const Environment environment{.own_directory = directory};
     plan.on = true;
-    const cli::BatchEnd end = cli::run_batch(in, out, environment);
+    const cli::BatchEnd end = cli::run_batch(in, out, environment).end;
     plan.on = false;
     const std::string answer = out.str();
     const bool failed = answer.find("\"errore\": null") == std::string::npos;
