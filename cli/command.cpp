@@ -13,6 +13,7 @@
 #include "cli/batch.h"
 #include "cli/help.h"
 #include "cli/places_command.h"
+#include "cli/worked_cases_command.h"
 #include "version/version.h"
 
 namespace coltre::cli {
@@ -92,6 +93,7 @@ struct Choice {
     std::string batch_file = "-";
     std::string altitude_directory;
     PlacesQuery places;
+    std::string cases_file;
     std::function<std::string()> help = general_help;
     std::string usage_error;
     std::function<int()> action;
@@ -188,6 +190,14 @@ int run(std::span<const std::string> arguments, const Environment& environment, 
     places.callback([&] {
         choice.action = [&] {
             return check_output(out, err, places_command(choice.places, environment.own_directory, out, err));
+        };
+    });
+
+    CLI::App& cases = add_subcommand(app, "prova", choice, worked_cases_help);
+    cases.add_option("file", choice.cases_file);
+    cases.callback([&] {
+        choice.action = [&] {
+            return check_output(out, err, worked_cases_command(choice.cases_file, out, err));
         };
     });
 

@@ -28,6 +28,7 @@ std::string general_help() {
         "Uso: coltre-calcolo CALCOLO OPZIONI\n"
         "     coltre-calcolo lotto [FILE | -]\n"
         "     coltre-calcolo comuni [TESTO] [--provincia P] [--json]\n"
+        "     coltre-calcolo prova [FILE.html]\n"
         "     coltre-calcolo altitudini scrivi | verifica | ripara [DIR]\n\n"
         "Calcoli:\n";
     for (const Description& calculation : calculations())
@@ -35,6 +36,7 @@ std::string general_help() {
     help += "\nAltri comandi:\n";
     append_row(help, "lotto", "una richiesta JSON per riga, un risultato JSON per riga");
     append_row(help, "comuni", "cerca i comuni, anche con il nome di oggi: provincia, zona e altitudine");
+    append_row(help, "prova", "esegue i casi di prova e li confronta con gli svolgimenti");
     append_row(help, "altitudini", "scrive, verifica o ripara il file altitudini.txt");
     help += "\nOpzioni:\n";
     append_row(help, "-h, --help", "questo aiuto; dopo un comando, il suo");
@@ -88,6 +90,17 @@ std::string places_help() {
            "\nStato di uscita: 0 tutto bene, 1 nessun comune trovato, 2 uso errato.\n\n"
            "Esempio:\n"
            "  coltre-calcolo comuni valsamoggia\n";
+}
+
+std::string worked_cases_help() {
+    return "coltre-calcolo prova [FILE.html]: i casi di prova\n\n"
+           "Esegue con questo programma i casi svolti per esteso senza di esso ed elenca quelli che non "
+           "riproduce. Con\n"
+           "un FILE vi scrive anche il documento dei casi, con gli svolgimenti e i numeri attesi e "
+           "trovati.\n\n"
+           "Stato di uscita: 0 tutti riprodotti, 1 qualcuno no, o il FILE non si può scrivere.\n\n"
+           "Esempio:\n"
+           "  coltre-calcolo prova casi.html\n";
 }
 
 std::string altitudes_help() {
