@@ -18,6 +18,10 @@ namespace coltre {
 
 namespace {
 
+Pieces plain(std::string_view text) {
+    return {{std::string(text), Style::plain}};
+}
+
 using Value = rapidjson::Value;
 
 std::string text_of(const Value& value) {
