@@ -14,6 +14,7 @@
 #include "cli/completion.h"
 #include "cli/help.h"
 #include "cli/places_command.h"
+#include "cli/worked_cases_command.h"
 #include "text/names.h"
 #include "version/maker.h"
 #include "version/version.h"
@@ -109,6 +110,7 @@ struct Choice {
     std::string batch_file = "-";
     std::string altitude_directory;
     PlacesQuery places;
+    std::string cases_file;
     std::function<std::string()> help = general_help;
     std::string usage_error;
     std::function<int()> action;
@@ -166,7 +168,8 @@ std::string parse_error_text(const CLI::ParseError& error) {
     const std::size_t start = std::min(text.find("--"), text.size());
     const std::string option = text.substr(start, text.find_first_of(": ", start) - start);
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return "manca il valore di " + option;
-    if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) return option + " non accetta un valore";
+    if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr)
+        return option + " non accetta un valore";
     return "argomenti errati";
 }
 
@@ -239,6 +242,14 @@ int run(std::span<const std::string> arguments, const Environment& environment, 
         };
     });
 
+    CLI::App& cases = add_subcommand(app, "prova", choice, worked_cases_help);
+    cases.add_option("file", choice.cases_file);
+    cases.callback([&] {
+        choice.action = [&] {
+            return check_output(out, err, worked_cases_command(choice.cases_file, out, err));
+        };
+    });
+
     CLI::App& altitudes = add_subcommand(app, "altitudini", choice, altitudes_help);
     altitudes.require_subcommand(0, 1);
     choice.altitude_directory = environment.own_directory;
@@ -284,7 +295,8 @@ int run(std::span<const std::string> arguments, const Environment& environment, 
     if (!choice.usage_error.empty()) return complain(err, choice.usage_error, path);
     if (!choice.action) {
         return complain(
-            err, altitudes.parsed() ? "manca il comando: scrivi, verifica o ripara" : "manca il nome del calcolo",
+            err,
+            altitudes.parsed() ? "manca il comando: scrivi, verifica o ripara" : "manca il nome del calcolo",
             path);
     }
     return choice.action();

@@ -30,6 +30,7 @@ std::string general_help() {
         "Uso: coltre-calcolo CALCOLO OPZIONI\n"
         "     coltre-calcolo lotto [--csv] [FILE | -]\n"
         "     coltre-calcolo comuni [TESTO] [--provincia P] [--json]\n"
+        "     coltre-calcolo prova [FILE.html]\n"
         "     coltre-calcolo altitudini scrivi | verifica | ripara [DIR]\n\n"
         "Calcoli:\n";
     for (const Description& calculation : calculations())
@@ -37,6 +38,7 @@ std::string general_help() {
     help += "\nAltri comandi:\n";
     append_row(help, "lotto", "elaborazione in serie: una richiesta JSON, o di una tabella CSV, per riga");
     append_row(help, "comuni", "cerca i comuni, anche con il nome di oggi: provincia, zona e altitudine");
+    append_row(help, "prova", "esegue i casi di prova e li confronta con gli svolgimenti");
     append_row(help, "altitudini", "scrive, verifica o ripara il file altitudini.txt");
     help += "\nOpzioni:\n";
     append_row(help, "-h, --help", "mostra questo aiuto; dopo un comando, l'aiuto del comando");
@@ -67,7 +69,8 @@ std::string batch_help() {
         "risultato\n"
         "JSON per riga, nello stesso ordine. Le chiavi di una richiesta sono \"calcolo\", un \"id\" "
         "facoltativo,\n"
-        "riportato nel risultato, e i nomi delle opzioni di quel calcolo. Una riga errata dà un risultato con "
+        "riportato nel risultato, e i nomi delle opzioni di quel calcolo. Una riga errata dà un risultato "
+        "con "
         "il suo\n"
         "errore, e il lotto continua.\n\n";
     append_option(help, csv_option);
@@ -103,11 +106,23 @@ std::string places_help() {
            "  coltre-calcolo comuni valsamoggia\n";
 }
 
+std::string worked_cases_help() {
+    return "coltre-calcolo prova [FILE.html]: i casi di prova\n\n"
+           "Esegue con questo programma i casi svolti per esteso senza di esso ed elenca quelli che non "
+           "riproduce. Con\n"
+           "un FILE vi scrive anche il documento dei casi, con gli svolgimenti e i numeri attesi e "
+           "trovati.\n\n"
+           "Stato di uscita: 0 tutti riprodotti, 1 qualcuno no, o il FILE non si può scrivere.\n\n"
+           "Esempio:\n"
+           "  coltre-calcolo prova casi.html\n";
+}
+
 std::string altitudes_help() {
     return "coltre-calcolo altitudini scrivi | verifica | ripara [DIR]: il file altitudini.txt\n\n"
            "  scrivi      scrive il file dalla tabella del programma; un file diverso resta come "
            "altitudini.bak\n"
-           "  verifica    elenca le righe che il programma non riesce a leggere; stato di uscita 1 se ce ne sono\n"
+           "  verifica    elenca le righe che il programma non riesce a leggere; stato di uscita 1 se ce ne "
+           "sono\n"
            "  ripara      conserva il file come altitudini.bak e ne scrive una copia senza quei difetti;\n"
            "              le altitudini modificate dall'utente restano\n\n"
            "Senza DIR vale la cartella del programma.\n\n"

@@ -16,6 +16,7 @@ std::string general_help();
 std::string calculation_help(const Description& calculation);
 std::string batch_help();
 std::string places_help();
+std::string worked_cases_help();
 std::string altitudes_help();
 
 }  // namespace coltre::cli

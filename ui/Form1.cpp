@@ -182,7 +182,8 @@ Inputs Form1::site() const {
     if (province.empty()) {
         site.site_notes.push_back("sito non scelto: " + std::string(zone_name(site.zone)));
     } else if (ZoneOfProvince(province).zone != site.zone) {
-        site.site_notes.push_back("zona del lavoro, non della provincia: " + std::string(zone_name(site.zone)));
+        site.site_notes.push_back("zona del lavoro, non della provincia: " +
+                                  std::string(zone_name(site.zone)));
     }
     if (m_ui->asinput->is_marked())
         site.site_notes.push_back("altitudine: " + m_ui->asinput->reading().toStdString());
