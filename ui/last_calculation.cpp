@@ -4,6 +4,7 @@
 #include "document/request_line.h"
 #include "platform/date.h"
 #include "ui/clipboard.h"
+#include "ui/window_setup.h"
 #include "version/version.h"
 
 namespace coltre {
@@ -31,9 +32,7 @@ void LastCalculation::show_steps() {
         });
         if (m_subject) m_steps->show_document(steps_document(*m_subject));
     }
-    m_steps->show();
-    m_steps->raise();
-    m_steps->activateWindow();
+    bring_to_front(*m_steps);
 }
 
 std::optional<Document> LastCalculation::report() const {

@@ -59,6 +59,7 @@ const Menus::Entry Menus::entries[] = {
     {"Calcolo", "Che cosa succede se…", "Ctrl+D", &Menus::show_what_if},
     {"Calcolo", "Passaggi del calcolo", "Ctrl+T", &Menus::show_steps},
     {"Strumenti", "Verifica e ripara altitudini.txt…", "", &Menus::check_altitudes},
+    {"Strumenti", "Casi di prova…", "", &Menus::show_worked_cases},
     {"Aiuto", "Manuale", "F1", &Menus::open_manual},
     {"Aiuto", "Informazioni su Coltre", "", &Menus::show_about},
 };
@@ -129,6 +130,11 @@ void Menus::print_report(const CalculationTab& /*open_tab*/) {
 
 void Menus::check_altitudes(const CalculationTab& /*open_tab*/) {
     check_and_repair_altitudes(m_program.directories.ProgramDirectory, m_dialogs);
+}
+
+void Menus::show_worked_cases(const CalculationTab& /*open_tab*/) {
+    if (m_worked_cases == nullptr) m_worked_cases = new WorkedCasesWindow(m_dialogs, &m_main_window);
+    bring_to_front(*m_worked_cases);
 }
 
 void Menus::show_steps(const CalculationTab& /*open_tab*/) {

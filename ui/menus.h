@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QUrl>
 #include <functional>
 #include <string>
@@ -9,6 +10,7 @@
 #include "ui/calculation_tab.h"
 #include "ui/last_calculation.h"
 #include "ui/user_dialogs.h"
+#include "ui/worked_cases_window.h"
 
 class QPrinter;
 class QWidget;
@@ -45,8 +47,6 @@ class Menus : public QObject {
   signals:
     void open_job(const CalculationTab& open_tab);
     void save_job(const CalculationTab& open_tab);
-
-  signals:
     void find_place(const CalculationTab& open_tab);
     void compare_sites(const CalculationTab& open_tab);
     void show_what_if(const CalculationTab& open_tab);
@@ -65,6 +65,7 @@ class Menus : public QObject {
     void print_report(const CalculationTab&);
     void show_steps(const CalculationTab&);
     void check_altitudes(const CalculationTab&);
+    void show_worked_cases(const CalculationTab&);
     void open_last_report(const CalculationTab&);
     void end_program(const CalculationTab&);
     void copy_results(const CalculationTab& open_tab);
@@ -80,6 +81,7 @@ class Menus : public QObject {
     LastCalculation& m_last_calculation;
     UserDialogs& m_dialogs;
     std::string m_last_report;
+    QPointer<WorkedCasesWindow> m_worked_cases;
 };
 
 }  // namespace coltre

@@ -5,16 +5,11 @@
 #include "document/formula_text.h"
 #include "document/sensitivity.h"
 #include "document/site_comparison.h"
+#include "ui/window_setup.h"
 
 namespace coltre {
 
 namespace {
-
-void bring_to_front(QWidget& window) {
-    window.show();
-    window.raise();
-    window.activateWindow();
-}
 
 QString qt(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));

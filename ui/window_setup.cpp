@@ -85,6 +85,12 @@ void fit_to_screen(QWidget& window) {
     window.resize(wanted.boundedTo(room));
 }
 
+void bring_to_front(QWidget& window) {
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
 void tell_roles_to_screen_readers() {
     QAccessible::installFactory(with_role);
 }

@@ -18,6 +18,9 @@ QWidget& let_contents_scroll(QWidget& window);
 /// it, but no more than its screen has room for.
 void fit_to_screen(QWidget& window);
 
+/// Shows a window, over all others.
+void bring_to_front(QWidget& window);
+
 /// Tells screen readers which of the widgets are windows and pictures: by itself either is a box without
 /// meaning.
 void tell_roles_to_screen_readers();
