@@ -48,7 +48,8 @@ void append_data(std::string& table, const Answer& answer) {
                                          : factor + ", non confermato");
     for (const Datum& datum : answer.trace->data) {
         const bool told_above = datum.symbol == "zona" || datum.symbol == "as" || datum.symbol == "Tr";
-        if (!told_above && !datum.text.empty()) append_row(table, datum.symbol, shortest_number_text(datum.value), datum.unit);
+        if (!told_above && !datum.text.empty())
+            append_row(table, datum.symbol, shortest_number_text(datum.value), datum.unit);
     }
 }
 

@@ -70,7 +70,8 @@ std::vector<std::string> answers(const std::vector<std::string>& lines, const st
         batch += line + '\n';
     std::istringstream in(batch);
     std::stringstream out;
-    const cli::BatchEnd end = cli::run_batch(in, out, {.own_directory = directory, .decimal_separator = ','}).end;
+    const cli::BatchEnd end =
+        cli::run_batch(in, out, {.own_directory = directory, .decimal_separator = ','}).end;
     require(end == cli::BatchEnd::all_well || end == cli::BatchEnd::some_failed, "the streams are sound");
     std::vector<std::string> answers;
     for (std::string answer; std::getline(out, answer);)
