@@ -16,3 +16,7 @@ bench_packages=(libbenchmark-dev nlohmann-json3-dev python3 libx11-6 xvfb speedc
 
 # For tools/package, besides those of the program.
 debian_packages=(lintian dpkg-dev)
+
+# For the cross build to Windows, its tests under Wine and its packages, besides those of the program.
+windows_packages=(g++-mingw-w64-x86-64-posix wine64 wine googletest nlohmann-json3-dev dpkg-dev librsvg2-bin imagemagick
+    nsis zip unzip)
