@@ -14,7 +14,7 @@ namespace {
 
 /// The file as the system writes its path.
 std::string shown_path(std::string_view directory) {
-    return find_path(altitude_file_name(suite_notation(directory))).string();
+    return path_text(find_path(altitude_file_name(suite_notation(to_path(directory)))));
 }
 
 int complain(std::ostream& err, std::string_view what, std::string_view directory, std::string_view reason) {
@@ -36,7 +36,7 @@ void list(std::ostream& out, const std::vector<AltitudeFault>& faults) {
 
 int write_command(std::string_view directory, std::ostream& out, std::ostream& err) {
     const TableReplacement replaced =
-        replace_altitude_file(suite_notation(directory), built_in_altitude_file());
+        replace_altitude_file(suite_notation(to_path(directory)), built_in_altitude_file());
     if (replaced.failure) return complain(err, "scrivere", directory, *replaced.failure);
     if (replaced.is_new) {
         out << "Scritto il file " << shown_path(directory) << kept(replaced.kept_name) << ".\n";
@@ -47,7 +47,7 @@ int write_command(std::string_view directory, std::ostream& out, std::ostream& e
 }
 
 int check_command(std::string_view directory, std::ostream& out, std::ostream& err) {
-    const AltitudeFileCheck check = check_altitude_file(suite_notation(directory));
+    const AltitudeFileCheck check = check_altitude_file(suite_notation(to_path(directory)));
     if (check.failure) return complain(err, "leggere", directory, *check.failure);
     list(out, check.faults);
     if (!check.faults.empty()) return failed;
@@ -56,7 +56,7 @@ int check_command(std::string_view directory, std::ostream& out, std::ostream& e
 }
 
 int repair_command(std::string_view directory, std::ostream& out, std::ostream& err) {
-    const AltitudeFileCheck check = repair_altitude_file(suite_notation(directory));
+    const AltitudeFileCheck check = repair_altitude_file(suite_notation(to_path(directory)));
     if (check.failure) return complain(err, "riparare", directory, *check.failure);
     if (check.faults.empty()) {
         out << "Nessun difetto nel file " << shown_path(directory) << ".\n";

@@ -15,6 +15,7 @@
 #include "cli/help.h"
 #include "cli/places_command.h"
 #include "cli/worked_cases_command.h"
+#include "platform/files.h"
 #include "text/names.h"
 #include "version/maker.h"
 #include "version/version.h"
@@ -93,9 +94,10 @@ int run_batch_command(const std::string& file, bool csv, const Environment& envi
     };
     if (file == "-") return finish(streams.in);
 
-    std::ifstream in(file, std::ios::binary);
+    const std::filesystem::path path = to_path(file);
+    std::ifstream in(path, std::ios::binary);
     std::error_code error;
-    if (!in || std::filesystem::is_directory(file, error)) {
+    if (!in || std::filesystem::is_directory(path, error)) {
         streams.err << "coltre-calcolo: impossibile leggere il file " << in_quotes(file) << '\n';
         return bad_usage;
     }
@@ -209,6 +211,7 @@ int run(std::span<const std::string> arguments, const Environment& environment, 
     app.set_version_flag(
         "--version", "coltre-calcolo " + std::string(version_and_build()) + "\n" + std::string(notice_text));
     app.allow_extras();
+    app.allow_windows_style_options(false);  // a path may begin with "/"; the subcommands take this over
     app.require_subcommand(0, 1);
 
     for (const Description& calculation : calculations()) {

@@ -12,9 +12,10 @@
 int main(int argc, char** argv) try {
     coltre::take_file_size_limit_as_error();
     coltre::remove_temporary_files_when_interrupted();
+    const coltre::PlainStreams plain_streams;
     std::ios::sync_with_stdio(false);
     std::cin.tie(nullptr);  // a batch hands its results on by itself
-    const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+    const std::vector<std::string> arguments = coltre::arguments_of(argc, argv);
     const std::string own = coltre::own_directory(argc > 0 ? argv[0] : "");
     const coltre::Environment environment{
         .own_directory = coltre::own_files(own, coltre::documents_directory()).altitudes,

@@ -2,9 +2,25 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 // What the program finds around itself.
 namespace coltre {
+
+/// The arguments that main() was called with, without the program's name, as UTF-8.
+std::vector<std::string> arguments_of(int argc, const char* const* argv);
+
+/// Has the standard streams pass every byte as it is, and a console show UTF-8, for its lifetime.
+class PlainStreams {
+  public:
+    PlainStreams();
+    ~PlainStreams();
+    PlainStreams(const PlainStreams&) = delete;
+    PlainStreams& operator=(const PlainStreams&) = delete;
+
+  private:
+    unsigned m_console_code_page = 0;  // to be restored; 0: none
+};
 
 /// The directory that holds the program, in the suite's notation, without a separator at its end.
 /// @param invoked_as  how the program was called (argv[0]); used where the system does not tell

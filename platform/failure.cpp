@@ -34,15 +34,18 @@ Failure system_failure(int error_number) {
             return "il collegamento simbolico è interrotto";
         case EIO:
             return "il disco segnala un errore";
+        case EBUSY:
+            return "un altro programma lo tiene aperto";
         case EMFILE:
         case ENFILE:
             return "troppi file sono aperti";
         case ENOMEM:
             return "memoria esaurita";
+        case ENETUNREACH:
 #ifdef ESTALE
         case ESTALE:
-            return "la cartella di rete non risponde";
 #endif
+            return "la cartella di rete non risponde";
         default:
             return "errore di sistema " + std::to_string(error_number);
     }
@@ -56,6 +59,8 @@ bool may_pass(int error_number) {
         case EMFILE:
         case ENFILE:
         case ENOMEM:
+        case EBUSY:
+        case ENETUNREACH:
 #ifdef ESTALE
         case ESTALE:
 #endif

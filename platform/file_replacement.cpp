@@ -43,9 +43,8 @@ int follow(fs::path& path, const Entry& link) {
 
 DirectoryLock::DirectoryLock(const fs::path& directory) {
     using namespace std::chrono_literals;
-    if (system_files::open_directory(directory, m_directory) != 0) return;
     const auto deadline = std::chrono::steady_clock::now() + 5s;
-    while (system_files::try_lock(m_directory) == EAGAIN && std::chrono::steady_clock::now() < deadline)
+    while (system_files::try_lock(directory, m_lock) == EAGAIN && std::chrono::steady_clock::now() < deadline)
         std::this_thread::sleep_for(1ms);
 }
 

@@ -17,7 +17,7 @@ class DirectoryLock {
     explicit DirectoryLock(const std::filesystem::path& directory);
 
   private:
-    system_files::Descriptor m_directory;  // closing it lets the next one in
+    system_files::Descriptor m_lock;  // closing it lets the next one in
 };
 
 /// What a replaced file outlives. A power failure costs waiting for the disk, some milliseconds; without that

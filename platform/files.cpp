@@ -7,12 +7,10 @@
 #include <system_error>
 #include <thread>
 #include <utility>
-#include <vector>
 
 #include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/system_files.h"
-#include "text/characters.h"
 
 namespace coltre {
 
@@ -20,25 +18,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
-
-/// Whether the path names something. What the system does not say counts as there.
-bool may_be_there(const fs::path& path) {
-    std::error_code error;
-    return fs::symlink_status(path, error).type() != fs::file_type::not_found;
-}
-
-/// The name in the directory that equals `name` but for letter case; of several the first in byte order.
-fs::path find_name(const fs::path& directory, const fs::path& name) {
-    std::vector<std::string> names;
-    static_cast<void>(tried_again([&] {
-        names.clear();
-        return system_files::list(directory, names);
-    }));
-    const std::string wanted = lower_case(name.string());
-    std::erase_if(names, [&](const std::string& found) { return lower_case(found) != wanted; });
-    const auto first = std::ranges::min_element(names);
-    return first == names.end() ? name : fs::path(*first);
-}
 
 constexpr std::size_t largest_file = 64U << 20U;  // bytes
 
@@ -95,26 +74,23 @@ bool was_just_written(const system_files::State& state) {
 
 }  // namespace
 
+fs::path to_path(std::string_view utf8) {
+    return std::u8string(utf8.begin(), utf8.end());
+}
+
+std::string path_text(const fs::path& path) {
+    const std::u8string utf8 = path.u8string();
+    return {utf8.begin(), utf8.end()};
+}
+
 fs::path find_path(std::string_view suite_path) {
     std::string text(suite_path);
     std::ranges::replace(text, '\\', '/');
-    fs::path written(text);
-    if (may_be_there(written)) return written;
-
-    fs::path found = written.root_path();
-    for (const fs::path& name : written.relative_path()) {
-        const fs::path next = found / name;
-        if (may_be_there(next)) {
-            found = next;
-        } else {
-            found /= find_name(found.empty() ? fs::path(".") : found, name);
-        }
-    }
-    return found;
+    return system_files::existing(to_path(text));
 }
 
 std::string suite_notation(const fs::path& path) {
-    std::string text = path.string();
+    std::string text = path_text(path);
     std::ranges::replace(text, '/', '\\');
     while (text.size() > 1 && text.back() == '\\')
         text.pop_back();

@@ -10,6 +10,13 @@
 // suite's own system does: the suite's root comes back in lower case from the command line.
 namespace coltre {
 
+/// The path that a UTF-8 text names as the system writes paths. (A path made of a plain text holds the text's
+/// bytes, which are no names where the system has names of UTF-16.)
+std::filesystem::path to_path(std::string_view utf8);
+
+/// The path as the system writes it, as UTF-8.
+std::string path_text(const std::filesystem::path& path);
+
 /// The path that a text in the suite's notation names. Each name that does not exist as written is looked for
 /// in its directory without regard to letter case; one that does not exist at all is kept as written.
 std::filesystem::path find_path(std::string_view suite_path);

@@ -14,6 +14,9 @@ void remove_temporary_files_when_interrupted();
 void remove_when_interrupted(const std::filesystem::path& file);
 void forget_to_remove(const std::filesystem::path& file);
 
+/// Removes the registered files. Does only what a signal handler may do.
+void remove_registered_files() noexcept;
+
 /// Holds an interruption back for its lifetime, so that it does not come between a file's change and the
 /// registration of that.
 class InterruptionsHeldBack {

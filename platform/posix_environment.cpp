@@ -15,6 +15,14 @@
 
 namespace coltre {
 
+std::vector<std::string> arguments_of(int argc, const char* const* argv) {
+    return {argv + (argc > 0 ? 1 : 0), argv + argc};
+}
+
+// The streams are as they should be.
+PlainStreams::PlainStreams() = default;
+PlainStreams::~PlainStreams() = default;
+
 std::string own_directory(const char* invoked_as) {
     std::error_code error;
     std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);

@@ -1,10 +1,8 @@
 #include <signal.h>
 
 #include <array>
-#include <atomic>
 
 #include "platform/interruption.h"
-#include "platform/system_files.h"
 
 namespace coltre {
 
@@ -12,22 +10,8 @@ namespace {
 
 constexpr std::array interruptions{SIGINT, SIGTERM, SIGHUP};
 
-// More files than are written at once.
-std::array<std::atomic<const std::filesystem::path*>, 16> registered;
-
-void exchange(const std::filesystem::path* from, const std::filesystem::path* to) {
-    for (auto& file : registered) {
-        const std::filesystem::path* expected = from;
-        if (file.compare_exchange_strong(expected, to)) return;
-    }
-}
-
-/// Does only what a signal handler may do.
 void end_interrupted(int signal) {
-    for (const auto& file : registered) {
-        if (const std::filesystem::path* const path = file.load())
-            static_cast<void>(system_files::remove(*path));
-    }
+    remove_registered_files();
     static_cast<void>(::raise(signal));  // it comes when this returns, and now ends the program
 }
 
@@ -52,14 +36,6 @@ void remove_temporary_files_when_interrupted() {
         action.sa_mask = all_interruptions();
         ::sigaction(signal, &action, nullptr);
     }
-}
-
-void remove_when_interrupted(const std::filesystem::path& file) {
-    exchange(nullptr, &file);
-}
-
-void forget_to_remove(const std::filesystem::path& file) {
-    exchange(&file, nullptr);
 }
 
 InterruptionsHeldBack::InterruptionsHeldBack() {

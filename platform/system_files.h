@@ -1,22 +1,22 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
-#include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 // Files as the system has them: all of the rooms that differs from one system to another, one source a
 // system. The functions return an error number of <cerrno>, 0 where all went well. A call that a signal
 // interrupts is made again.
 namespace coltre::system_files {
 
-/// An open file or directory, closed at the end of its life.
+/// An open file or a lock, closed at the end of its life.
 class Descriptor {
   public:
     Descriptor() = default;
-    explicit Descriptor(int number) : m_number(number) {}
+    /// @param number  by which the system knows it; -1 for none
+    explicit Descriptor(std::intptr_t number) : m_number(number) {}
     ~Descriptor() { static_cast<void>(close()); }
     Descriptor(Descriptor&& other) noexcept : m_number(std::exchange(other.m_number, -1)) {}
     Descriptor& operator=(Descriptor&& other) noexcept {
@@ -26,13 +26,13 @@ class Descriptor {
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
 
-    [[nodiscard]] bool is_open() const { return m_number >= 0; }
-    [[nodiscard]] int number() const { return m_number; }
+    [[nodiscard]] bool is_open() const { return m_number != -1; }
+    [[nodiscard]] std::intptr_t number() const { return m_number; }
     /// Some file systems report only now that a write failed.
     int close();
 
   private:
-    int m_number = -1;
+    std::intptr_t m_number = -1;
 };
 
 /// What stands at a path, without following a link.
@@ -47,6 +47,10 @@ struct Entry {
         return kind != Kind::nothing && device == other.device && number == other.number;
     }
 };
+
+/// The path with each name as its directory has it. A name that does not exist as written is the one that
+/// differs from it in letter case alone; one that does not exist at all is kept as written.
+std::filesystem::path existing(const std::filesystem::path& written);
 
 /// Looks at a path. An error that may pass is tried again. That nothing is there is no error, and no error
 /// ever means that nothing is there.
@@ -108,13 +112,8 @@ int add_name(const std::filesystem::path& file, const std::filesystem::path& nam
 /// Takes the file's only or one of its names away. Allocates nothing.
 int remove(const std::filesystem::path& file) noexcept;
 
-/// Appends the names that a directory holds. (The library's own way ends the program where memory lacks.)
-int list(const std::filesystem::path& directory, std::vector<std::string>& names);
-
-int open_directory(const std::filesystem::path& directory, Descriptor& opened);
-
-/// Tries to lock a directory until it is closed, against other programs that do the same.
+/// Tries to lock a directory, until the lock is closed, against other programs that do the same.
 /// @return EAGAIN while another one has it
-int try_lock(const Descriptor& directory);
+int try_lock(const std::filesystem::path& directory, Descriptor& lock);
 
 }  // namespace coltre::system_files

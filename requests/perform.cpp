@@ -58,7 +58,7 @@ Outcome calculate_fields(const Request& request, const Fields& fields, Program& 
 /// the calculation has failed before.
 void write_illustrated_report(const Request& request, Subject subject, Answer& result) {
     const std::string& name = *request.value(keys::illustrata);
-    const std::string path = find_path(suite_notation(name)).string();
+    const std::filesystem::path path = find_path(suite_notation(to_path(name)));
     subject.program = "Coltre " + std::string(version_and_build());
     subject.request = request_line(subject);
     const Layout layout =
@@ -74,9 +74,9 @@ void write_illustrated_report(const Request& request, Subject subject, Answer& r
         failure = file.commit();
     }
     if (!failure) {
-        result.illustrated_report = path;
+        result.illustrated_report = path_text(path);
     } else if (result.end == End::well) {
-        result.fail(End::failed, "Impossibile scrivere il file " + path + ": " + *failure + ".");
+        result.fail(End::failed, "Impossibile scrivere il file " + path_text(path) + ": " + *failure + ".");
     }
 }
 
@@ -107,10 +107,10 @@ Answer perform(const Request& request, const Environment& environment, SiteMemor
     Program program;
     program.directories.ProgramDirectory = environment.own_directory;
     if (const std::string* const directory = request.value(keys::altitudini)) {
-        program.directories.ProgramDirectory = suite_notation(*directory);
+        program.directories.ProgramDirectory = suite_notation(to_path(*directory));
     }
     if (const std::string* const directory = request.value(keys::relazione)) {
-        program.directories.WorkDirectory = suite_notation(*directory);
+        program.directories.WorkDirectory = suite_notation(to_path(*directory));
     }
     program.directories.JobName = request.value_or(keys::lavoro, "");
 
@@ -144,7 +144,7 @@ Answer perform(const Request& request, const Environment& environment, SiteMemor
     } else if (!outcome.file_failure.empty()) {
         result.fail(End::failed_with_message, outcome.file_failure);
     }
-    if (!outcome.report.empty()) result.report = find_path(outcome.report).string();
+    if (!outcome.report.empty()) result.report = path_text(find_path(outcome.report));
     if (request.value(keys::illustrata) != nullptr) {
         subject.fields = fields;
         subject.outcome = std::move(outcome);

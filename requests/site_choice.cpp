@@ -125,7 +125,7 @@ std::optional<Site> choose_site(const Request& request, const std::string& direc
     if (table.missing) return end_with(altitude_write_error(), result);
     if (table.failure)
         return end_with_error("Impossibile leggere il file " +
-                                  find_path(altitude_file_name(directory)).string() + ": " + *table.failure,
+                                  path_text(find_path(altitude_file_name(directory))) + ": " + *table.failure,
                               result);
     std::string_view file = table.bytes;
     auto municipalities = municipalities_in(file, *province);

@@ -97,7 +97,7 @@ TableReplacement replace_altitude_file(std::string_view ProgramDirectory, std::s
     Kept kept = keep(replacement.target(), old);
     if (!kept.failure && !kept.name.empty()) kept.failure = bring_backup_to_disk(kept.name);
     const Failure failure = kept.failure ? not_kept(*kept.failure) : replacement.commit();
-    if (!failure) return {{}, true, kept.name.filename().string()};
+    if (!failure) return {{}, true, path_text(kept.name.filename())};
     if (kept.old_name_gone) static_cast<void>(system_files::rename_to_free(kept.name, replacement.target()));
     return {.failure = failure};
 }

@@ -16,3 +16,9 @@ bench_packages=(libbenchmark-dev nlohmann-json3-dev python3 libx11-6 xvfb speedc
 
 # For tools/package, besides those of the program.
 debian_packages=(lintian dpkg-dev)
+
+# To build the core and the command for Windows and to test them under Wine, besides those of the program.
+cross_packages=(g++-mingw-w64-x86-64-posix wine64 wine googletest nlohmann-json3-dev librsvg2-bin imagemagick)
+
+# To build Qt and the windows for Windows and to make the packages, besides these.
+windows_packages=("${cross_packages[@]}" dpkg-dev nsis zip unzip xvfb)

@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <iostream>
 #include <string>
+#include <utility>
 
 #include "platform/environment.h"
 #include "platform/interruption.h"
@@ -24,8 +25,9 @@ namespace {
 /// The suite passes one text; the shell may have cut it at its blanks.
 std::string joined_arguments(int argc, char** argv) {
     std::string text;
-    for (int i = 1; i < argc; ++i)
-        text.append(i > 1 ? " " : "").append(argv[i]);
+    const char* blank = "";
+    for (const std::string& argument : arguments_of(argc, argv))
+        text.append(std::exchange(blank, " ")).append(argument);
     return text;
 }
 

@@ -26,7 +26,7 @@ namespace coltre {
 namespace {
 
 QString path_of(const std::string& suite_path) {
-    return QString::fromStdString(find_path(suite_path).string());
+    return QString::fromStdString(path_text(find_path(suite_path)));
 }
 
 /// The heading of the manual that a calculation is under, as its page links to it.

@@ -1,7 +1,6 @@
 #include "ui/sketch_export.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
@@ -9,6 +8,7 @@
 
 #include "drawings/svg.h"
 #include "platform/file_replacement.h"
+#include "platform/files.h"
 #include "ui/sketch_painter.h"
 
 namespace coltre {
@@ -89,7 +89,7 @@ QByteArray sketch_picture(const Drawing& drawing, const LabelTexts& labels, cons
 
 QString replace_file(const QString& path, const QByteArray& content) {
     if (content.isEmpty()) return QStringLiteral("l'immagine non è stata creata");
-    FileReplacement file(QFile::encodeName(path).toStdString(), Outlives::power_failure);
+    FileReplacement file(to_path(path.toStdString()), Outlives::power_failure);
     file.write({content.constData(), static_cast<std::size_t>(content.size())});
     return QString::fromStdString(file.commit().value_or(""));
 }

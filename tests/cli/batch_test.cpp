@@ -122,7 +122,7 @@ class BatchByName : public testing::Test {
   protected:
     [[nodiscard]] std::string place(const std::string& province, const std::string& municipality) const {
         return request(R"("provincia":")" + province + R"(","comune":")" + municipality +
-                       R"(","altitudini":")" + directory.path().string() + R"(")");
+                       R"(","altitudini":")" + directory.name() + R"(")");
     }
     TemporaryDirectory directory;
 };

@@ -65,12 +65,12 @@ void expect_report(const fs::path& directory, const fs::path& expected, const Js
         EXPECT_FALSE(result.contains("relazione"));
         return;
     }
-    ASSERT_THAT(files, testing::ElementsAre(fs::path(result.value("relazione", ""))));
+    ASSERT_THAT(files, testing::ElementsAre(to_path(result.value("relazione", ""))));
     const std::string_view family = result["calcolo"].get_ref<const std::string&>();
     const bool special = family == "discontinuita" || family == "parete" || family == "ostacolo";
     EXPECT_EQ(files.front().filename(), special ? "coltrecasipart.txt" : "coltre.txt");
 
-    EXPECT_EQ(read_file(files.front().string()), read_file(expected.string()));
+    EXPECT_EQ(read_file(path_text(files.front())), read_file(path_text(expected)));
 }
 
 TEST(Golden, EveryCaseGivesItsResultAndItsReport) {
@@ -79,7 +79,7 @@ TEST(Golden, EveryCaseGivesItsResultAndItsReport) {
     for (std::string& request : requests) {
         const fs::path own = directory.path() / Json::parse(request)["id"].get<std::string>();
         fs::create_directory(own);
-        request = with_directory(request, own.string());
+        request = with_directory(request, path_text(own.generic_u8string()));
     }
     const auto results = run_command({"lotto"}, requests).results();
     const auto expected = lines_of(golden / "expected.jsonl");
@@ -105,7 +105,7 @@ TEST(Golden, OrderOfTheRequestsChangesNoResult) {
     const TemporaryDirectory directory;
     std::vector<std::string> requests = lines_of(golden / "requests.jsonl");
     for (std::string& request : requests)
-        request = with_directory(request, directory.path().string());
+        request = with_directory(request, directory.name());
     auto results = run_command({"lotto"}, requests).results();
     std::ranges::reverse(requests);
     std::ranges::reverse(results);

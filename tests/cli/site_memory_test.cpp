@@ -18,7 +18,7 @@ class SitesByName : public testing::Test, public TemporaryDirectory {
   protected:
     [[nodiscard]] std::string request(const std::string& province, const std::string& municipality) const {
         return R"({"calcolo":"una-falda","alfa":15,"provincia":")" + province + R"(","comune":")" +
-               municipality + R"(","altitudini":")" + path().string() + R"("})";
+               municipality + R"(","altitudini":")" + name() + R"("})";
     }
 };
 
@@ -67,7 +67,7 @@ TEST_F(SitesByName, MissingTableIsWrittenAndAnUnreadableOneIsLeft) {
     EXPECT_EQ(summary(run_command({"lotto"}, {request("Oristano", "Oristano")}).results().at(0)), read_error);
 
     EXPECT_EQ(run_command({"una-falda", "--alfa", "15", "--provincia", "Oristano", "--comune", "Oristano",
-                           "--altitudini", path()})
+                           "--altitudini", name()})
                   .err,
               "Coltre: Errore in lettura del file altitudine.txt .\n")
         << "reported once";

@@ -2,12 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-
 #include "platform/files.h"
-#include "tests/support/temporary_directory.h"
 
 namespace coltre {
 namespace {
@@ -15,21 +10,7 @@ namespace {
 TEST(OwnDirectory, HoldsThisProgram) {
     const std::string own = own_directory("somewhere/else");
     EXPECT_THAT(own, testing::Not(testing::HasSubstr("/")));
-    EXPECT_TRUE(read_file(own + "\\PLATFORM_TEST").has_value());
-}
-
-TEST(DocumentsDirectory, IsTheOneOfTheUsersSettings) {
-    const TemporaryDirectory home;
-    ASSERT_EQ(::setenv("HOME", home.path().c_str(), 1), 0);
-    ASSERT_EQ(::unsetenv("XDG_CONFIG_HOME"), 0);
-    EXPECT_EQ(documents_directory(), home.text() + "\\Documents");
-
-    std::filesystem::create_directory(home.path() / ".config");
-    std::ofstream settings(home.path() / ".config/user-dirs.dirs");
-    settings << "# XDG_DOCUMENTS_DIR=\"/no\"\nXDG_DESKTOP_DIR=\"$HOME/Scrivania\"\n"
-             << "XDG_DOCUMENTS_DIR=\"$HOME/I miei documenti\"\n";
-    settings.close();
-    EXPECT_EQ(documents_directory(), home.text() + "\\I miei documenti");
+    EXPECT_TRUE(read_file(own + "\\" THIS_PROGRAM).has_value());
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "site/municipalities.h"
 
 #include <chrono>
-#include <fstream>
 #include <thread>
 
 #include "site/ScriviAltitudini_cond.h"
@@ -103,23 +102,6 @@ TEST_F(AltitudeFile, ThatIsBeingSavedIsWaitedFor) {
     EXPECT_EQ(content("altitudini.txt"), saved);
     EXPECT_THAT(files(), ElementsAre("altitudini.txt"));
     EXPECT_EQ(notices.note, "");
-}
-
-// As if it was not waited for long enough.
-TEST_F(AltitudeFile, ThatIsWrittenAnewIsKeptWithWhatItsEditorStillWrites) {
-    for (const std::string_view backup : {"", "first", "half of"}) {
-        std::ofstream editor(path() / "altitudini.txt", std::ios::binary);
-        editor << "half of" << std::flush;
-        if (!backup.empty()) put("altitudini.bak", backup);
-        EXPECT_TRUE(WriteAltitudeFile(text(), notices));
-        EXPECT_EQ(std::exchange(notices.note, ""),
-                  "Il file altitudini.txt è stato riscritto dalla tabella del programma; il precedente è "
-                  "conservato come altitudini.bak.");
-        editor << " an own table" << std::flush;
-        EXPECT_EQ(content("altitudini.bak"), "half of an own table");
-        EXPECT_EQ(content("altitudini.txt"), built_in_altitude_file());
-    }
-    EXPECT_EQ(content("altitudini.bak1"), "first");
 }
 
 TEST_F(AltitudeFile, WrittenAnewLosesNoBackup) {

@@ -54,8 +54,8 @@ TEST_F(CheckDirectories, TakesTheRootFromACommandLineOrTheProgramsOwnDirectory) 
     EXPECT_EQ(fault("", suite.command_line()), no_fault);
     EXPECT_EQ(fault("|diroot=" + suite.root() + "\\|", "|diroot=c:\\elsewhere|"), no_fault);
     EXPECT_EQ(directories.SuiteRoot, root);
-    EXPECT_EQ(fault("|diroot=" + suite.disk_root().string() + "/|"), no_fault);
-    EXPECT_EQ(directories.SettingsDirectory, lower_case(suite.disk_root().string()) + "\\impostazioni");
+    EXPECT_EQ(fault("|diroot=" + path_text(suite.disk_root()) + "/|"), no_fault);
+    EXPECT_EQ(directories.SettingsDirectory, lower_case(path_text(suite.disk_root())) + "\\impostazioni");
     EXPECT_EQ(fault("|diroot=|autonomo=1|", "", "  " + suite.root() + "\\PROGRA "), no_fault);
     EXPECT_EQ(directories.SuiteRoot, suite.root());
     for (const std::string own : {"c:\\suite\\progra\\", "c:\\laprogra", ""})

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/code_page.h"
 #include "tests/support/temporary_directory.h"
 
 namespace coltre {
@@ -16,7 +17,7 @@ class SuiteTree {
         for (const char* name : {"IMPOSTAZIONI", "Progra", "driver", "Custom", "help", "MANUALI",
                                  "VideoCorso", "temp", "Telai", "dati/Lavori/job001"})
             std::filesystem::create_directories(disk_root() / name);
-        write_setting("DirLav", jobs() + "\r\n");
+        write_setting("DirLav", to_code_page(jobs()) + "\r\n");
         write_setting("LAVORO", "job001\r\nsecond line\r\n");
     }
 

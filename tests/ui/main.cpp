@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
+#include <QOperatingSystemVersion>
 #include <QTimer>
 
 #include "tests/ui/real_boxes.h"
@@ -35,8 +36,10 @@ class BoxGuard : public QObject {
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");  // no display needed, none touched
-    qputenv("LC_ALL", "it_IT.UTF-8");         // its decimal comma must play no part
+    // No display needed, none touched; Windows has but the real one.
+    if (QOperatingSystemVersion::currentType() != QOperatingSystemVersion::Windows)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("LC_ALL", "it_IT.UTF-8");  // its decimal comma must play no part
     QApplication application(argc, argv);
     BoxGuard guard;
     application.installEventFilter(&guard);

@@ -138,8 +138,8 @@ TEST_F(MenusTest, AltitudesAreCheckedAndRepairedAfterAQuestionAndARewritingIsNot
     list("Provinciainput").setCurrentText("Torino");
     EXPECT_EQ(
         text("altitude_note"),
-        "Il file altitudini.txt è stato riscritto dalla tabella del programma; quello di prima resta come "
-        "altitudini.bak.");
+        "Il file altitudini.txt è stato riscritto dalla tabella del programma; il precedente è conservato "
+        "come altitudini.bak.");
     EXPECT_TRUE(get("altitude_note").isVisible());
     dialogs.expect_question(
         Icon::warning,
@@ -156,7 +156,7 @@ TEST_F(MenusTest, AltitudesAreCheckedAndRepairedAfterAQuestionAndARewritingIsNot
 
 TEST_F(MenusTest, LastReportOfEitherWindowIsOpened) {
     const auto report = [this](const char* name) {
-        return QUrl::fromLocalFile(QString::fromStdString((directory.path() / name).string()));
+        return QUrl::fromLocalFile(QString::fromStdString(directory.name() + "/" + name));
     };
     dialogs.expect(Icon::error,
                    "Nessuna relazione è stata scritta da quando il programma è aperto: selezionare «Crea "
@@ -175,18 +175,18 @@ TEST_F(MenusTest, LastReportOfEitherWindowIsOpened) {
     choose(window, "Apri l'ultima relazione");
     EXPECT_EQ(opened, report("coltrecasipart.txt"));
 
-    const std::string path = (directory.path() / "coltrecasipart.txt").string();
+    const std::string path = path_text(directory.path() / "coltrecasipart.txt");
     desktop_has_program = false;
     dialogs.expect(Icon::error,
                    "Impossibile aprire il file " + path + ": il sistema non ha un programma per aprirlo.");
     choose(special_cases, "Apri l'ultima relazione");
-    std::filesystem::remove(path);
+    std::filesystem::remove(to_path(path));
     dialogs.expect(Icon::error, "La relazione " + path + " non c'è più.");
     choose(window, "Apri l'ultima relazione");
 }
 
 TEST_F(MenusTest, ManualOpensAtTheChapterOfTheOpenTab) {
-    const std::string place = directory.path().string();
+    const std::string place = path_text(directory.path());
     dialogs.expect(Icon::error, "Il manuale non è installato: il file manuale.html non è né in " + place +
                                     " né in " + place + "/../share/doc/coltre.");
     QTest::keyClick(&window, Qt::Key_F1);
