@@ -68,6 +68,10 @@ bool may_write_in(std::string_view directory) {
     return opened != INVALID_HANDLE_VALUE && ::CloseHandle(opened) != 0;
 }
 
+bool error_stream_is_terminal() {
+    return ::_isatty(::_fileno(stderr)) != 0;
+}
+
 // There is no such limit.
 void take_file_size_limit_as_error() {}
 
