@@ -21,4 +21,4 @@ debian_packages=(lintian dpkg-dev)
 cross_packages=(g++-mingw-w64-x86-64-posix wine64 wine googletest nlohmann-json3-dev librsvg2-bin imagemagick)
 
 # To build Qt and the windows for Windows and to make the packages, besides these.
-windows_packages=("${cross_packages[@]}" dpkg-dev nsis zip unzip xvfb)
+windows_packages=("${cross_packages[@]}" dpkg-dev nsis zip unzip xvfb fonts-dejavu-core)
