@@ -104,7 +104,7 @@ TEST(DocumentCopy, GivesSpreadsheetsOneNumberACell) {
           "gennaio 1996, zona I Alpina",
           "cT\t\t1,0000\t\tperiodo di ritorno non confermato", "µ1(α1)\t\t0,8000\t\t0 ≤ α1 ≤ 30"})
         EXPECT_TRUE(rows.contains(row)) << row;
-    EXPECT_TRUE(table.html.contains("<tr><td><i>c</i><sub>T</sub></td><td></td><td>1,0000</td>"));
+    EXPECT_TRUE(table.html.contains("<tr><td><i>c</i><sub>T</sub></td><td></td><td><b>1,0000</b></td>"));
     EXPECT_TRUE(table.html.contains("<i>a</i><sub>s</sub> &gt; 200"));
 }
 
