@@ -32,7 +32,7 @@ class JobTest : public MainWindowTest {
 TEST_F(JobTest, OpeningAJobFillsTheWindowsSoThatSavingWritesItAgain) {
     const std::string roof =
         R"({"calcolo": "due-falde", "provincia": "Cuneo", "comune": "Alba", "altitudine": "600", )"
-        R"("periodo-ritorno": 100, "ce": "1.1", "ct": "1.2", "unita": "Kgf , m", "alfa1": "20", "alfa2": "4x"})"
+        R"("periodo-ritorno": "100", "ce": "1.1", "ct": "1.2", "unita": "Kgf , m", "alfa1": "20", "alfa2": "4x"})"
         "\n";
     const std::string without_site =
         R"({"calcolo": "cilindrica", "zona": 2, "altitudine": "60", "ce": "1.0", "ct": "1.0", )"
