@@ -39,7 +39,8 @@ StepsWindow::StepsWindow(QWidget* parent)
     : QDialog(parent, Qt::Window), m_ui(std::make_unique<Ui::StepsWindow>()) {
     m_ui->setupUi(this);
     m_ui->passaggi->setPlainText(QString::fromUtf8(no_calculation_yet.data()));
-    m_ui->passaggi->viewport()->installEventFilter(this);
+    for (const QTextBrowser* page : {m_ui->passaggi, m_ui->figura})
+        page->viewport()->installEventFilter(this);
     answer_mnemonics_at_once(*this);
     fit_to_screen(*this);
     connect(m_ui->copia_testo, &QPushButton::clicked, this, &StepsWindow::copy_as_text);
@@ -63,7 +64,7 @@ void StepsWindow::redraw() {
     const bool beside = width() >= least_width_for_figure_beside && !parts.figures.blocks.empty();
     m_ui->figura->setVisible(beside);
     layout()->activate();  // the text is as wide as the figure leaves it
-    m_drawn_width = line_width(*m_ui->passaggi);
+    m_drawn_widths = line_widths();
     QScrollBar* const bar = m_ui->passaggi->verticalScrollBar();
     const int height = bar->value();
     const auto draw = [&](const Document& document, QTextBrowser& page) {
@@ -76,8 +77,12 @@ void StepsWindow::redraw() {
     bar->setValue(height);
 }
 
+std::pair<double, double> StepsWindow::line_widths() const {
+    return {line_width(*m_ui->passaggi), line_width(*m_ui->figura)};
+}
+
 bool StepsWindow::eventFilter(QObject* object, QEvent* event) {
-    if (event->type() == QEvent::Resize && m_drawn_width != line_width(*m_ui->passaggi)) redraw();
+    if (event->type() == QEvent::Resize && m_drawn_widths != line_widths()) redraw();
     return QDialog::eventFilter(object, event);
 }
 

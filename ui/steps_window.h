@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "document/document.h"
 
@@ -35,17 +36,18 @@ class StepsWindow : public QDialog {
   protected:
     /// Follows the colours and the font of the screen.
     void changeEvent(QEvent* event) override;
-    /// Follows the width of the page: remarks stand at its right.
+    /// Follows the widths of the pages: remarks stand at the right, the figure is as wide as it can.
     bool eventFilter(QObject* object, QEvent* event) override;
 
   private:
     void redraw();
+    [[nodiscard]] std::pair<double, double> line_widths() const;
     void copy_as_text() const;
     void copy_as_table() const;
 
     std::unique_ptr<Ui::StepsWindow> m_ui;
-    std::optional<Document> m_document;  // nothing before the first calculation
-    double m_drawn_width = 0;
+    std::optional<Document> m_document;        // nothing before the first calculation
+    std::pair<double, double> m_drawn_widths;  // of the lines of steps and figure
 };
 
 }  // namespace coltre

@@ -172,6 +172,9 @@ TEST_F(StepsWindowTest, RemarksGoBelowWhereTheWindowIsNarrow) {
     window.resize(1200, 500);
     EXPECT_TRUE(control(window, "figura").isVisible()) << "the figure stands beside its steps";
     EXPECT_FALSE(shown().contains(QChar::ObjectReplacementCharacter));
+    const auto& page = control<QTextBrowser>(window, "figura");
+    const QVariant picture = page.document()->resource(QTextDocument::ImageResource, QUrl("figura-1.png"));
+    EXPECT_GT(picture.value<QImage>().width(), page.viewport()->width() * 9 / 10);
 }
 
 TEST_F(StepsWindowTest, IsReadableOnDark) {
