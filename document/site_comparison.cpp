@@ -28,8 +28,8 @@ Pieces number_cell(const std::optional<double>& value, int decimals) {
 
 }  // namespace
 
-std::optional<double> ground_load_at(const Place& place, LoadInputs calculation) {
-    return ground_load(inputs_at(place, std::move(calculation)));
+std::optional<double> ground_load_at(const Place& place, const LoadInputs& calculation) {
+    return ground_load(inputs_at(place, calculation));
 }
 
 Table site_comparison(const std::vector<const Place*>& places, const LoadInputs& calculation) {

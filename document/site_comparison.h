@@ -10,7 +10,7 @@ namespace coltre {
 
 /// The ground load of a place, kN/m2, with the coefficients of a calculation; nothing where it cannot be
 /// computed.
-std::optional<double> ground_load_at(const Place& place, LoadInputs calculation);
+std::optional<double> ground_load_at(const Place& place, const LoadInputs& calculation);
 
 /// A table of the same calculation at several places, the greatest load first; places where it stops come
 /// last.

@@ -171,6 +171,7 @@ std::vector<PlaceHit> Places::find(std::string_view typed) const {
 
 std::vector<PlaceHit> Places::find(const Query& query) const {
     const auto in_province = [&](const Place& place) {
+        if (query.province.empty()) return true;
         const std::string province = search_form(place.province);
         return (query.whole_province ? province == query.province : province.starts_with(query.province)) ||
                search_form(place.today.plate) == query.province;

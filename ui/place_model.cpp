@@ -99,9 +99,10 @@ QVariant PlaceModel::data(const QModelIndex& index, int role) const {
             if (column != altitude && column != qsk) return {};
             return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
         case Qt::FontRole: {
+            if (column != altitude || !shown.place->corrected()) return {};
             QFont corrected;
             corrected.setBold(true);
-            return column == altitude && shown.place->corrected() ? corrected : QVariant();
+            return corrected;
         }
         case Qt::AccessibleTextRole: {
             if (column != name) return text(shown, column);
