@@ -39,7 +39,7 @@ int main(int argc, char** argv) {
     // No display needed, none touched; Windows has but the real one.
     if (QOperatingSystemVersion::currentType() != QOperatingSystemVersion::Windows)
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("LC_ALL", "it_IT.UTF-8");         // its decimal comma must play no part
+    qputenv("LC_ALL", "it_IT.UTF-8");  // its decimal comma must play no part
     QApplication application(argc, argv);
     BoxGuard guard;
     application.installEventFilter(&guard);
