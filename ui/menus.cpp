@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileInfo>
 #include <QLayout>
 #include <QMenu>
@@ -106,7 +107,7 @@ void Menus::show_error(const QString& text) {
 void Menus::open(const QUrl& file) {
     if (!open_file(file))
         show_error(tr("Impossibile aprire il file %1: il sistema non ha un programma per aprirlo.")
-                       .arg(file.toLocalFile()));
+                       .arg(QDir::toNativeSeparators(file.toLocalFile())));
 }
 
 void Menus::write_illustrated_report(const CalculationTab& /*open_tab*/) {

@@ -50,11 +50,14 @@ class ReportDialogTest : public WindowTest {
     [[nodiscard]] QString path(const char* name) const {
         return QString::fromStdString(directory.name() + "/" + name);
     }
+    /// The same as messages show it.
+    [[nodiscard]] std::string shown(const char* name) const {
+        return QDir::toNativeSeparators(path(name)).toStdString();
+    }
     void choose_file(const char* name) { answer = path(name); }
     void expect_offer(const char* name, bool accepted) {
         dialogs.expect_question(Icon::information,
-                                "Relazione salvata nel file " + path(name).toStdString() + ".\rAprirla?",
-                                accepted);
+                                "Relazione salvata nel file " + shown(name) + ".\rAprirla?", accepted);
     }
     [[nodiscard]] std::string file(const char* name) const {
         return directory.content(name).value_or("no file");
@@ -116,7 +119,7 @@ TEST_F(ReportDialogTest, TheFormatGivesTheSuffixAndTheContent) {
 TEST_F(ReportDialogTest, AnExistingFileIsReplacedOnlyIfTheUserSaysSo) {
     directory.put("x.pdf", "old");
     choose_file("x");
-    const std::string question = "Il file " + path("x.pdf").toStdString() + " esiste già.\rSostituirlo?";
+    const std::string question = "Il file " + shown("x.pdf") + " esiste già.\rSostituirlo?";
     dialogs.expect_question(Icon::warning, question, false);
     click("salva");
     EXPECT_EQ(file("x.pdf"), "old");
@@ -125,7 +128,7 @@ TEST_F(ReportDialogTest, AnExistingFileIsReplacedOnlyIfTheUserSaysSo) {
     dialogs.expect_question(Icon::warning, question, true);
     expect_offer("x.pdf", true);
     has_viewer = false;
-    dialogs.expect(Icon::error, "Nessun programma per aprire il file " + path("x.pdf").toStdString() + ".");
+    dialogs.expect(Icon::error, "Nessun programma per aprire il file " + shown("x.pdf") + ".");
     click("salva");
     EXPECT_TRUE(file("x.pdf").starts_with("%PDF-"));
 }
@@ -133,7 +136,7 @@ TEST_F(ReportDialogTest, AnExistingFileIsReplacedOnlyIfTheUserSaysSo) {
 TEST_F(ReportDialogTest, AFileThatCannotBeWrittenIsToldAndNothingIsLost) {
     type("lavoro", "Scuola");
     answer = path("nowhere/x.pdf");
-    dialogs.expect(Icon::error, "Impossibile salvare la relazione nel file " + answer.toStdString() +
+    dialogs.expect(Icon::error, "Impossibile salvare la relazione nel file " + shown("nowhere/x.pdf") +
                                     ": la cartella non esiste.");
     click("salva");
     EXPECT_EQ(field("lavoro"), "Scuola");
