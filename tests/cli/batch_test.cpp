@@ -1,7 +1,5 @@
 #include <gmock/gmock.h>
 
-#include <streambuf>
-
 #include "tests/cli/run_command.h"
 #include "tests/support/temporary_directory.h"
 #include "text/json_text.h"
@@ -118,16 +116,12 @@ TEST(Batch, TextsAreEscapedAndBrokenUtf8IsReplaced) {
     }
 }
 
-class BatchByName : public testing::Test {
-  protected:
-    [[nodiscard]] std::string place(const std::string& province, const std::string& municipality) const {
+TEST(Batch, NamesAreMatchedAndAnsweredInTheTablesSpelling) {
+    const TemporaryDirectory directory;
+    const auto place = [&](const std::string& province, const std::string& municipality) {
         return request(R"("provincia":")" + province + R"(","comune":")" + municipality +
                        R"(","altitudini":")" + directory.name() + R"(")");
-    }
-    TemporaryDirectory directory;
-};
-
-TEST_F(BatchByName, NamesAreMatchedAndAnsweredInTheTablesSpelling) {
+    };
     const CommandRun run = run_command(
         {"lotto"}, {place("FORLI'", "forlì"), place("torino", "AGLIÈ"), place("Vicenza", "Vicenza"),
                     place("Torin", "Torino"), place("Torino", "Moncaliere"), place("Palermo", "palermo"),
@@ -148,32 +142,6 @@ TEST_F(BatchByName, NamesAreMatchedAndAnsweredInTheTablesSpelling) {
                     "Palermo; Palermo; 3", "MB; Monza; provincia sconosciuta: «MB»; forse Milano, Roma, Como",
                     "Bologna; valsamoggia; comune sconosciuto: «valsamoggia»; forse Bazzano, "
                     "CastelloDiSerravalle, Crespellano, Monteveglio, Savigno (poi Valsamoggia)"));
-}
-
-/// Hands lines on one by one, each made when it is asked for; an empty one ends them.
-struct StepwiseInput : std::streambuf {
-    explicit StepwiseInput(std::function<std::string()> make) : make_line(std::move(make)) {}
-    int_type underflow() override {
-        line = make_line();
-        setg(line.data(), line.data(), line.data() + line.size());
-        return line.empty() ? traits_type::eof() : traits_type::to_int_type(line.front());
-    }
-    std::function<std::string()> make_line;
-    std::string line;
-};
-
-TEST_F(BatchByName, FileThatChangesMeanwhileCountsFromTheNextRun) {
-    StepwiseInput lines([this, line = 0]() mutable {
-        if (++line == 3) directory.put("altitudini.txt", "Torino\r\nTorino   777\r\n\r\n");
-        if (line == 4) directory.put("altitudini.txt", "Torino\r\nTorino   778\r\n\r\n");
-        return line > 4 ? "" : place("Torino", "Torino") + "\n";
-    });
-    std::istream in(&lines);
-    std::vector<double> altitudes;
-    for (const Json& result : run_command({"lotto"}, in).results())
-        altitudes.push_back(result["altitudine"]);
-    EXPECT_THAT(altitudes, ElementsAre(239, 239, 239, 239));
-    EXPECT_EQ(run_command({"lotto"}, {place("Torino", "Torino")}).results().at(0)["altitudine"], 778);
 }
 
 }  // namespace
