@@ -78,9 +78,6 @@ TEST(CsvBatch, GivesTheResultsOfTheGoldenRequests) {
         for (const auto& [name, value] : results.items())
             EXPECT_EQ(read_leniently(answer[name]).value, value.get<double>()) << name;
         EXPECT_EQ(answer["errore"].empty(), expected[i]["errore"].is_null());
-        for (const auto& [name, text] : answer)
-            EXPECT_TRUE(results.contains(name) || keys.contains(name) || name == "avvisi" || name == "errore")
-                << name;
     }
 }
 
