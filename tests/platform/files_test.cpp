@@ -100,17 +100,6 @@ TEST_F(Replacement, KeepsTheOldFileUntilTheCommit) {
     }
 }
 
-TEST_F(Replacement, WritesTwoAtATime) {
-    FileReplacement first(find_path(suite_path("Coltre.txt")));
-    FileReplacement second(find_path(suite_path("Coltre.txt")));
-    first.write("first");
-    second.write("second");
-    EXPECT_EQ(first.commit(), std::nullopt);
-    EXPECT_EQ(directory.content("Coltre.txt"), "first");
-    EXPECT_EQ(second.commit(), std::nullopt);
-    expect_left("second");
-}
-
 TEST_F(Replacement, WaitsItsTurnInADirectory) {
     auto first = std::make_optional<DirectoryLock>(directory.path());
     std::atomic<bool> held = true;
