@@ -32,21 +32,5 @@ TEST(SlabSection, HasTheSameThicknessOnBothSidesAndNoSpike) {
     EXPECT_LT(slab_section({{-1, 1000}, {0, 0}, {1, 1000}}, 10)[4].y, 40);
 }
 
-TEST(AddLoad, SpacesItsArrowsEvenlyAndEndsThemOnTheBase) {
-    Drawing drawing;
-    add_load(drawing, {{0, 0}, {1000, 0}, {2000, 500}}, 500);
-    ASSERT_GT(drawing.arrows.size(), 3U);
-    const double gap = drawing.arrows[1].from.x - drawing.arrows[0].from.x;
-    for (std::size_t i = 0; i < drawing.arrows.size(); ++i) {
-        const Arrow& arrow = drawing.arrows[i];
-        EXPECT_NEAR(arrow.from.x, gap / 2 + static_cast<double>(i) * gap, 1e-6);
-        EXPECT_EQ(arrow.to.y, 500);
-        EXPECT_NEAR(arrow.from.y, std::max(0.0, (arrow.from.x - 1000) / 2), 1e-6) << "on the ordinates";
-    }
-    Drawing without_load;
-    add_load(without_load, {{0, 500}, {2000, 500}}, 500);
-    EXPECT_TRUE(without_load.shapes.empty());
-}
-
 }  // namespace
 }  // namespace coltre
