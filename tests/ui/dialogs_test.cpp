@@ -2,7 +2,6 @@
 #include "tests/ui/real_boxes.h"
 #include "tests/ui/window_test.h"
 #include "ui/CoeffEsposizione.h"
-#include "ui/Form2.h"
 #include "ui/PeriododiRitorno.h"
 #include "ui/casipart.h"
 #include "ui/qt_dialogs.h"
@@ -90,17 +89,6 @@ TEST_F(Dialogs, SpecialCasesOpenOnceAndBlockNothing) {
               1);
     ASSERT_NE(open_window<casipart>(), nullptr);
     EXPECT_FALSE(open_window<casipart>()->isModal());
-}
-
-TEST(Form2Dialog, StoresTheLeadingNumber) {
-    ProgramCells cells;
-    auto* dialog = new Form2(cells);
-    dialog->show();
-    control<QLineEdit>(*dialog, "Text1").setText("  2.5kN");
-    QTest::mouseClick(&control(*dialog, "OK"), Qt::LeftButton);
-    EXPECT_EQ(cells.working_value, 2.5);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(open_window<Form2>(), nullptr);
 }
 
 /// Real message boxes, answered as soon as they are on the screen.
