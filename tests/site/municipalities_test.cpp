@@ -1,5 +1,8 @@
 #include "site/municipalities.h"
 
+#include <chrono>
+#include <thread>
+
 #include "site/ScriviAltitudini_cond.h"
 #include "site/built_in_altitudes.h"
 #include "tests/site/altitude_directory.h"
@@ -85,6 +88,20 @@ TEST_F(AltitudeFile, DamagedFileRepairsItselfAndTheOldOneSurvives) {
         EXPECT_EQ(content("altitudini.txt"), built_in_altitude_file());
         EXPECT_EQ(content("altitudini.bak"), file);
     }
+}
+
+TEST_F(AltitudeFile, ThatIsBeingSavedIsWaitedFor) {
+    const std::string saved = "Torino\r\nTorino   240\r\n\r\nCuneo\r\nCuneo   999\r\n\r\n";
+    put("altitudini.txt", saved.substr(0, 20));
+    std::thread editor([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        put("altitudini.txt", saved);
+    });
+    EXPECT_EQ(read("Cuneo", "Cuneo"), "999");
+    editor.join();
+    EXPECT_EQ(content("altitudini.txt"), saved);
+    EXPECT_THAT(files(), ElementsAre("altitudini.txt"));
+    EXPECT_EQ(notices.note, "");
 }
 
 TEST_F(AltitudeFile, WrittenAnewLosesNoBackup) {
