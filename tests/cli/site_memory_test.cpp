@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include <array>
-#include <filesystem>
 
 #include "site/built_in_altitudes.h"
 #include "tests/cli/run_command.h"
@@ -11,8 +10,6 @@
 
 namespace coltre::cli {
 namespace {
-
-using testing::ElementsAre;
 
 class SitesByName : public testing::Test, public TemporaryDirectory {
   protected:
@@ -51,7 +48,7 @@ TEST_F(SitesByName, BuiltInTableAnswersForAProvinceThatTheFileDoesNotGiveAndSays
         answers.push_back(summary(answer));
     EXPECT_EQ(answers, expected);
     EXPECT_EQ(content("altitudini.txt"), own);
-    EXPECT_THAT(files(), ElementsAre("altitudini.txt"));
+    EXPECT_THAT(files(), testing::ElementsAre("altitudini.txt"));
 }
 
 TEST_F(SitesByName, MissingTableIsWritten) {
