@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <ranges>
 #include <tuple>
 
 // That the sketches show the roof as it is: slopes, proportions, ordinates.
