@@ -14,7 +14,6 @@ namespace coltre {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::ElementsAre;
 
 class Files : public testing::Test {
   protected:
@@ -66,7 +65,7 @@ class Replacement : public Files {
     /// Only the file is there, with these bytes.
     void expect_left(const std::string& bytes) const {
         EXPECT_EQ(directory.content("Coltre.txt"), bytes);
-        EXPECT_THAT(directory.files(), ElementsAre("Coltre.txt"));
+        EXPECT_THAT(directory.files(), testing::ElementsAre("Coltre.txt"));
     }
 };
 
