@@ -14,7 +14,6 @@ namespace coltre {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// "line province: reason" of each fault.
 std::vector<std::string> faults_of(std::string_view file) {
@@ -134,7 +133,7 @@ TEST(RepairOfFile, LeavesNothingToStumbleOnWhateverTheFile) {
         if (run % 3 == 1) std::erase(file, '\n');
         if (run % 3 == 2) file.resize(file.size() / 2);
         const std::string sound = mended(file);
-        EXPECT_THAT(faults_of(sound), IsEmpty());
+        EXPECT_THAT(faults_of(sound), testing::IsEmpty());
         EXPECT_TRUE(mended(sound) == sound);
         for (const std::string_view province : provinces())
             EXPECT_TRUE(municipalities_in(sound, province)) << province;
