@@ -6,9 +6,7 @@
 namespace coltre {
 namespace {
 
-using testing::AllOf;
 using testing::HasSubstr;
-using testing::Not;
 
 using Texts = std::map<std::string, std::string>;
 
@@ -175,8 +173,9 @@ TEST_F(CasipartTest, ReportHoldsTheSelectedCaseAndIsConfirmedAfterTheResultsAreS
     dialogs.expect(Icon::none, "Creazione della relazione coltrecasipart.txt effettuata");
     calculate(1);
     EXPECT_EQ(shown_at_the_message, " 2");
-    EXPECT_THAT(report(), AllOf(HasSubstr("m ; Kgf/mq ; Kgf/m\r\n"), HasSubstr("CONTRO PARETI VERTICALI\r\n"),
-                                Not(HasSubstr("DISCONTINUITA'"))));
+    EXPECT_THAT(report(),
+                testing::AllOf(HasSubstr("m ; Kgf/mq ; Kgf/m\r\n"), HasSubstr("CONTRO PARETI VERTICALI\r\n"),
+                               testing::Not(HasSubstr("DISCONTINUITA'"))));
 
     // A directory that cannot be written leaves no result either.
     program.directories.WorkDirectory += "\\missing";
