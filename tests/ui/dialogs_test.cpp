@@ -3,7 +3,6 @@
 #include "tests/ui/window_test.h"
 #include "ui/CoeffEsposizione.h"
 #include "ui/PeriododiRitorno.h"
-#include "ui/casipart.h"
 #include "ui/qt_dialogs.h"
 
 namespace coltre {
@@ -79,16 +78,6 @@ TEST_F(Dialogs, ExposureTableBlocksTheMainWindowUntilItIsClosed) {
     EXPECT_TRUE(was_open);
     EXPECT_EQ(open_window<CoeffEsposizione>(), nullptr);
     EXPECT_EQ(field("asinput"), "77");
-}
-
-TEST_F(Dialogs, SpecialCasesOpenOnceAndBlockNothing) {
-    click("Bottcpart");
-    click("Bottcpart");
-    const QWidgetList all = QApplication::topLevelWidgets();
-    EXPECT_EQ(std::ranges::count_if(all, [](QWidget* it) { return qobject_cast<casipart*>(it) != nullptr; }),
-              1);
-    ASSERT_NE(open_window<casipart>(), nullptr);
-    EXPECT_FALSE(open_window<casipart>()->isModal());
 }
 
 /// Real message boxes, answered as soon as they are on the screen.
