@@ -152,19 +152,6 @@ TEST_F(StepsWindowTest, FollowsEachCalculation) {
     EXPECT_TRUE(QApplication::clipboard()->mimeData()->html().contains("Calcolo interrotto</td>"));
 }
 
-// A narrow window has no room for remarks beside their formulas, and nothing is lost at its edge.
-TEST_F(StepsWindowTest, RemarksGoBelowWhereTheWindowIsNarrow) {
-    window.show_document(sample_steps());
-    window.resize(window.minimumSizeHint().width(), 500);
-    EXPECT_TRUE(shown().contains("\nzona = 0 e as > 200"));
-    EXPECT_EQ(control<QTextBrowser>(window, "passaggi").horizontalScrollBar()->maximum(), 0);
-    window.resize(1000, 500);
-    EXPECT_TRUE(shown().contains("\tzona = 0 e as > 200"));
-    EXPECT_FALSE(control(window, "figura").isVisible());
-    window.resize(1200, 500);
-    EXPECT_TRUE(control(window, "figura").isVisible()) << "the figure stands beside its steps";
-}
-
 TEST_F(StepsWindowTest, IsReachedByKeys) {
     window.show_document(sample_steps());
     QTest::keyClick(&window, Qt::Key_T, Qt::AltModifier);
