@@ -10,7 +10,6 @@ namespace coltre {
 namespace {
 
 using testing::HasSubstr;
-using testing::StartsWith;
 
 class MenusTest : public MainWindowTest {
   protected:
@@ -66,7 +65,7 @@ TEST_F(MenusTest, ResultsAreCopiedAsTheyAreShownWithTheUsersDecimalSign) {
     type("inputalfa", "2.5");
     choose(window, "Copia i risultati");
     EXPECT_THAT(QApplication::clipboard()->text().toStdString(),
-                StartsWith("risultati non aggiornati: premere Calcola\nCarico"));
+                testing::StartsWith("risultati non aggiornati: premere Calcola\nCarico"));
     choose(window, "Copia lo schizzo");
     EXPECT_FALSE(QApplication::clipboard()->image().isNull());
     EXPECT_THAT(QApplication::clipboard()->mimeData()->data("image/svg+xml").toStdString(),
