@@ -47,14 +47,6 @@ TEST_F(Files, AreReadWhole) {
     editor.join();
 }
 
-TEST_F(Files, GiveTheirFirstLine) {
-    for (const auto& [bytes, line] : {std::pair{"", ""}, std::pair{"a\rb", "a"}, std::pair{"\r\nsecond", ""},
-                                      std::pair{"  Forl\xEC\x80 \n", "  Forlì€ "}}) {
-        directory.put("dirlav", bytes);
-        EXPECT_EQ(read_first_line(suite_path("DIRLAV")), line);
-    }
-}
-
 TEST(FileLine, EndsWithCrLfAlone) {
     EXPECT_EQ(file_line("due\r\nrighe €"), "due??righe \x80\r\n");
 }
