@@ -8,7 +8,6 @@
 #include "site/built_in_altitudes.h"
 #include "site/municipalities.h"
 #include "site/regions.h"
-#include "tests/site/altitude_directory.h"
 
 namespace coltre {
 namespace {
@@ -138,20 +137,6 @@ TEST(RepairOfFile, LeavesNothingToStumbleOnWhateverTheFile) {
         for (const std::string_view province : provinces())
             EXPECT_TRUE(municipalities_in(sound, province)) << province;
     }
-}
-
-using RepairOnDisk = AltitudeDirectory;
-
-TEST_F(RepairOnDisk, MakesAMissingOneAndLeavesASoundOne) {
-    EXPECT_TRUE(check_altitude_file(text()).failure);
-    EXPECT_EQ(repair_altitude_file(text()).failure, std::nullopt);
-    EXPECT_EQ(content("altitudini.txt"), sound_file());
-    EXPECT_THAT(files(), ElementsAre("altitudini.txt"));
-    put("altitudini.txt", built_in_altitude_file());
-    const AltitudeFileCheck repair = repair_altitude_file(text());
-    EXPECT_EQ(repair.faults.size(), 2U);
-    EXPECT_EQ(repair.kept_name, "altitudini.bak");
-    EXPECT_EQ(content("altitudini.bak"), built_in_altitude_file());
 }
 
 }  // namespace
