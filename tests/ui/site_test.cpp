@@ -55,19 +55,6 @@ TEST_F(Site, ClosedListJumpsToWhatIsTyped) {
     EXPECT_EQ(municipalities.currentText(), "Sestriere");
 }
 
-TEST_F(Site, OpenListJumpsToWhatIsTypedAndChoosesOnReturnTheSameAgainToo) {
-    type("asinput", "300");
-    municipalities.showPopup();
-    QTest::keyClick(municipalities.view(), Qt::Key_Return);
-    EXPECT_EQ(field("asinput"), "239");
-    municipalities.showPopup();
-    QTest::keyClicks(municipalities.view(), "castiglioneto");
-    EXPECT_EQ(field("asinput"), "239") << "nothing is chosen yet";
-    QTest::keyClick(municipalities.view(), Qt::Key_Return);
-    EXPECT_EQ(municipalities.currentText(), "CastiglioneTorinese");
-    EXPECT_NE(field("asinput"), "239");
-}
-
 TEST_F(Site, WheelOverAListChangesNothing) {
     for (const char* name : {"regione", "Provinciainput", "comuneinput", "ComboEsp", "udmcombo"}) {
         QComboBox& under_pointer = list(name);
