@@ -80,8 +80,6 @@ TEST_F(Start, CommaBecomesAPointAndUnclearTextSaysHowItIsRead) {
     auto& Ct = get<NumberField>("TextCTermico");
     type("TextCTermico", "1,5");
     EXPECT_EQ(Ct.text(), "1.5");
-    Ct.undo();
-    EXPECT_FALSE(Ct.text().contains(','));
     const auto paste = [&Ct](const char* text) {
         QApplication::clipboard()->setText(text);
         Ct.selectAll();
