@@ -66,7 +66,8 @@ TEST(CsvBatch, BrokenLineIsAnErrorLine) {
                                      "riga 4: le virgolette aperte non sono chiuse",
                                      "«sovrascrivi» deve essere vero o falso: «forse»",
                                      "calcolo sconosciuto: «tetto»", "la zona deve essere 0, 1, 2 o 3: «è»",
-                                     "riga 8: non è in UTF-8 come le righe precedenti", ""));
+                                     "riga 8: non è in UTF-8 come le righe precedenti",
+                                     "«sovrascrivi» serve solo con «illustrata»"));
 }
 
 TEST(CsvBatch, WrongHeaderIsToldAndNothingIsDone) {

@@ -17,9 +17,8 @@ TEST_F(OpenAltitudeFile, ThatIsWrittenAnewIsKeptWithWhatItsEditorStillWrites) {
         if (!backup.empty()) put("altitudini.bak", backup);
         EXPECT_TRUE(WriteAltitudeFile(text(), notices));
         EXPECT_EQ(std::exchange(notices.note, ""),
-                  "Il file altitudini.txt è stato riscritto dalla tabella del programma; quello di prima "
-                  "resta come "
-                  "altitudini.bak.");
+                  "Il file altitudini.txt è stato riscritto dalla tabella del programma; il precedente è "
+                  "conservato come altitudini.bak.");
         editor << " an own table" << std::flush;
         EXPECT_EQ(content("altitudini.bak"), "half of an own table");
         EXPECT_EQ(content("altitudini.txt"), built_in_altitude_file());

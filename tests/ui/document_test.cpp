@@ -101,7 +101,7 @@ TEST(DocumentCopy, GivesSpreadsheetsOneNumberACell) {
           "crescente della Zona I Alpina; D.M. 16 gennaio 1996",
           "µ1(α1)\t\t0,8000\t\t0 ≤ α1 ≤ 30; ramo costante; Circ. 4 luglio 1996"})
         EXPECT_TRUE(rows.contains(row)) << row;
-    EXPECT_TRUE(table.html.contains("<tr><td><i>c</i><sub>T</sub></td><td></td><td>1,0000</td>"));
+    EXPECT_TRUE(table.html.contains("<tr><td><i>c</i><sub>T</sub></td><td></td><td><b>1,0000</b></td>"));
     EXPECT_TRUE(table.html.contains("<i>a</i><sub>s</sub> &gt; 200"));
 }
 

