@@ -18,9 +18,9 @@ Number set_coefficient(Run<Number>& run, double ProgramCells::*cell, Symbol symb
     const bool kept = alfa.value() < 0;
     if (kept) run.source("regola del programma: un'inclinazione negativa lascia il coefficiente com'era");
     const Number before = kept ? run.stored(cell, previous) : Number(0);
-    const Number value = run.store(cell, symbol, mu(alfa, before, [&run](const auto& condition, auto words) {
-                                       return run.holds(condition, words);
-                                   }));
+    Number value = run.store(cell, symbol, mu(alfa, before, [&run](const auto& condition, auto words) {
+                                 return run.holds(condition, words);
+                             }));
     run.source(circular);
     return value;
 }

@@ -19,7 +19,7 @@ class PlainStreams {
     PlainStreams& operator=(const PlainStreams&) = delete;
 
   private:
-    unsigned m_console_code_page = 0;  // to be restored; 0: none
+    [[maybe_unused]] unsigned m_console_code_page = 0;  // to be restored; 0: none
 };
 
 /// The directory that holds the program, in the suite's notation, without a separator at its end.

@@ -40,8 +40,10 @@ WorkedCase case_of(std::string_view line) {
     rapidjson::Writer writer(request);
     read["richiesta"].Accept(writer);
     worked.request = std::string(request.GetString(), request.GetSize());
-    for (const auto& [name, value] : read["attesi"].GetObject())
-        worked.expected.push_back({text_of(name), text_of(value)});
+    const Value& expected = read["attesi"];
+    // "!=" of these iterators is ambiguous in C++20.
+    for (auto member = expected.MemberBegin(); member < expected.MemberEnd(); ++member)
+        worked.expected.push_back({text_of(member->name), text_of(member->value)});
     worked.stops = read.HasMember("interrotto");
     return worked;
 }

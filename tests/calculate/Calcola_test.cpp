@@ -57,19 +57,14 @@ TEST_F(MainCalculation, StopsSayWhy) {
     for (const Case& c : {
              Case{{"500", "1e200", "1e200", Kind::one_pitch, {"15"}},
                   "errore numerico.\rIl carico neve al suolo qsk è troppo grande."},
-             Case{{"500", "1", "1e400", Kind::wall, {"2"}},
-                  "errore numerico.\rIl numero scritto per «coefficiente termico» è troppo grande."},
              Case{{"500", "1e400", "1", Kind::wall, {"2"}},
                   "errore numerico.\rIl numero scritto per «coefficiente di esposizione» è troppo grande."},
              Case{{"500", "0", "1", Kind::wall, {"2"}},
-                  "divisione per zero.\rNon si può calcolare mu2.\rIl carico neve al suolo qsk è 0."},
-             Case{{"500", "0", "1", Kind::level_change, {"3", "5", "2", "10"}},
                   "divisione per zero.\rNon si può calcolare mu2.\rIl carico neve al suolo qsk è 0."},
              Case{{"500", "1", "1", Kind::level_change, {"3", "5", "0", "10"}},
                   "divisione per zero.\rNon si può calcolare mu2.\rIl dislivello h è 0."},
              Case{{"500", "1", "1", Kind::snow_guard, {"1e200", "1e200", "10"}},
                   "errore numerico.\rNon si può calcolare Fs."},
-             Case{{"500", "1", "1", Kind::two_pitches, {"20", "-5"}}, nullptr},
              Case{{"500", "1", "1", Kind::two_pitches, {"20", "70"}},
                   "divisione per zero.\rNon si può calcolare qe_2c.\rIl carico sulla falda è 0: il "
                   "coefficiente di forma mu1 è 0 per alfa2 = 70°."},
@@ -78,10 +73,6 @@ TEST_F(MainCalculation, StopsSayWhy) {
         const bool special = describe(c.fields.kind).window == Window::special_cases;
         const Outcome outcome = special ? Calcola2(c.fields, fresh) : Calcola(c.fields, fresh);
         EXPECT_EQ(outcome.altitude, 500);
-        if (c.text == nullptr) {
-            EXPECT_TRUE(outcome.complete) << "the coefficient of side 1 stays for a negative pitch";
-            continue;
-        }
         ASSERT_EQ(outcome.messages.size(), 1U) << c.text;
         EXPECT_EQ(outcome.messages.front().text, std::string("Calcolo interrotto: ") + c.text);
     }
@@ -94,22 +85,15 @@ TEST_F(MainCalculation, NumberTooLargeForTheReportStopsAtItsLine) {
     fields.TextCTermico = "1e307";
     fields.udmcombo = "Kgf , m";
     fields.Check1Box = true;
-    for (const bool roof : {true, false}) {
-        fields.kind = roof ? Kind::cylindrical : Kind::wall;
-        fields.entries = {"10", "2"};
-        const Outcome outcome = roof ? Calcola(fields, program) : Calcola2(fields, program);
-        if (!roof) {
-            EXPECT_TRUE(outcome.complete) << "its numbers stay in kN";
-            continue;
-        }
-        EXPECT_EQ(outcome.fault, Fault::numeric_error);
-        ASSERT_EQ(outcome.messages.size(), 1U);
-        EXPECT_EQ(outcome.messages.front().text,
-                  "Calcolo interrotto: errore numerico.\rUn valore della relazione è troppo grande.");
-        EXPECT_TRUE(outcome.calculation.results.empty());
-        const std::string report = read_file(outcome.report).value_or("");
-        EXPECT_THAT(report, testing::EndsWith("Periodo di Ritorno [anni]:   50\r\n\r\n"));
-    }
+    fields.kind = Kind::wall;
+    fields.entries = {"10", "2"};
+    EXPECT_TRUE(Calcola2(fields, program).complete) << "its numbers stay in kN";
+    fields.kind = Kind::cylindrical;
+    const Outcome outcome = click();
+    EXPECT_EQ(outcome.fault, Fault::numeric_error);
+    EXPECT_TRUE(outcome.calculation.results.empty());
+    EXPECT_THAT(read_file(outcome.report).value_or(""),
+                testing::EndsWith("Periodo di Ritorno [anni]:   50\r\n\r\n"));
 }
 
 }  // namespace

@@ -1,17 +1,13 @@
 #include <gmock/gmock.h>
 
-#include <fstream>
-
 #include "platform/code_page.h"
 #include "tests/cli/run_command.h"
 #include "text/csv.h"
-#include "text/number_reading.h"
 
 namespace coltre::cli {
 namespace {
 
 using testing::HasSubstr;
-using testing::StartsWith;
 
 CommandRun run_table(const std::string& table) {
     std::istringstream in(table);
@@ -38,58 +34,12 @@ std::vector<std::map<std::string, std::string>> rows(const std::string& table) {
     return rows;
 }
 
-TEST(CsvBatch, GivesTheResultsOfTheGoldenRequests) {
-    std::ifstream file(std::string(TEST_DATA) + "/golden/requests.jsonl");
-    std::vector<Json> requests;
-    Json keys;  // of all of them
-    for (std::string line; std::getline(file, line);) {
-        Json request = Json::parse(line);
-        request.erase("relazione");
-        request.erase("altitudini");
-        // What only JSON can have: a key of another name or type, an empty text.
-        const bool has_empty_text =
-            std::ranges::any_of(request, [](const Json& value) { return value == ""; });
-        if (has_empty_text || request["id"].get<std::string>().starts_with("errata")) continue;
-        requests.push_back(request);
-        keys.update(request);
-    }
-    ASSERT_GT(requests.size(), 90U);
-    std::string table;
-    std::vector<std::string> lines;
-    for (const auto& [key, value] : keys.items())
-        table += (table.empty() ? "" : ",") + key;
-    for (const Json& request : requests) {
-        for (char before = '\n'; const auto& [key, any] : keys.items()) {
-            const Json value = request.value(key, Json(""));
-            (table += before) += csv_field(value.is_string() ? value.get<std::string>() : value.dump(), ',');
-            before = ',';
-        }
-        lines.push_back(request.dump());
-    }
-    auto answers = rows(run_table(table).out);
-    const auto expected = run_command({"lotto"}, lines).results();
-    ASSERT_EQ(answers.size(), expected.size());
-    for (std::size_t i = 0; i < answers.size(); ++i) {
-        SCOPED_TRACE(lines[i]);
-        std::map<std::string, std::string>& answer = answers[i];
-        Json results = expected[i]["mu"];
-        results.update(expected[i]["risultati"]);
-        if (expected[i].contains("qsk")) results["qsk"] = expected[i]["qsk"];
-        for (const auto& [name, value] : results.items())
-            EXPECT_EQ(read_leniently(answer[name]).value, value.get<double>()) << name;
-        EXPECT_EQ(answer["errore"].empty(), expected[i]["errore"].is_null());
-        for (const auto& [name, text] : answer)
-            EXPECT_TRUE(results.contains(name) || keys.contains(name) || name == "avvisi" || name == "errore")
-                << name;
-    }
-}
-
 TEST(CsvBatch, AnswersInTheDialectOfTheRequests) {
     const std::string head = "calcolo;lavoro;zona;altitudine;alfa;ce;ct";
     const std::string wide = "una-falda;\"è; x\";0;239,5; 22,5;1,1;";
     const std::string row_error = "una-falda;;4;1;1;;";
     const std::string out = run_table(head + "\r\n" + row_error + "\r\n" + wide).out;
-    EXPECT_THAT(out, StartsWith(head + ";qsk;mu1;"));
+    EXPECT_THAT(out, testing::StartsWith(head + ";qsk;mu1;"));
     EXPECT_THAT(out, HasSubstr(";errore\r\n" + row_error + ";"));
     EXPECT_THAT(out, HasSubstr("la zona deve essere 0, 1, 2 o 3: «4»\r\n" + wide + ";1,6944"));
     EXPECT_EQ(run_table("\xEF\xBB\xBF" + head + "\r\n" + row_error + "\r\n" + wide).out,

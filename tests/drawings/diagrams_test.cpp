@@ -60,7 +60,6 @@ TEST(AltitudeDiagram, IsTheLoadThatTheCalculationComputes) {
     EXPECT_NEAR(marked.y, 2.48815, 1e-5);
     EXPECT_THAT(texts(drawing), testing::IsSupersetOf({"Zona II, as = 1000 m: qsk = 2,4882 kN/m²", "200 m",
                                                        "1500 m", "Zona I Alpina", "Zona III"}));
-    EXPECT_EQ(std::ranges::count(drawing.shapes, Role::other_curve, &Shape::role), 6) << "two pieces each";
 
     EXPECT_TRUE(first(ground_load_over_altitude(2, 0.5, 1, 1, 1601), Role::mark).points.empty());
     EXPECT_TRUE(ground_load_over_altitude(2, 0.5, 1, 0, 500).neutral) << "no load at all";
@@ -83,7 +82,6 @@ TEST(ShapeCoefficientDiagram, MarksThePitchesOfTheRoof) {
     }
     EXPECT_THAT(texts(drawing), testing::IsSupersetOf({"α1 = 15°: µ1 = 0,8", "α2 = 40,5°: µ1 = 0,52",
                                                        "media = 27,75°: µ2 = 1,54"}));
-    EXPECT_NEAR(scale.value(first(drawing, Role::curve).points[2]).x, 60, 1e-9);
     for (const Entries& without : {Entries{.kind = Kind::one_pitch, .alfa = -1}, Entries{.kind = Kind::wall}})
         EXPECT_TRUE(first(shape_coefficients_over_slope(without), Role::mark).points.empty());
 }

@@ -73,46 +73,21 @@ TEST(SketchLayout, EveryResultHasItsPlace) {
     }
 }
 
-TEST(SketchLayout, HoldsForAllPitchesAndVaults) {
-    const std::vector<double> pitches{0, 5, 15, 30, 33.333333, 45, 60, 75, 89, 89.9999, 90, -5};
-    for (const double alfa1 : pitches) {
-        check({.kind = Kind::one_pitch, .alfa = alfa1}, 1.2);
-        check({.kind = Kind::snow_guard, .alfa = alfa1, .qs = 1.28, .b = 5}, 1.2);
-        for (const double alfa2 : pitches)
-            for (const Kind kind : {Kind::two_pitches, Kind::several_pitches})
-                ASSERT_NO_FATAL_FAILURE(check({.kind = kind, .alfa1 = alfa1, .alfa2 = alfa2}, 1.2));
-    }
-    for (const double by_width : {0.5, 0.45, 0.25, 0.1, 0.01, 0.001, 0.51})
-        ASSERT_NO_FATAL_FAILURE(check({.kind = Kind::cylindrical, .L = 123.45, .H = 123.45 * by_width}, 1.2));
-}
-
-TEST(SketchLayout, HoldsForTheExposureTable) {
-    check(exposure_table());
-}
-
-TEST(SketchLayout, HoldsForAllStepsAndWalls) {
-    const std::vector<double> lengths{0.01, 0.5, 5, 5.01, 30, 5000, 99999};
-    for (const double h : lengths) {
-        ASSERT_NO_FATAL_FAILURE(check({.kind = Kind::wall, .h = h}, 1.2));
-        for (const double b1 : lengths)
-            for (const double b2 : lengths)
-                for (const double alfa : {0.0, 10.0, 45.0, 89.0})
-                    ASSERT_NO_FATAL_FAILURE(
-                        check({.kind = Kind::level_change, .alfa = alfa, .b1 = b1, .b2 = b2, .h = h}, 1.2));
-    }
-}
-
 TEST(SketchLayout, HoldsForWhateverIsTyped) {
     constexpr double inf = std::numeric_limits<double>::infinity();
-    const std::vector<double> hostile{0,     -0.0,   90,     -1, 1e300, -1e300, 1e-300,
-                                      1e308, 5e-324, 0.0099, 60, inf,   -inf,   std::nan("")};
+    const std::vector<double> usual{0,  5,  15, 30,      33.333333, 45, 60,   75,
+                                    89, 90, -5, 89.9999, 0.01,      1,  5.01, 99999};
+    const std::vector<double> hostile{-0.0,   -1,     1e300, -1e300, 1e-300,      1e308,
+                                      5e-324, 0.0099, inf,   -inf,   std::nan("")};
     std::mt19937 random(20);
     const auto any = [&] {
-        const std::size_t i = random() % (2 * hostile.size());
-        return i < hostile.size() ? hostile[i]
-                                  : std::pow(10, static_cast<double>(random() % 9000) / 1000 - 3);
+        const auto kind = random() % 4;
+        if (kind < 2) return usual[random() % usual.size()];
+        return kind == 2 ? hostile[random() % hostile.size()]
+                         : std::pow(10, static_cast<double>(random() % 9000) / 1000 - 3);
     };
-    for (int i = 0; i < 1000; ++i) {
+    check(exposure_table());
+    for (int i = 0; i < 2000; ++i) {
         for (const Description& calculation : calculations()) {
             Entries entries{.kind = calculation.kind};
             for (const Entry& entry : calculation.entries)

@@ -16,7 +16,6 @@ using testing::AnyOf;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::EndsWith;
-using testing::HasSubstr;
 using testing::Pair;
 using testing::StartsWith;
 using Arguments = std::vector<std::string>;

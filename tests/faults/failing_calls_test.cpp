@@ -134,7 +134,6 @@ namespace coltre {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::AnyOf;
 
 /// What a deed reported.
 struct Report {
@@ -230,7 +229,7 @@ class FailingCalls : public testing::Test {
         EXPECT_TRUE(!was_replaced || table == built_in_altitude_file() ||
                     inspect_altitudes(table).faults.empty())
             << "half a table";
-        EXPECT_THAT(left["coltre.txt"], AnyOf("old report", "new report"));
+        EXPECT_THAT(left["coltre.txt"], testing::AnyOf("old report", "new report"));
         const bool own_answered = report.altitude.empty() || report.altitude == "999";
         EXPECT_TRUE(own_answered || report.warned) << "the altitude of another table, and no word of it";
         if (!plan.all && std::ranges::count(passing_errors, plan.error) > 0 && name != "relazione") {

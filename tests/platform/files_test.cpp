@@ -6,17 +6,14 @@
 #include <chrono>
 #include <filesystem>
 #include <thread>
-#include <vector>
 
 #include "platform/file_replacement.h"
-#include "platform/system_files.h"
 #include "tests/support/temporary_directory.h"
 
 namespace coltre {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::ElementsAre;
 
 class Files : public testing::Test {
   protected:
@@ -41,34 +38,13 @@ TEST_F(Files, AreReadWhole) {
     const std::string bytes("\0\xFF\r\n\x1A", 5);
     directory.put("bytes", bytes);
     EXPECT_EQ(read_file(suite_path("bytes")), bytes);
-    directory.put("saved", "half");
+    directory.put("saved", "half done");
     std::thread editor([&] {
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
-        directory.put("saved", "half and half");
+        directory.put("saved", "full size");
     });
-    EXPECT_EQ(read_content_at_rest(suite_path("saved")).bytes, "half and half");
+    EXPECT_EQ(read_content_at_rest(suite_path("saved")).bytes, "full size") << "as long as before";
     editor.join();
-}
-
-TEST_F(Files, ChangeTheirStateWithinASecond) {
-    std::vector<system_files::State> states(2);
-    for (system_files::State& state : states) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(50));
-        directory.put("saved", "as long");
-        system_files::Descriptor file;
-        ASSERT_EQ(system_files::open_to_read(at("saved"), file), 0);
-        ASSERT_EQ(system_files::state_of(file, state), 0);
-    }
-    EXPECT_NE(states[0].written, states[1].written);
-    EXPECT_LT(std::abs(system_files::now() - states[1].written), 1'000'000'000);
-}
-
-TEST_F(Files, GiveTheirFirstLine) {
-    for (const auto& [bytes, line] : {std::pair{"", ""}, std::pair{"a\rb", "a"}, std::pair{"\r\nsecond", ""},
-                                      std::pair{"  Forl\xEC\x80 \n", "  Forlì€ "}}) {
-        directory.put("dirlav", bytes);
-        EXPECT_EQ(read_first_line(suite_path("DIRLAV")), line);
-    }
 }
 
 TEST(FileLine, EndsWithCrLfAlone) {
@@ -81,7 +57,7 @@ class Replacement : public Files {
     /// Only the file is there, with these bytes.
     void expect_left(const std::string& bytes) const {
         EXPECT_EQ(directory.content("Coltre.txt"), bytes);
-        EXPECT_THAT(directory.files(), ElementsAre("Coltre.txt"));
+        EXPECT_THAT(directory.files(), testing::ElementsAre("Coltre.txt"));
     }
 };
 
@@ -98,17 +74,6 @@ TEST_F(Replacement, KeepsTheOldFileUntilTheCommit) {
         }
         expect_left(committed ? "new" : "old");
     }
-}
-
-TEST_F(Replacement, WritesTwoAtATime) {
-    FileReplacement first(find_path(suite_path("Coltre.txt")));
-    FileReplacement second(find_path(suite_path("Coltre.txt")));
-    first.write("first");
-    second.write("second");
-    EXPECT_EQ(first.commit(), std::nullopt);
-    EXPECT_EQ(directory.content("Coltre.txt"), "first");
-    EXPECT_EQ(second.commit(), std::nullopt);
-    expect_left("second");
 }
 
 TEST_F(Replacement, WaitsItsTurnInADirectory) {

@@ -1,7 +1,6 @@
 #include <gmock/gmock.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <filesystem>
 
 #include "platform/file_replacement.h"
@@ -59,16 +58,6 @@ TEST_F(PosixFiles, AreReplacedThroughALinkAndOpenToThoseTheyWereOpenTo) {
     EXPECT_TRUE(fs::is_symlink(at("link")));
     EXPECT_EQ(directory.content("link"), "new");
     EXPECT_EQ(fs::status(at("Coltre.txt")).permissions(), fs::perms{0640});
-}
-
-TEST(SystemFailure, SaysTheReasonInItalian) {
-    EXPECT_EQ(system_failure(0), std::nullopt);
-    for (const auto& [error, reason] : {std::pair{EDQUOT, "la quota disco dell'utente è esaurita"},
-                                        {EIO, "il disco segnala un errore"},
-                                        {EMFILE, "troppi file sono aperti"},
-                                        {ESTALE, "la cartella di rete non risponde"},
-                                        {EXDEV, "errore di sistema 18"}})
-        EXPECT_EQ(system_failure(error), reason);
 }
 
 }  // namespace

@@ -10,7 +10,6 @@ namespace coltre {
 namespace {
 
 using testing::ElementsAre;
-using testing::StartsWith;
 
 const Places& built_in_places() {
     static const Places places(built_in_altitude_file());
@@ -41,17 +40,10 @@ TEST(TodaysNames, EveryRowLeadsToTheTable) {
     };
     for (const LaterName& later : later_names()) {
         EXPECT_FALSE(later.name.empty() || later.plate.size() != 2 || later.made_of.empty()) << later.name;
-        for (const Municipality& it : later.made_of)
-            is_known(it);
+        std::ranges::for_each(later.made_of, is_known);
     }
-    for (const Suppressed& it : suppressed()) {
-        is_known(it.municipality);
-        EXPECT_FALSE(it.successor.empty());
-    }
-    for (const MovedProvince& it : moved_provinces()) {
-        is_known(it.municipality);
-        EXPECT_EQ(it.plate.size(), 2U);
-    }
+    std::ranges::for_each(suppressed(), is_known, &Suppressed::municipality);
+    std::ranges::for_each(moved_provinces(), is_known, &MovedProvince::municipality);
 }
 
 TEST(Places, AreFoundByNamesOf1996AndOfToday) {
@@ -96,7 +88,8 @@ TEST(Places, HaveTheAltitudesOfTheFileAndThoseOfTheTableWhereItCannotBeRead) {
     EXPECT_THAT(found(places, "aglie", 1), ElementsAre("Aglie', Torino, 315: "));
     EXPECT_THAT(found(places, "Vicenza", 1),
                 ElementsAre("Vicenza, Vicenza, 39: provincia illeggibile in altitudini.txt"));
-    EXPECT_THAT(found(places, "aosta", 1), ElementsAre(StartsWith("Aosta, Aosta, 583: provincia illeg")));
+    EXPECT_THAT(found(places, "aosta", 1),
+                ElementsAre(testing::StartsWith("Aosta, Aosta, 583: provincia illeg")));
 }
 
 }  // namespace

@@ -41,12 +41,5 @@ TEST(ParseSuiteRoot, GivesTheRootInLowerCase) {
         EXPECT_EQ(parse_suite_root(command_line), root) << command_line;
 }
 
-TEST(SetCaption, NamesTheDirectoryAndTheDetail) {
-    EXPECT_EQ(set_caption("", ""), "Coltre - ARCOVIA 15");
-    EXPECT_EQ(set_caption("", "tetto"), "Coltre - ARCOVIA 15 - tetto");
-    EXPECT_EQ(set_caption("d:\\dati\\", ""), "Coltre - ARCOVIA 15 - d:\\dati");
-    EXPECT_EQ(set_caption("d:\\dati", "tetto\\"), "Coltre - ARCOVIA 15 - d:\\dati\\tetto\\");
-}
-
 }  // namespace
 }  // namespace coltre

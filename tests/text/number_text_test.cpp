@@ -98,19 +98,5 @@ TEST(Pictures, WithAPoint) {
         EXPECT_EQ(fixed_picture(c.value, c.decimals), c.picture) << c.value << " with " << c.decimals;
 }
 
-TEST(Pictures, WholeAndWithAnExponent) {
-    EXPECT_EQ(whole_picture(-12.5), "-13");
-    EXPECT_EQ(whole_picture(99.5), "100");
-    EXPECT_EQ(whole_picture(0.5), "1");
-    EXPECT_EQ(whole_picture(-0.4999), "");
-    EXPECT_EQ(whole_picture(0.05), "");
-    EXPECT_EQ(whole_picture(1.2e17), "120000000000000000");
-
-    EXPECT_EQ(exponent_picture(123456789, 5), ".12346E9");
-    EXPECT_EQ(exponent_picture(-0.05, 3), "-.5E-1");
-    EXPECT_EQ(exponent_picture(99950, 3), ".1E6");
-    EXPECT_EQ(exponent_picture(5e-324, 20), ".494065645841247E-323");
-}
-
 }  // namespace
 }  // namespace coltre

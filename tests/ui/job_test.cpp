@@ -36,8 +36,7 @@ TEST_F(JobTest, OpeningAJobFillsTheWindowsSoThatSavingWritesItAgain) {
         "\n";
     const std::string without_site =
         R"({"calcolo": "cilindrica", "zona": 2, "altitudine": "60", "ce": "1.0", "ct": "1.0", )"
-        R"("unita": "kN , m", "larghezza": "12", "altezza": "3"})"
-        "\n";
+        "\"unita\": \"kN , m\", \"larghezza\": \"12\", \"altezza\": \"3\"}\n";
     const std::string other_zone =
         R"({"calcolo": "discontinuita", "provincia": "Asti", "comune": "Asti", "zona": 3, "altitudine": "123", )"
         R"("ce": "0.9", "ct": "1.0", "unita": "kgf , cm", "b1": "3.5", "b2": "5", "h": "2", "alfa": "10"})"
@@ -104,8 +103,6 @@ TEST_F(JobTest, CalculatedEntriesAreNotLostWithoutAQuestion) {
     open();
     saved(window);
     open();  // nothing to be lost
-    click("Calcola");
-    open();  // the same entries
     type("inputalfa", "33");
     click("Calcola");
     const std::string end =

@@ -3,14 +3,13 @@
 #include "platform/files.h"
 #include "tests/ui/window_test.h"
 #include "ui/casipart.h"
+#include "version/maker.h"
 #include "version/version.h"
 
 namespace coltre {
 namespace {
 
-using testing::EndsWith;
 using testing::HasSubstr;
-using testing::StartsWith;
 
 class MenusTest : public MainWindowTest {
   protected:
@@ -38,23 +37,16 @@ class MenusTest : public MainWindowTest {
     bool desktop_has_program = true;
 };
 
-TEST_F(MenusTest, OpenInBothWindowsByF10AndTheirKeysLeaveTheLettersOfTheControls) {
+TEST_F(MenusTest, OpenInBothWindowsByF10) {
     for (QWidget* const it : {static_cast<QWidget*>(&window), static_cast<QWidget*>(&open_special_cases())}) {
         SCOPED_TRACE(it->objectName().toStdString());
         QApplication::setActiveWindow(it);
         auto& bar = *it->findChild<QMenuBar*>();
-        EXPECT_GE(it->findChild<QScrollArea*>()->y(), bar.height()) << "above the controls";
         QTest::keyClick(it, Qt::Key_F10);
         EXPECT_EQ(bar.activeAction(), bar.actions().at(0));
-        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        ASSERT_NE(menu, nullptr);
-        EXPECT_EQ(menu->title(), "File");
-        QTest::keyClick(menu, Qt::Key_Escape);
+        ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
         QTest::keyClick(&bar, Qt::Key_Escape);
-        for (const QAction* action : it->findChildren<QAction*>())
-            EXPECT_TRUE(QKeySequence::mnemonic(action->text()).isEmpty() ||
-                        qobject_cast<SketchWidget*>(action->parent()))
-                << action->text().toStdString();
     }
 }
 
@@ -68,22 +60,16 @@ TEST_F(MenusTest, ResultsAreCopiedAsTheyAreShownWithTheUsersDecimalSign) {
               "Carico neve al suolo qsk\t1,5\tkN/m²\n"
               "Carico neve sulla copertura, falda\t1,2\tkN/m²\n"
               "Carico della neve sporgente, falda\t0,576\tkN/m\n");
-    EXPECT_THAT(copied.html().toStdString(),
-                HasSubstr("<tr><td>Carico neve sulla copertura, falda</td><td align=\"right\">1,2</td>"
-                          "<td>kN/m²</td></tr>"));
+    EXPECT_THAT(copied.html().toStdString(), HasSubstr("<td align=\"right\">1,2</td><td>kN/m²</td></tr>"));
 
-    choose_tab(3);
-    click("Calcola");
-    choose(window, "Copia i risultati");
-    EXPECT_THAT(QApplication::clipboard()->text().toStdString(), EndsWith("L1\t12,56\tm\nL2\t3,14\tm\n"));
-    type("hcopcil", "2.5");
+    type("inputalfa", "2.5");
     choose(window, "Copia i risultati");
     EXPECT_THAT(QApplication::clipboard()->text().toStdString(),
-                StartsWith("risultati non aggiornati: premere Calcola\nCarico"));
+                testing::StartsWith("risultati non aggiornati: premere Calcola\nCarico"));
     choose(window, "Copia lo schizzo");
     EXPECT_FALSE(QApplication::clipboard()->image().isNull());
-    for (const auto& [format, begin] : {std::pair("image/svg+xml", "<svg"), {"application/pdf", "%PDF"}})
-        EXPECT_THAT(QApplication::clipboard()->mimeData()->data(format).toStdString(), HasSubstr(begin));
+    EXPECT_THAT(QApplication::clipboard()->mimeData()->data("image/svg+xml").toStdString(),
+                HasSubstr("<svg"));
 
     casipart& special_cases = open_special_cases();
     control<QTabWidget>(special_cases, "cartelle").setCurrentIndex(2);
@@ -149,10 +135,6 @@ TEST_F(MenusTest, LastReportOfEitherWindowIsOpened) {
     const auto report = [this](const char* name) {
         return QUrl::fromLocalFile(QString::fromStdString(directory.name() + "/" + name));
     };
-    dialogs.expect(Icon::error,
-                   "Nessuna relazione è stata scritta da quando il programma è aperto: selezionare «Crea "
-                   "relazione» e premere «Calcola».");
-    choose(window, "Apri l'ultima relazione");
     click("Check1Box");
     dialogs.expect(Icon::none, "Creazione della relazione " + directory.text() + "\\coltre.txt effettuata");
     click("Calcola");
@@ -163,14 +145,12 @@ TEST_F(MenusTest, LastReportOfEitherWindowIsOpened) {
     control<QCheckBox>(special_cases, "Check1Box").setChecked(true);
     dialogs.expect(Icon::none, "Creazione della relazione coltrecasipart.txt effettuata");
     control<QPushButton>(special_cases, "Calcola2").click();
-    choose(window, "Apri l'ultima relazione");
-    EXPECT_EQ(opened, report("coltrecasipart.txt"));
-
     const std::string path = path_text(directory.path() / "coltrecasipart.txt");
     desktop_has_program = false;
     dialogs.expect(Icon::error,
                    "Impossibile aprire il file " + path + ": il sistema non ha un programma per aprirlo.");
-    choose(special_cases, "Apri l'ultima relazione");
+    choose(window, "Apri l'ultima relazione");
+    EXPECT_EQ(opened, report("coltrecasipart.txt"));
     std::filesystem::remove(to_path(path));
     dialogs.expect(Icon::error, "La relazione " + path + " non c'è più.");
     choose(window, "Apri l'ultima relazione");
@@ -186,32 +166,22 @@ TEST_F(MenusTest, ManualOpensAtTheChapterOfTheOpenTab) {
     EXPECT_EQ(opened.fileName(), "manuale.html");
 
     // Each chapter is a heading of the manual.
-    const std::string manual = read_file(COLTRE_MANUAL).value();
-    const auto heading_exists = [&] {
-        std::istringstream lines(manual);
-        for (std::string line; std::getline(lines, line);)
-            if (QString::fromStdString(line).toLower().replace(' ', '-') == "####-" + opened.fragment())
-                return true;
-        return false;
-    };
-    EXPECT_TRUE(heading_exists()) << opened.fragment().toStdString();
+    const QString manual =
+        QString::fromStdString(read_file(COLTRE_MANUAL).value()).toLower().replace(' ', '-');
+    EXPECT_TRUE(manual.contains("\n####-" + opened.fragment() + "\n"));
     casipart& special_cases = open_special_cases();
     for (const int page : {0, 1, 2}) {
         control<QTabWidget>(special_cases, "cartelle").setCurrentIndex(page);
         choose(special_cases, "Manuale");
-        EXPECT_TRUE(heading_exists()) << opened.fragment().toStdString();
+        EXPECT_TRUE(manual.contains("\n####-" + opened.fragment() + "\n")) << opened.fragment().toStdString();
     }
 }
 
 TEST_F(MenusTest, AboutNamesVersionBuildAndMakerAndEsciEndsFromEitherWindow) {
-    std::string about =
-        "Coltre " + std::string(version_and_build()) +
-        "\r\rARCOVIA\rProgrammi di calcolo\rper l'ingegneria delle strutture\rVia Esempio 1 - "
-        "00000 Esempio (XX)\rTel. 000 0000000 - Fax 000 0000001\rwww.example.com\rinfo@example.com\r\rLe "
-        "condizioni d'uso di "
-        "Coltre le stabilisce il produttore, che non ne ha ancora indicate.\rComponenti e loro licenze: file "
-        "NOTICE, accanto al manuale.";
-    dialogs.expect(Icon::information, about);
+    std::ostringstream about;
+    about << "Coltre " << version_and_build() << "\r\r" << maker_text() << "\r\r" << program_terms << "\r"
+          << notice_text;
+    dialogs.expect(Icon::information, about.str());
     choose(window, "Informazioni su Coltre");
     casipart& special_cases = open_special_cases();
     QApplication::setActiveWindow(&special_cases);

@@ -9,7 +9,6 @@
 
 #include "drawings/sketches.h"
 #include "tests/ui/window_test.h"
-#include "ui/casipart.h"
 
 namespace coltre {
 namespace {
@@ -56,23 +55,12 @@ TEST_F(SketchWidgetTest, LabelsStayWithinTheirSlotsAtEverySize) {
     }
     EXPECT_EQ(sketch.minimumSizeHint().boundedTo(QSize(420, 260)), sketch.minimumSizeHint());
 
-    qs2->setText(" 1234567.1234");  // takes its room at once
-    QApplication::processEvents();
-    EXPECT_GE(qs2->width(), qs2->sizeHint().width());
-    EXPECT_TRUE(sketch.rect().contains(qs2->geometry()));
-}
-
-TEST_F(SketchWidgetTest, LabelOfAHiddenSlotIsHiddenAndInNoPicture) {
-    ls->setText(" 5.4321");
-    sketch.set_drawing(level_change(8, false));
-    EXPECT_TRUE(ls->isHidden());
-    EXPECT_FALSE(qs2->isHidden());
-    delete qs2;  // a deleted one is forgotten
-    sketch.resize(700, 400);
-    ASSERT_TRUE(sketch.save(directory.filePath("cut.svg"), PictureFormat::svg));
-    EXPECT_FALSE(content(directory.filePath("cut.svg")).contains("5.4321"));
-    sketch.set_drawing(level_change(8));
-    EXPECT_FALSE(ls->isHidden());
+    const auto ink = [&] { return qs2->palette().color(QPalette::WindowText).lightness(); };
+    const int fresh = ink();
+    Drawing drawing = level_change(8);
+    mark_as_pending(drawing);
+    sketch.set_drawing(drawing);
+    EXPECT_GT(ink(), fresh + 80) << "numbers of other entries are grey";
 }
 
 TEST_F(SketchWidgetTest, TheMenuSavesThePictureWithTheNumbers) {
@@ -108,53 +96,4 @@ TEST_F(SketchWidgetTest, PicturesDoNotFollowADarkPalette) {
     EXPECT_EQ(sketch_image(sketch.drawing(), {}, sketch.font()), light);
 }
 
-// Numbers of other entries are grey, on the screen and in pictures.
-TEST_F(SketchWidgetTest, StaleNumbersLookStale) {
-    const auto ink = [&] { return qs2->palette().color(QPalette::WindowText).lightness(); };
-    const int fresh = ink();
-    Drawing drawing = level_change(8);
-    mark_as_pending(drawing);
-    sketch.set_drawing(drawing);
-    EXPECT_GT(ink(), fresh + 80);
-    const auto darkest = [&](const QImage& picture) {
-        const QRectF number = SketchPainter(drawing, QRectF(picture.rect()), {})
-                                  .to_pixels(drawing.find_slot("carico_14")->area);
-        int least = 255;
-        for (int y = qCeil(number.top()); y < number.bottom(); ++y)
-            for (int x = qCeil(number.left()); x < number.right(); ++x)
-                least = std::min(least, picture.pixelColor(x, y).lightness());
-        return least;
-    };
-    EXPECT_GT(darkest(sketch_image(drawing, {{"carico_14", " 3.7594"}}, sketch.font())), 80);
-    drawing.pending = false;
-    EXPECT_LT(darkest(sketch_image(drawing, {{"carico_14", " 3.7594"}}, sketch.font())), 20);
-    sketch.set_drawing(drawing);
-    EXPECT_EQ(ink(), fresh);
-}
-
-class LevelChangeWindow : public WindowTest {};
-
-TEST_F(LevelChangeWindow, TheDriftLengthComesAndGoesWithACalculationAlone) {
-    program.cells.zone = 2;
-    casipart window(
-        program, dialogs,
-        [] {
-            return Inputs{{.asinput = "200", .ComboEsp = "1.0", .TextCTermico = "1.0"}, 2};
-        },
-        [] {});
-    tested = &window;
-    window.show();
-    const auto is_shown = [&] { return !get("lsoutput").isHidden(); };
-    EXPECT_TRUE(is_shown()) << "as designed";
-    for (const auto& [b2, cut] : {std::pair{"4", true}, std::pair{"20", false}}) {
-        const bool before = is_shown();
-        type("b2input", b2);
-        EXPECT_EQ(is_shown(), before) << b2;
-        click("Calcola2");
-        EXPECT_EQ(is_shown(), !cut) << b2;
-        type("h2input", "abc");
-        EXPECT_EQ(is_shown(), !cut) << b2;
-        type("h2input", "2");
-    }
-}
 }  // namespace coltre
