@@ -9,6 +9,7 @@
 namespace coltre {
 namespace {
 
+using testing::EndsWith;
 using testing::HasSubstr;
 
 class MenusTest : public MainWindowTest {

@@ -48,15 +48,11 @@ class ReportDialogTest : public WindowTest {
     [[nodiscard]] QString path(const char* name) const {
         return QString::fromStdString(directory.name() + "/" + name);
     }
-<<<<<<< HEAD
     /// The same as messages show it.
     [[nodiscard]] std::string shown(const char* name) const {
         return QDir::toNativeSeparators(path(name)).toStdString();
     }
-    void choose_file(const char* name) { answer = path(name); }
-=======
     void choose_file(const char* name) { answer = *name == '\0' ? QString() : path(name); }
->>>>>>> refs/heads/trim
     void expect_offer(const char* name, bool accepted) {
         dialogs.expect_question(Icon::information,
                                 "Relazione salvata nel file " + shown(name) + ".\rAprirla?", accepted);
@@ -136,7 +132,6 @@ TEST_F(ReportDialogTest, AnExistingFileIsReplacedOnlyIfTheUserSaysSo) {
     EXPECT_TRUE(file("x.pdf").starts_with("%PDF-"));
 }
 
-<<<<<<< HEAD
 TEST_F(ReportDialogTest, AFileThatCannotBeWrittenIsToldAndNothingIsLost) {
     type("lavoro", "Scuola");
     answer = path("nowhere/x.pdf");
@@ -155,7 +150,5 @@ TEST_F(ReportDialogTest, WithoutACalculationThereIsNoReport) {
     ask_for_report({}, choices, dialogs, nullptr);
 }
 
-=======
->>>>>>> refs/heads/trim
 }  // namespace
 }  // namespace coltre
