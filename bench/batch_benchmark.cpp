@@ -40,7 +40,7 @@ struct Table {
 std::string batch_results(const std::string& requests, const Environment& environment) {
     std::istringstream in(requests);
     std::ostringstream out;
-    run_batch(in, out, environment);
+    cli::run_batch(in, out, environment);
     return std::move(out).str();
 }
 
