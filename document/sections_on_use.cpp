@@ -113,13 +113,14 @@ void write_program(Composer& write, const Subject& subject) {
         "Tipo di elaborazione: formule in forma chiusa, in doppia precisione, senza arrotondamenti "
         "intermedi. Campo "
         "d'impiego: carico neve sulle coperture secondo i testi citati, per altitudini fino a 1500 m.");
-    write.paragraph(Pieces{{"Casi di prova: i casi risolti e commentati del programma, con i dati per "
-                            "ripeterli, si richiedono al "
-                            "produttore; riprodotti il ",
-                            Style::plain},
-                           {"", Style::blank},
-                           {" con esito ", Style::plain},
-                           {"", Style::blank}});
+    write.paragraph(
+        Pieces{{"Casi di prova: i casi svolti per esteso senza il programma, con i dati per ripeterli, "
+                "sono nel documento casi-di-prova, accanto al manuale (menu Strumenti, o comando "
+                "coltre-calcolo prova); riprodotti il ",
+                Style::plain},
+               {"", Style::blank},
+               {" con esito ", Style::plain},
+               {"", Style::blank}});
     write_independent_check(write, subject);
     write.paragraph(
         Pieces{{"Giudizio motivato di accettabilità dei risultati (a cura del progettista): ", Style::plain},
