@@ -108,7 +108,8 @@ class HtmlWriter {
     void operator()(const FormulaLine& line) {
         m_html += R"(<div class="formula"><span>)";
         pieces(line.formula);
-        m_html += R"(</span><span class="remark">)";
+        // The blank is for whatever reads the text alone.
+        m_html += R"(</span> <span class="remark">)";
         pieces(line.remark);
         m_html += "</span></div>\n";
     }

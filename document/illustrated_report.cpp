@@ -31,10 +31,10 @@ Document illustrated_report(const Subject& subject, const TitleBlock& title_bloc
     }
     write_title(write, title_block);
     write_summary(write, subject);
-    if (layout == Layout::complete) write_references(write, subject);
+    write_references(write, subject);
     write_data(write, subject);
     if (layout == Layout::brief) {
-        write_load_figure(write, subject);
+        write_loads_alone(write, subject);
     } else {
         write_steps(write, subject, true);
         write_sensitivity(write, subject);

@@ -12,7 +12,7 @@ namespace coltre {
 /// How much of it is written.
 enum class Layout {
     complete,    ///< "Completa": all sections
-    brief,       ///< "Sintetica": summary, data, load arrangements, figures
+    brief,       ///< "Sintetica": summary, assumptions, data, loads, figures
     steps_alone  ///< "Solo passaggi": the steps, to paste into another report
 };
 

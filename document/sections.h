@@ -18,8 +18,9 @@ void write_data(Composer& write, const Subject& subject);
 // sections_of_steps.cpp: the formulas, in chapters with their figures
 /// @param diagrams  whether the diagrams of the ground load and of the coefficients are wanted
 void write_steps(Composer& write, const Subject& subject, bool diagrams);
-/// The loads with their figure alone.
-void write_load_figure(Composer& write, const Subject& subject);
+/// The chapters on the loads with their figures, and what is to be said of the ground load and the
+/// coefficients.
+void write_loads_alone(Composer& write, const Subject& subject);
 
 // sections_on_use.cpp: what an office and a checker do with the numbers
 void write_sensitivity(Composer& write, const Subject& subject);

@@ -61,22 +61,27 @@ void write_chapter(Composer& write, const Subject& subject, Chapter chapter, std
             write.paragraph(remark);
 }
 
+/// What the rules say of sites above 1500 m, and the ground load there.
+void write_altitude_remark(Composer& write, const Subject& subject) {
+    if (!subject.outcome.qsk || !subject.calculation().needs_ground_load) return;
+    const LoadInputs inputs = subject.load_inputs();
+    if (inputs.altitude <= highest_regulated_altitude) return;
+    ProgramCells cells;
+    cells.zone = inputs.zone;
+    cells.return_period_factor = inputs.factor;
+    set_base_load(cells, highest_regulated_altitude);
+    apply_load_factors(cells, inputs.CE, inputs.Ct);
+    write.paragraph(
+        "Oltre 1500 m valgono le condizioni locali di clima e di esposizione, con valori non inferiori a "
+        "quelli "
+        "previsti per 1500 m. Calcolo eseguito con l'altitudine scritta, " +
+        number_text(inputs.altitude) +
+        " m; a 1500 m sarebbe qsk = " + with_unit(value_text(cells.qsk, area_load), area_load.unit) + ".");
+}
+
 void write_ground_load_diagram(Composer& write, const Subject& subject) {
     if (!subject.outcome.qsk || !subject.calculation().needs_ground_load) return;
     const LoadInputs inputs = subject.load_inputs();
-    if (inputs.altitude > highest_regulated_altitude) {
-        ProgramCells cells;
-        cells.zone = inputs.zone;
-        cells.return_period_factor = inputs.factor;
-        set_base_load(cells, highest_regulated_altitude);
-        apply_load_factors(cells, inputs.CE, inputs.Ct);
-        write.paragraph(
-            "Oltre 1500 m valgono le condizioni locali di clima e di esposizione, con valori non inferiori a "
-            "quelli "
-            "previsti per 1500 m. Calcolo eseguito con l'altitudine scritta, " +
-            number_text(inputs.altitude) + " m; a 1500 m sarebbe qsk = " +
-            with_unit(value_text(cells.qsk, area_load), area_load.unit) + ".");
-    }
     write.figure(
         ground_load_over_altitude(inputs.zone, inputs.factor, inputs.CE, inputs.Ct, inputs.altitude), {},
         "qsk in funzione dell'altitudine, " + std::string(zone_name(inputs.zone)) + "; il sito è segnato");
@@ -150,22 +155,15 @@ void write_sketch(Composer& write, const Subject& subject) {
             (all_loads ? "" : "; carichi non tutti calcolati, ordinate proporzionali ai coefficienti"));
 }
 
-}  // namespace
+void write_load_figure(Composer& write, const Subject& subject) {
+    write_arrangements(write, subject);
+    write_sketch(write, subject);
+}
 
-void write_steps(Composer& write, const Subject& subject, bool diagrams) {
-    const Kind kind = subject.fields.kind;
-    const Remarks remarks = remarks_on(subject);
-    // A ground load that plays no part is told of where it has stopped the calculation.
-    if (subject.calculation().needs_ground_load || !subject.outcome.qsk) {
-        write_chapter(write, subject, Chapter::ground, "Carico neve al suolo", {});
-        if (diagrams) write_ground_load_diagram(write, subject);
-    }
-    write_chapter(write, subject, Chapter::coefficients,
-                  kind == Kind::cylindrical ? "Geometria e coefficienti di forma" : "Coefficienti di forma",
-                  remarks.on_coefficients);
-    if (diagrams) write_coefficient_diagram(write, subject);
+/// The load arrangements with their figure, and what follows from the loads.
+void write_loads(Composer& write, const Subject& subject, const Remarks& remarks) {
     write_chapter(write, subject, Chapter::loads,
-                  kind == Kind::snow_guard ? "Forza sull'ostacolo" : "Carico sulla copertura",
+                  subject.fields.kind == Kind::snow_guard ? "Forza sull'ostacolo" : "Carico sulla copertura",
                   remarks.on_loads);
     write_load_figure(write, subject);
     if (!remarks.quotation.empty()) write.note(remarks.quotation);
@@ -173,9 +171,30 @@ void write_steps(Composer& write, const Subject& subject, bool diagrams) {
                   subject.is_roof() ? "Neve sporgente" : "Lunghezza di accumulo", remarks.on_length);
 }
 
-void write_load_figure(Composer& write, const Subject& subject) {
-    write_arrangements(write, subject);
-    write_sketch(write, subject);
+}  // namespace
+
+void write_loads_alone(Composer& write, const Subject& subject) {
+    const Remarks remarks = remarks_on(subject);
+    write_altitude_remark(write, subject);
+    for (const std::string& remark : remarks.on_coefficients)
+        write.paragraph(remark);
+    write_loads(write, subject, remarks);
+}
+
+void write_steps(Composer& write, const Subject& subject, bool diagrams) {
+    const Kind kind = subject.fields.kind;
+    const Remarks remarks = remarks_on(subject);
+    // A ground load that plays no part is told of where it has stopped the calculation.
+    if (subject.calculation().needs_ground_load || !subject.outcome.qsk) {
+        write_chapter(write, subject, Chapter::ground, "Carico neve al suolo", {});
+        write_altitude_remark(write, subject);
+        if (diagrams) write_ground_load_diagram(write, subject);
+    }
+    write_chapter(write, subject, Chapter::coefficients,
+                  kind == Kind::cylindrical ? "Geometria e coefficienti di forma" : "Coefficienti di forma",
+                  remarks.on_coefficients);
+    if (diagrams) write_coefficient_diagram(write, subject);
+    write_loads(write, subject, remarks);
 }
 
 }  // namespace coltre

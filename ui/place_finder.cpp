@@ -37,6 +37,8 @@ PlaceFinder::PlaceFinder(std::string ProgramDirectory, UserDialogs& dialogs, QWi
     connect(m_ui->comuni, &QTableView::doubleClicked, this, &PlaceFinder::choose);
     connect(m_ui->imposta, &QPushButton::clicked, this, &PlaceFinder::choose);
     connect(m_ui->segna, &QPushButton::clicked, this, &PlaceFinder::mark);
+    // So that the next place can be searched for at once.
+    connect(m_ui->segna, &QPushButton::clicked, m_ui->cerca, qOverload<>(&QWidget::setFocus));
     connect(m_ui->confronta, &QPushButton::clicked, this, &PlaceFinder::comparison_wanted);
     connect(m_ui->chiudi, &QPushButton::clicked, this, &PlaceFinder::close);
     connect(m_model, &PlaceModel::marks_changed, this, &PlaceFinder::show_marks);
