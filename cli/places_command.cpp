@@ -85,8 +85,9 @@ int places_command(const PlacesQuery& query, std::string_view directory, std::os
                    std::ostream& err) {
     const auto [places, failure] = places_in_force(directory);
     if (failure)
-        err << "Attenzione: impossibile leggere il file " << find_path(altitude_file_name(directory)).string()
-            << ": " << *failure << "; valgono le altitudini della tabella del programma\n";
+        err << "Attenzione: impossibile leggere il file "
+            << path_text(find_path(altitude_file_name(directory))) << ": " << *failure
+            << "; valgono le altitudini della tabella del programma\n";
 
     std::vector<PlaceHit> hits = places.find(query.text);
     if (!query.province.empty() && !keep_province(query.province, places, hits)) {

@@ -33,12 +33,12 @@ int worked_cases_command(const std::string& html, std::ostream& out, std::ostrea
     const bool all_passed = std::ranges::all_of(outcomes, &CaseOutcome::passed);
     if (html.empty()) return all_passed ? all_well : failed;
 
-    const std::string path = find_path(suite_notation(html)).string();
+    const std::filesystem::path path = find_path(suite_notation(to_path(html)));
     FileReplacement file(path);
     file.write(to_html(
         worked_cases_document(outcomes, "Coltre " + std::string(version_and_build()), document_date())));
     if (const Failure failure = file.commit()) {
-        err << "Impossibile scrivere il file " << path << ": " << *failure << ".\n";
+        err << "Impossibile scrivere il file " << path_text(path) << ": " << *failure << ".\n";
         return failed;
     }
     return all_passed ? all_well : failed;

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "cli/help.h"
+#include "platform/environment.h"
 
 // Puts the options of the command, with the texts of its help, into a document: fill_options < SOURCE >
 // DOCUMENT A comment of the document that is one of the marks below, alone on its line, becomes the table of
@@ -98,6 +99,7 @@ const std::map<std::string_view, std::function<std::string()>> tables{
 }  // namespace
 
 int main() {
+    const PlainStreams plain_streams;
     for (std::string line; std::getline(std::cin, line);) {
         const auto table = tables.find(line);
         std::cout << (table == tables.end() ? line + '\n' : table->second());

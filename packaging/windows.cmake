@@ -1,5 +1,6 @@
 # For Windows: one directory that runs wherever it stands, with all that the windows need; tools/package_windows makes an
 # archive and an installer of it.
+target_link_options(fill_options PRIVATE -static)  # which runs during the build
 install(TARGETS coltre coltre-calcolo DESTINATION .)
 install(FILES $<TARGET_RUNTIME_DLLS:coltre> DESTINATION .)
 foreach(library IN ITEMS libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
@@ -36,5 +37,5 @@ install_text(/usr/share/doc/qt6-translations-l10n/copyright Qt-traduzioni.txt li
 install_text(/usr/share/doc/gcc-mingw-w64-base/copyright GCC.txt licenze)
 install_text(/usr/share/doc/mingw-w64-x86-64-dev/copyright mingw-w64.txt licenze)
 
-install(FILES ${built}/manuale.html DESTINATION .)
+install(FILES ${built}/manuale.html ${built}/verifica.html ${built}/casi-di-prova.html ${worked_cases} DESTINATION .)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/manuale/immagini DESTINATION .)

@@ -29,7 +29,7 @@ std::string list(const std::vector<AltitudeFault>& faults) {
 
 void check_and_repair_altitudes(std::string_view ProgramDirectory, UserDialogs& dialogs) {
     const std::filesystem::path path = find_path(altitude_file_name(ProgramDirectory));
-    const std::string file = "il file " + path.string();
+    const std::string file = "il file " + path_text(path);
     std::error_code unknown;
     if (!std::filesystem::exists(path, unknown) && !unknown) {
         if (!dialogs.ask(box(Icon::information, "Non c'è ancora " + file +
@@ -42,8 +42,8 @@ void check_and_repair_altitudes(std::string_view ProgramDirectory, UserDialogs& 
             return dialogs.show(
                 box(Icon::error, "Impossibile leggere " + file + ": " + *check.failure + "."));
         if (check.faults.empty())
-            return dialogs.show(box(Icon::information, "Nessun difetto nel file " + path.string() + "."));
-        if (!dialogs.ask(box(Icon::warning, "Difetti del file " + path.string() + ":" + list(check.faults) +
+            return dialogs.show(box(Icon::information, "Nessun difetto nel file " + path_text(path) + "."));
+        if (!dialogs.ask(box(Icon::warning, "Difetti del file " + path_text(path) + ":" + list(check.faults) +
                                                 "\r\rRiparare il file? Le altre righe restano come sono; il "
                                                 "file di ora si conserva accanto.")))
             return;

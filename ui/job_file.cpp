@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <utility>
 
 #include "platform/files.h"
@@ -41,7 +40,7 @@ std::optional<Job> JobFile::open(const std::string& ProgramDirectory) {
     const QString path = ask_file_to_open(tr("Apri lavoro"), m_path, filter);
     if (path.isEmpty()) return std::nullopt;
     const QString shown = QDir::toNativeSeparators(path);
-    const FileContent file = read_content(QFile::encodeName(path).toStdString());
+    const FileContent file = read_content(path.toStdString());
     Job job;
     if (file.end == ReadEnd::read) {
         job = read_job(file.bytes, ProgramDirectory);

@@ -20,13 +20,13 @@ class JobTest : public MainWindowTest {
     }
     /// What saving from a window writes.
     std::string saved(QWidget& from) {
-        std::filesystem::remove(path);
+        std::filesystem::remove(to_path(path));
         for (QAction* action : from.findChildren<QAction*>())
             if (action->text() == "Salva lavoro…") return action->trigger(), read_file(path).value_or("");
         return "no entry";
     }
 
-    std::string path = (directory.path() / "x.coltre").string();
+    std::string path = path_text(directory.path() / "x.coltre");
 };
 
 TEST_F(JobTest, OpeningAJobFillsTheWindowsSoThatSavingWritesItAgain) {
@@ -111,9 +111,9 @@ TEST_F(JobTest, CalculatedEntriesAreNotLostWithoutAQuestion) {
     click("Chiudi");
     EXPECT_TRUE(window.isVisible());
 
-    path = "/proc/x.coltre";
+    path = path_text(directory.path() / "nowhere" / "x.coltre");
     dialogs.expect(Icon::error,
-                   "Impossibile salvare il lavoro nel file /proc/x.coltre: la cartella non esiste.");
+                   "Impossibile salvare il lavoro nel file " + path + ": la cartella non esiste.");
     saved(window);
     dialogs.expect_question(Icon::warning, end, true);
     click("Chiudi");

@@ -81,7 +81,7 @@ TEST_F(MenusTest, ResultsAreCopiedAsTheyAreShownWithTheUsersDecimalSign) {
 }
 
 TEST_F(MenusTest, ReportIsPrinted) {
-    const std::string file = (directory.path() / "stampa.pdf").string();
+    const std::string file = path_text(directory.path() / "stampa.pdf");
     std::string output = file;
     menus().ask_printer = [&](QPrinter& printer) {
         printer.setOutputFileName(output.c_str());
@@ -92,13 +92,13 @@ TEST_F(MenusTest, ReportIsPrinted) {
     click("Calcola");
     QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
     EXPECT_THAT(read_file(file).value(), HasSubstr("%%EOF"));
-    output = "/proc/stampa.pdf";
-    dialogs.expect(Icon::error, "Impossibile stampare nel file /proc/stampa.pdf.");
+    output = path_text(directory.path() / "nowhere" / "stampa.pdf");
+    dialogs.expect(Icon::error, "Impossibile stampare nel file " + output + ".");
     choose(window, "Stampa…");
 }
 
 TEST_F(MenusTest, AltitudesAreCheckedAndRepairedAfterAQuestionAndARewritingIsNoted) {
-    const std::string file = (directory.path() / "altitudini.txt").string();
+    const std::string file = path_text(directory.path() / "altitudini.txt");
     const auto check = [this] { choose(window, "Verifica e ripara altitudini.txt…"); };
     dialogs.expect_question(
         Icon::information,
