@@ -62,8 +62,8 @@ void calculate_entries(const Fields& fields, ProgramCells& cells, Outcome& outco
 /// @param confirmation  of a report that was written whole
 void close(ReportFile& report, const std::string& confirmation, Outcome& outcome) {
     report.close();
-    outcome.file_failure = report.failure();
-    if (!outcome.file_failure.empty()) return outcome.tell(Icon::error, outcome.file_failure);
+    outcome.report_failure = report.failure();
+    if (outcome.report_failure) return outcome.tell(Icon::error, *outcome.report_failure);
     outcome.report = report.name();
     if (outcome.fault == Fault::none) outcome.tell(Icon::none, confirmation);
 }
@@ -108,7 +108,7 @@ void calculate_and_report(const Fields& fields, const ReportWriter& writer, Prog
     ReportFile report(program.directories.WorkDirectory + "\\" + std::string(writer.file_name),
                       outcome.messages);
     writer.write_heading(report, data, cells);
-    if (report.failure().empty() && report.fault() == Fault::none) {
+    if (!report.failure() && report.fault() == Fault::none) {
         calculate_entries(fields, cells, outcome);
         writer.write_section(report, data, cells, outcome.entries, outcome.calculation);
     }

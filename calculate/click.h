@@ -6,6 +6,7 @@
 
 #include "calculate/entry_reader.h"
 #include "engine/calculation.h"
+#include "platform/failure.h"
 #include "platform/messages.h"
 #include "report/report_file.h"
 #include "startup/program.h"
@@ -32,8 +33,7 @@ struct Fields {
 struct Outcome {
     Messages messages;          ///< to be shown, in order
     Fault fault = Fault::none;  ///< why the calculation stopped; Fault::none if it ran to its end
-    /// Why the report could not be written, which is among the messages; empty if it could.
-    std::string file_failure;
+    Failure report_failure;     ///< why the report could not be written; it is among the messages
     /// The report that stands on disk, whole or up to where the calculation stopped; empty if none was
     /// written.
     std::string report;

@@ -44,8 +44,8 @@ void ReportFile::heading(const ReportHeading& heading) {
     blank_line();
 }
 
-std::string ReportFile::failure() const {
-    if (!m_file.failure()) return {};
+Failure ReportFile::failure() const {
+    if (!m_file.failure()) return std::nullopt;
     return "Impossibile scrivere il file " + m_name + ": " + *m_file.failure() + ".";
 }
 

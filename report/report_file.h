@@ -45,9 +45,8 @@ class ReportFile {
     /// Puts the report in place.
     void close() { static_cast<void>(m_file.commit()); }
 
-    /// What to tell the user where the file could not be created or written, in Italian; empty while all is
-    /// well.
-    [[nodiscard]] std::string failure() const;
+    /// What to tell the user where the file could not be created or written: a whole sentence.
+    [[nodiscard]] Failure failure() const;
 
     /// Fault::numeric_error once a number was too large for formatted().
     [[nodiscard]] Fault fault() const { return m_fault; }

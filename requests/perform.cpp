@@ -141,8 +141,8 @@ Answer perform(const Request& request, const Environment& environment, SiteMemor
     result.qsk = outcome.qsk;
     if (outcome.fault != Fault::none) {
         result.fail(End::failed_with_message, std::string(fault_text(outcome.fault)));
-    } else if (!outcome.file_failure.empty()) {
-        result.fail(End::failed_with_message, outcome.file_failure);
+    } else if (outcome.report_failure) {
+        result.fail(End::failed_with_message, *outcome.report_failure);
     }
     if (!outcome.report.empty()) result.report = path_text(find_path(outcome.report));
     if (request.value(keys::illustrata) != nullptr) {
