@@ -11,8 +11,6 @@ namespace {
 
 constexpr double span = 2500;  // of the arc
 constexpr double max_rise = span / 2;
-constexpr double base = 1180;  // of the load diagrams
-constexpr double room = 620;   // of their ordinates
 
 /// The arc of one arrangement: the same roof stands in the sketch twice.
 struct Vault {
@@ -80,6 +78,8 @@ Drawing cylindrical_sketch(const Entries& entries, const ProgramCells* loads) {
     const double qs_left = results.qs_4b;
     const double qs_right = results.qs_4c;
     const double largest = std::max({qs_uniform, qs_left, qs_right});
+    constexpr double base = 1180;  // of the load diagrams
+    constexpr double room = 620;   // of their ordinates
     const auto top = [&](double load) { return base - ordinate(load, largest, room); };
 
     const bool beyond_roof = results.L1 > L;

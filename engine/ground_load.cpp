@@ -11,8 +11,6 @@ namespace {
 
 using namespace quantities;
 
-constexpr std::string_view circular = "Circ. 4 luglio 1996";
-
 /// qsk = constant up to 200 m, else slope_load (1 + (altitude / reference)^2).
 struct ZoneLoad {
     double constant;    // kN/m2

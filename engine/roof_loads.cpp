@@ -8,8 +8,6 @@ namespace {
 
 using namespace results;
 
-constexpr std::string_view circular = "Circ. 4 luglio 1996";
-
 /// A coefficient's cell set for a pitch; of a negative one it is what was there before.
 /// @param previous  symbol of that   @param mu  the coefficient's function
 template <typename Number, typename Function>

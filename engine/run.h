@@ -13,6 +13,9 @@
 // does the same operations and keeps each named quantity as a step.
 namespace coltre {
 
+/// The source of every rule that names no section of it.
+inline constexpr std::string_view circular = "Circ. 4 luglio 1996";
+
 /// The symbol of a step; where several quantities have one each, whose it is: d of qs_2a is "d_qs_2a".
 struct Symbol {
     Symbol(std::string_view symbol_name) : name(symbol_name) {}

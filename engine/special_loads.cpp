@@ -68,7 +68,7 @@ void level_change(Run<Number>& run, const Entries& entries) {
 
 template <typename Number>
 void wall(Run<Number>& run, const Entries& entries) {
-    run.source("Circ. 4 luglio 1996");
+    run.source(circular);
     const Number G = run.stored(&ProgramCells::qsk, "qsk");
     const Number h = run.entry("h", entries.h);
     run.set(wall_qs1, mu1_flat * G);

@@ -19,11 +19,9 @@ namespace {
 constexpr std::array command_keys{keys::lavoro,     keys::relazione,     keys::altitudini, keys::passaggi,
                                   keys::illustrata, keys::impaginazione, keys::sovrascrivi};
 
-constexpr std::string_view blanks = " \t\r\n";
-
 bool is_batch(std::string_view bytes) {
     const std::size_t end = std::min(bytes.find('\n'), bytes.size());
-    return bytes.find_first_not_of(blanks, end) != std::string_view::npos &&
+    return bytes.find_first_not_of(json_blanks, end) != std::string_view::npos &&
            read_json_request(bytes.substr(0, end)).error.empty();
 }
 
@@ -36,7 +34,7 @@ JsonRequest refused(std::string error) {
 JsonRequest read_request(std::string_view bytes) {
     if (bytes.size() > longest_job)
         return refused("il file è più lungo di " + std::to_string(longest_job) + " byte");
-    if (bytes.find_first_not_of(blanks) == std::string_view::npos) return refused("il file è vuoto");
+    if (bytes.find_first_not_of(json_blanks) == std::string_view::npos) return refused("il file è vuoto");
     if (is_batch(bytes)) return refused("il file contiene più richieste, è un lotto del comando");
     JsonRequest request = read_json_request(bytes, UnknownKeys::listed);
     if (request.error.empty()) request.error = validation_error(request.request);

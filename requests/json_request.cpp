@@ -9,8 +9,6 @@ namespace coltre {
 
 namespace {
 
-constexpr std::string_view blanks = " \t\r\n";
-
 /// Whether a "\u" escape named half a character: the parser lets the second half pass alone.
 bool has_half_character(std::string_view text) {
     for (std::size_t i = text.find('\xED'); i != std::string_view::npos; i = text.find('\xED', i + 1)) {
@@ -84,7 +82,7 @@ class RequestHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Re
         if (repeated) error("chiave ripetuta: " + in_quotes(name));
         if (m_is_id) {
             m_result.id = {};
-            m_id_start = m_line.find_first_not_of(blanks, m_line.find(':', m_stream.Tell()) + 1);
+            m_id_start = m_line.find_first_not_of(json_blanks, m_line.find(':', m_stream.Tell()) + 1);
         }
         return true;
     }
@@ -184,7 +182,7 @@ JsonRequest read_json_request(std::string_view line, UnknownKeys unknown) {
     if (line.starts_with(byte_order_mark)) line.remove_prefix(byte_order_mark.size());
 
     JsonRequest result;
-    if (line.find_first_not_of(blanks) == std::string_view::npos) {
+    if (line.find_first_not_of(json_blanks) == std::string_view::npos) {
         result.error = "riga vuota";
         return result;
     }

@@ -8,6 +8,9 @@
 
 namespace coltre {
 
+/// What may stand between the parts of a JSON text.
+inline constexpr std::string_view json_blanks = " \t\r\n";
+
 /// A line of a batch, read.
 struct JsonRequest {
     Request request;

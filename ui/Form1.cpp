@@ -12,6 +12,7 @@
 #include "text/number_text.h"
 #include "ui/CoeffEsposizione.h"
 #include "ui/PeriododiRitorno.h"
+#include "ui/qt_text.h"
 #include "ui/window_setup.h"
 #include "ui_Form1.h"
 #include "version/maker.h"
@@ -19,10 +20,6 @@
 namespace coltre {
 
 namespace {
-
-QString qt(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
 
 /// Brings a window that is open to the front.
 /// @return false if there is none

@@ -5,14 +5,11 @@
 
 #include "drawings/sketches.h"
 #include "platform/environment.h"
+#include "ui/qt_text.h"
 
 namespace coltre {
 
 namespace {
-
-QString qt(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
 
 template <typename Control>
 Control* find(QWidget& window, std::string_view name) {

@@ -91,7 +91,7 @@ class PdfPages {
         const bool underlined = heading.level == 2;
         const double height = text->height() + (underlined ? 0.8 * mm : 0);
         add({height, heading.level <= 2 ? 6 * mm : 4 * mm, true},
-            [text, height, underlined](QPainter& painter, const Place& place) {
+            [text, height, underlined](QPainter& painter, const PlaceOnPages& place) {
                 text->paint(painter, {0, place.top});
                 if (underlined)
                     painter.fillRect(QRectF(0, place.top + height, text_width_a_page, hairline), rule_colour);
@@ -116,7 +116,7 @@ class PdfPages {
         remark->lay_out(room, Qt::AlignRight);
         const double remark_top = side_by_side ? (letters - remark_letters) / 2 : formula->height();
         add({std::max(formula->height(), line.remark.empty() ? 0 : remark_top + remark->height()), 1.2 * mm},
-            [formula, remark, remark_top](QPainter& painter, const Place& place) {
+            [formula, remark, remark_top](QPainter& painter, const PlaceOnPages& place) {
                 formula->paint(painter, {indent, place.top});
                 remark->paint(painter, {indent, place.top + remark_top});
             });
@@ -148,7 +148,7 @@ class PdfPages {
         double gap = 2 * mm;
         const double repeated = frame->header.height;
         if (repeated > 0) {
-            add({repeated, gap, true}, [frame](QPainter& painter, const Place& place) {
+            add({repeated, gap, true}, [frame](QPainter& painter, const PlaceOnPages& place) {
                 frame->paint(painter, frame->header, place.top, true);
             });
             gap = 0;
@@ -157,7 +157,7 @@ class PdfPages {
             lay_out(cells, table.columns, *frame);
             const double height = cells.height;
             add({height, gap, false, repeated},
-                [frame, repeated, cells = std::move(cells)](QPainter& painter, const Place& place) {
+                [frame, repeated, cells = std::move(cells)](QPainter& painter, const PlaceOnPages& place) {
                     if (place.begins_page && repeated > 0)
                         frame->paint(painter, frame->header, place.top - repeated, true);
                     frame->paint(painter, cells, place.top, false);
@@ -177,7 +177,7 @@ class PdfPages {
             {1.0, text_width_a_page / page.width, (text_height_a_page - caption_height) / page.height});
         const QSizeF size(page.width * scale, page.height * scale);
         add({size.height() + caption_height, 3 * mm},
-            [this, &figure, caption, size](QPainter& painter, const Place& place) {
+            [this, &figure, caption, size](QPainter& painter, const PlaceOnPages& place) {
                 const QRectF target(QPointF((text_width_a_page - size.width()) / 2, place.top), size);
                 paint_figure(painter, target, figure, m_look);
                 painter.setPen(Qt::black);
@@ -200,7 +200,7 @@ class PdfPages {
     /// @param scale  dots of the device a twip
     /// @return false if the device does not take it
     bool paint(QPagedPaintDevice& device, double scale = 1) const {
-        const std::vector<Place> places = paginate(m_flow, text_height_a_page);
+        const std::vector<PlaceOnPages> places = paginate(m_flow, text_height_a_page);
         const int pages = places.empty() ? 1 : places.back().page + 1;
         QPainter painter;
         if (!painter.begin(&device)) return false;
@@ -220,7 +220,7 @@ class PdfPages {
     }
 
   private:
-    using ItemPainter = std::function<void(QPainter&, const Place&)>;
+    using ItemPainter = std::function<void(QPainter&, const PlaceOnPages&)>;
 
     static constexpr double remark_letters = 0.9 * letters;
 
@@ -239,7 +239,7 @@ class PdfPages {
             const double height = text->height_of_line(i);
             const bool keep = i + 1 < lines && (i == 0 || i + 2 == lines);
             add({height, i == 0 ? gap : 0, keep},
-                [text, indent, ornament, i, height](QPainter& painter, const Place& place) {
+                [text, indent, ornament, i, height](QPainter& painter, const PlaceOnPages& place) {
                     if (ornament) ornament(painter, place.top, height);
                     text->paint_line(painter, i, {indent, place.top});
                 });

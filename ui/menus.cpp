@@ -17,6 +17,7 @@
 #include "ui/altitude_repair.h"
 #include "ui/clipboard.h"
 #include "ui/document_pdf.h"
+#include "ui/qt_text.h"
 #include "ui/results_copy.h"
 #include "ui/window_setup.h"
 #include "version/maker.h"
@@ -116,7 +117,7 @@ void Menus::write_illustrated_report(const CalculationTab& /*open_tab*/) {
 
 void Menus::print_report(const CalculationTab& /*open_tab*/) {
     const std::optional<Document> report = m_last_calculation.report();
-    if (!report) return show_error(QString::fromUtf8(no_calculation_yet.data()));
+    if (!report) return show_error(qt(no_calculation_yet));
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(QString::fromStdString(report->title));
     printer.setPageSize(QPageSize(QPageSize::A4));

@@ -25,8 +25,8 @@ double height_at_top(const std::vector<FlowItem>& items, std::size_t first, std:
 
 }  // namespace
 
-std::vector<Place> paginate(const std::vector<FlowItem>& items, double page_height) {
-    std::vector<Place> places;
+std::vector<PlaceOnPages> paginate(const std::vector<FlowItem>& items, double page_height) {
+    std::vector<PlaceOnPages> places;
     places.reserve(items.size());
     int page = 0;
     double filled = 0;

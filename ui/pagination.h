@@ -13,7 +13,7 @@ struct FlowItem {
     double repeated = 0;  ///< height of what stands above it where it begins a page: its table's header
 };
 
-struct Place {
+struct PlaceOnPages {
     int page = 0;    ///< from 0
     double top = 0;  ///< of the item itself, from the top of the page's text
     bool begins_page = false;
@@ -22,7 +22,7 @@ struct Place {
 /// Places the items on pages, in their order. Items that are kept together stand on one page unless they are
 /// taller than it; an item taller than a page has one to itself and reaches over its end.
 /// @return a place for each item
-std::vector<Place> paginate(const std::vector<FlowItem>& items, double page_height);
+std::vector<PlaceOnPages> paginate(const std::vector<FlowItem>& items, double page_height);
 
 /// Widths of columns that together are no wider than the room: those that need less than their share have
 /// what they need, the others share the rest.

@@ -5,6 +5,7 @@
 #include "document/formula_text.h"
 #include "document/site_comparison.h"
 #include "site/regions.h"
+#include "ui/qt_text.h"
 
 namespace coltre {
 
@@ -62,25 +63,22 @@ int PlaceModel::columnCount(const QModelIndex& parent) const {
 }
 
 QString PlaceModel::text(const PlaceHit& hit, int column) const {
-    const auto of = [](std::string_view utf8) {
-        return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-    };
     const Place& place = *hit.place;
     switch (column) {
         case name:
-            return of(place.name);
+            return qt(place.name);
         case province:
-            return of(place.province);
+            return qt(place.province);
         case zone:
-            return of(zone_name(place.zone));
+            return qt(zone_name(place.zone));
         case altitude:
-            return of(place.altitude);
+            return qt(place.altitude);
         case qsk: {
             const auto load = m_calculation ? ground_load_at(place, *m_calculation) : std::nullopt;
-            return load ? of(fixed_text(*load, quantities::area_load.decimals)) : QStringLiteral("–");
+            return load ? qt(fixed_text(*load, quantities::area_load.decimals)) : QStringLiteral("–");
         }
         default:
-            return of(remark(hit));
+            return qt(remark(hit));
     }
 }
 

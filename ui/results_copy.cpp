@@ -2,6 +2,7 @@
 
 #include "platform/environment.h"
 #include "text/number_text.h"
+#include "ui/qt_text.h"
 
 namespace coltre {
 
@@ -13,8 +14,7 @@ std::unique_ptr<QMimeData> copied(const std::vector<ShownResult>& results, const
         table += "<tr><td colspan=\"3\">" + remark.toHtmlEscaped() + "</td></tr>\n";
     }
     for (const ShownResult& it : results) {
-        const QString unit =
-            QString::fromUtf8(it.quantity.unit.data(), static_cast<qsizetype>(it.quantity.unit.size()));
+        const QString unit = qt(it.quantity.unit);
         QString number =
             QString::fromStdString(display_number_text(round_half_even(it.value, it.quantity.decimals)))
                 .trimmed();

@@ -5,15 +5,12 @@
 #include "document/formula_text.h"
 #include "document/sensitivity.h"
 #include "document/site_comparison.h"
+#include "ui/qt_text.h"
 #include "ui/window_setup.h"
 
 namespace coltre {
 
 namespace {
-
-QString qt(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
 
 /// "Copertura a due falde"
 QString name_of(const LoadInputs& calculation) {

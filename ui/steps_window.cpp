@@ -7,6 +7,7 @@
 #include "ui/clipboard.h"
 #include "ui/document_copy.h"
 #include "ui/document_text.h"
+#include "ui/qt_text.h"
 #include "ui/window_setup.h"
 #include "ui_steps_window.h"
 
@@ -38,7 +39,7 @@ Parts parts_of(const Document& document) {
 StepsWindow::StepsWindow(QWidget* parent)
     : QDialog(parent, Qt::Window), m_ui(std::make_unique<Ui::StepsWindow>()) {
     m_ui->setupUi(this);
-    m_ui->passaggi->setPlainText(QString::fromUtf8(no_calculation_yet.data()));
+    m_ui->passaggi->setPlainText(qt(no_calculation_yet));
     for (const QTextBrowser* page : {m_ui->passaggi, m_ui->figura})
         page->viewport()->installEventFilter(this);
     answer_mnemonics_at_once(*this);

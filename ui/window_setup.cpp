@@ -10,6 +10,8 @@
 #include <QShortcutEvent>
 #include <QVBoxLayout>
 
+#include "ui/qt_text.h"
+
 namespace coltre {
 
 namespace {
@@ -38,17 +40,17 @@ class MnemonicFilter : public QObject {
     }
 };
 
-struct Role {
+struct AccessibleRole {
     const char* class_name;
     QAccessible::Role role;
 };
-constexpr Role roles[] = {{"coltre::Form1", QAccessible::Window},
-                          {"coltre::casipart", QAccessible::Window},
-                          {"coltre::SketchWidget", QAccessible::Graphic},
-                          {"coltre::VectorPicture", QAccessible::Graphic}};
+constexpr AccessibleRole roles[] = {{"coltre::Form1", QAccessible::Window},
+                                    {"coltre::casipart", QAccessible::Window},
+                                    {"coltre::SketchWidget", QAccessible::Graphic},
+                                    {"coltre::VectorPicture", QAccessible::Graphic}};
 
 QAccessibleInterface* with_role(const QString& class_name, QObject* object) {
-    for (const Role& it : roles)
+    for (const AccessibleRole& it : roles)
         if (class_name == it.class_name) return new QAccessibleWidget(static_cast<QWidget*>(object), it.role);
     return nullptr;
 }
@@ -103,7 +105,7 @@ void answer_mnemonics_at_once(QWidget& window) {
 
 void fill(QComboBox& list, std::span<const std::string_view> items) {
     for (const std::string_view item : items)
-        list.addItem(QString::fromUtf8(item.data(), static_cast<qsizetype>(item.size())));
+        list.addItem(qt(item));
 }
 
 void set_row_height(QTableView& table) {

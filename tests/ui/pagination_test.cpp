@@ -23,7 +23,7 @@ class Pagination : public testing::TestWithParam<Case> {};
 
 TEST_P(Pagination, PutsEachItemInItsPlace) {
     std::string places;
-    for (const Place& place : paginate(GetParam().items, 50))
+    for (const PlaceOnPages& place : paginate(GetParam().items, 50))
         places += (places.empty() ? "" : " ") + std::to_string(place.page) + ":" +
                   std::to_string(static_cast<int>(place.top)) + (place.begins_page ? "*" : "");
     EXPECT_EQ(places, GetParam().places);
