@@ -18,7 +18,7 @@ std::optional<Stop> set_ground_load(const Fields& fields, ProgramCells& cells, O
     const double CE = reader.lenient("coefficiente di esposizione", "CE", "", fields.ComboEsp);
     const double Ct = reader.lenient("coefficiente termico", "Ct", "", fields.TextCTermico);
     if (reader.stop()) return reader.stop();
-    return apply_coefficients(cells, CE, Ct, outcome);
+    return apply_load_factors(cells, CE, Ct, outcome);
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ std::optional<Stop> set_design_ground_load(const Fields& fields, ProgramCells& c
     const double Ct = reader.lenient("coefficiente termico", "Ct", "", fields.TextCTermico);
     if (reader.stop()) return reader.stop();
     if (auto stop = set_base_load(cells, altitude, outcome)) return stop;
-    return apply_coefficients(cells, CE, Ct, outcome);
+    return apply_load_factors(cells, CE, Ct, outcome);
 }
 
 }  // namespace

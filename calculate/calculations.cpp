@@ -79,25 +79,37 @@ constexpr ResultPlace snow_guard_places[] = {
     {"Fsoutput", &Fs},
 };
 
-// {kind, name, meaning, window, page, entries, places, sketch, picture, needs_ground_load, example}
+constexpr std::string_view level_change_quotation =
+    "<In corrisponenza di bruschi cambiamenti di quota delle coperture si considererà la distribuzione di carico più "
+    "gravosa tra quelle indicate in assenza di discontinuità e quella qui riportata> (Circ. 4 luglio 96 - C.6.4)";
+constexpr std::string_view snow_guard_quotation =
+    "<La forza esercitata da una massa di neve contro una protezione viene calcolata nell'ipotesi che il coefficiente "
+    "di attrito tra neve e manto sia nullo. La forza va considerata nella direzione dello slittamento per unità di "
+    "lunghezza dell' ostacolo.> (Circ. 4 luglio 96 - C.6.6)";
+
+constexpr std::string_view roofs_heading = "la-copertura";
+
+// {kind, name, meaning, window, page, entries, places, sketch, picture, needs_ground_load, example, manual_heading, quotation}
 constexpr std::array<Description, 7> table{{
     {Kind::one_pitch, "una-falda", "copertura ad una falda", Window::main, 0, one_pitch_entries, one_pitch_places,
-     "sketch_1", "copertura-una-falda", true, "--provincia Torino --comune Torino --alfa 15 --relazione ."},
+     "sketch_1", "copertura-una-falda", true, "--provincia Torino --comune Torino --alfa 15 --relazione .", roofs_heading},
     {Kind::two_pitches, "due-falde", "copertura a due falde", Window::main, 1, two_pitches_entries, two_pitches_places,
-     "sketch_2", "copertura-due-falde", true, "--provincia Cuneo --comune Cuneo --alfa1 25 --alfa2 40"},
+     "sketch_2", "copertura-due-falde", true, "--provincia Cuneo --comune Cuneo --alfa1 25 --alfa2 40", roofs_heading},
     {Kind::several_pitches, "piu-falde", "copertura a più falde, condizione aggiuntiva", Window::main, 2,
      several_pitches_entries, several_pitches_places,
-     "sketch_3", "copertura-piu-falde", true, "--zona 2 --altitudine 350 --alfa1 20 --alfa2 40"},
+     "sketch_3", "copertura-piu-falde", true, "--zona 2 --altitudine 350 --alfa1 20 --alfa2 40", roofs_heading},
     {Kind::cylindrical, "cilindrica", "copertura cilindrica", Window::main, 3, cylindrical_entries, cylindrical_places,
-     "sketch_4", "copertura-cilindrica", true, "--zona 1 --altitudine 120 --larghezza 20 --altezza 4 --ce 0.9"},
+     "sketch_4", "copertura-cilindrica", true, "--zona 1 --altitudine 120 --larghezza 20 --altezza 4 --ce 0.9", roofs_heading},
     {Kind::level_change, "discontinuita", "coperture con discontinuità di quota", Window::special_cases, 0,
      level_change_entries, level_change_places,
-     "sketch_5", "discontinuita", true, "--zona 0 --altitudine 600 --b1 10 --b2 8 --h 2.5 --alfa 10"},
+     "sketch_5", "discontinuita", true, "--zona 0 --altitudine 600 --b1 10 --b2 8 --h 2.5 --alfa 10",
+     "coperture-con-discontinuità-di-quota", level_change_quotation},
     {Kind::wall, "parete", "accumulo contro una parete verticale", Window::special_cases, 1, wall_entries, wall_places,
-     "sketch_6", "parete", true, "--zona 0 --altitudine 600 --h 2.30 --unita \"Kgf , m\""},
+     "sketch_6", "parete", true, "--zona 0 --altitudine 600 --h 2.30 --unita \"Kgf , m\"", "pareti-verticali"},
     {Kind::snow_guard, "ostacolo", "forza su paraneve e ostacoli", Window::special_cases, 2,
      snow_guard_entries, snow_guard_places,
-     "sketch_7", "ostacolo", false, "--zona 3 --altitudine 40 --qs 1.28 --b 5 --alfa 10"},
+     "sketch_7", "ostacolo", false, "--zona 3 --altitudine 40 --qs 1.28 --b 5 --alfa 10",
+     "ostacoli-sulle-coperture", snow_guard_quotation},
 }};
 
 // clang-format on

@@ -46,6 +46,8 @@ struct Description {
     std::string_view picture;             ///< name that its sketch is saved under first
     bool needs_ground_load;               ///< false: qsk plays no part in its results
     std::string_view example;             ///< options of an example of the command
+    std::string_view manual_heading;      ///< the manual's heading of it, as a page links to it
+    std::string_view quotation{};         ///< what its page and the document quote of the circular
 };
 
 /// The rows, in the order of the tabs and pages.

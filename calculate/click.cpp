@@ -50,7 +50,7 @@ void calculate_entries(const Fields& fields, ProgramCells& cells, Outcome& outco
     outcome.complete = !end.stopped();
     if (end.fault == Fault::incongruent_dimensions) {
         outcome.fault = end.fault;
-        outcome.tell(Icon::warning, "Dimensioni copertura non congruenti");
+        outcome.add_message(Icon::warning, "Dimensioni copertura non congruenti");
     } else if (end.stopped()) {
         Stop stop{end.fault, "Non si può calcolare " + std::string(end.quantity) + "."};
         const std::string why = reason(end, outcome.entries, cells);
@@ -63,9 +63,9 @@ void calculate_entries(const Fields& fields, ProgramCells& cells, Outcome& outco
 void close(ReportFile& report, const std::string& confirmation, Outcome& outcome) {
     report.close();
     outcome.report_failure = report.failure();
-    if (outcome.report_failure) return outcome.tell(Icon::error, *outcome.report_failure);
+    if (outcome.report_failure) return outcome.add_message(Icon::error, *outcome.report_failure);
     outcome.report = report.name();
-    if (outcome.fault == Fault::none) outcome.tell(Icon::none, confirmation);
+    if (outcome.fault == Fault::none) outcome.add_message(Icon::none, confirmation);
 }
 
 }  // namespace
@@ -89,7 +89,7 @@ std::optional<Stop> set_base_load(ProgramCells& cells, double altitude, Outcome&
     return Stop{fault, "Il carico neve al suolo qsk non si può calcolare: l'altitudine è troppo grande."};
 }
 
-std::optional<Stop> apply_coefficients(ProgramCells& cells, double CE, double Ct, Outcome& outcome) {
+std::optional<Stop> apply_load_factors(ProgramCells& cells, double CE, double Ct, Outcome& outcome) {
     const Fault fault = apply_load_factors(cells, CE, Ct, trace_of(outcome));
     if (fault == Fault::none) {
         outcome.qsk = cells.qsk;

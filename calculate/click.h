@@ -44,7 +44,7 @@ struct Outcome {
     bool complete = false;           ///< all results are in their cells: the labels are to be refreshed
     std::optional<Trace> trace;      ///< if it was asked for
 
-    void tell(Icon icon, std::string text) {
+    void add_message(Icon icon, std::string text) {
         messages.push_back({icon, std::string(program_title), std::move(text)});
     }
     void stop(const Stop& stop) {
@@ -79,7 +79,7 @@ std::optional<Stop> set_base_load(ProgramCells& cells, double altitude, Outcome&
 
 /// Multiplies the qsk cell by the return period factor and the two coefficients: the ground load of the
 /// click.
-std::optional<Stop> apply_coefficients(ProgramCells& cells, double CE, double Ct, Outcome& outcome);
+std::optional<Stop> apply_load_factors(ProgramCells& cells, double CE, double Ct, Outcome& outcome);
 
 /// What follows the ground load in both clicks: unit system, heading of the report if one is wanted, the
 /// calculation of the entries, its section, and the report put in place. A stop is reported with its reason;

@@ -12,6 +12,12 @@ target_compile_options(
               # A formula gives the same bits on every processor: no fused multiply-add.
               -ffp-contract=off)
 
+# Sources that are compiled in groups see each other's own names: what these warnings say there is said of each source by
+# itself where it is compiled alone, in the preset dev.
+if(CMAKE_UNITY_BUILD)
+    target_compile_options(coltre_compile_options INTERFACE -Wno-shadow $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+endif()
+
 set(COLTRE_SANITIZE "" CACHE STRING "Sanitizers to compile with, comma-separated (address,undefined); empty: none")
 if(COLTRE_SANITIZE)
     target_compile_options(coltre_compile_options INTERFACE -fsanitize=${COLTRE_SANITIZE} -fno-sanitize-recover=all

@@ -106,12 +106,6 @@ Remarks remarks_on(const Subject& subject) {
         case Kind::level_change:
             tell_limits(subject, remarks.on_coefficients);
             tell_drift(subject, remarks.on_loads);
-            remarks.quotation =
-                "<In corrisponenza di bruschi cambiamenti di quota delle coperture si considererà la "
-                "distribuzione di "
-                "carico più gravosa tra quelle indicate in assenza di discontinuità e quella qui riportata> "
-                "(Circ. 4 "
-                "luglio 96 - C.6.4)";
             break;
         case Kind::wall:
             if (subject.computed(wall_ls))
@@ -120,12 +114,6 @@ Remarks remarks_on(const Subject& subject) {
             break;
         case Kind::snow_guard:
             tell_force(subject, remarks.on_loads);
-            remarks.quotation =
-                "<La forza esercitata da una massa di neve contro una protezione viene calcolata "
-                "nell'ipotesi che il "
-                "coefficiente di attrito tra neve e manto sia nullo. La forza va considerata nella direzione "
-                "dello "
-                "slittamento per unità di lunghezza dell' ostacolo.> (Circ. 4 luglio 96 - C.6.6)";
             break;
     }
     return remarks;

@@ -13,7 +13,6 @@ struct Remarks {
     std::vector<std::string> on_coefficients;
     std::vector<std::string> on_loads;
     std::vector<std::string> on_length;  ///< of overhang and drift
-    std::string quotation;               ///< of the circular, on the loads; empty without one
 };
 
 Remarks remarks_on(const Subject& subject);

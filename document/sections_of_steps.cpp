@@ -166,7 +166,8 @@ void write_loads(Composer& write, const Subject& subject, const Remarks& remarks
                   subject.fields.kind == Kind::snow_guard ? "Forza sull'ostacolo" : "Carico sulla copertura",
                   remarks.on_loads);
     write_load_figure(write, subject);
-    if (!remarks.quotation.empty()) write.note(remarks.quotation);
+    const std::string_view quotation = describe(subject.fields.kind).quotation;
+    if (!quotation.empty()) write.note(std::string(quotation));
     write_chapter(write, subject, Chapter::further,
                   subject.is_roof() ? "Neve sporgente" : "Lunghezza di accumulo", remarks.on_length);
 }

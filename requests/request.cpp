@@ -74,9 +74,9 @@ std::span<const Key> common_keys() {
 
 Key key_of(const Entry& entry) {
     // The help has the symbol for the value, "--larghezza L"; of a longer one the first letter.
-    constexpr std::string_view letters = "ALHBQ";
-    const char first = static_cast<char>(std::toupper(static_cast<unsigned char>(entry.symbol.front())));
-    return {entry.key, letters.substr(letters.find(first), 1), entry.meaning, "", KeyType::number_or_text};
+    constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+    const auto number = static_cast<std::size_t>((entry.symbol.front() | 0x20) - 'a');
+    return {entry.key, letters.substr(number, 1), entry.meaning, "", KeyType::number_or_text};
 }
 
 std::optional<Key> find_key(std::string_view name) {

@@ -1,5 +1,7 @@
 #include "requests/site_memory.h"
 
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "platform/files.h"
@@ -10,6 +12,15 @@ namespace coltre {
 
 const AltitudeTable& SiteMemory::table(std::string_view directory) {
     if (const auto known = m_tables.find(directory); known != m_tables.end()) return known->second;
+    // A directory may be spelled in several ways.
+    std::error_code error;
+    const std::string place = path_text(std::filesystem::weakly_canonical(find_path(directory), error));
+    auto table = m_tables.find(place);
+    if (table == m_tables.end()) table = m_tables.emplace(place, read_table(directory)).first;
+    return m_tables.emplace(directory, table->second).first->second;
+}
+
+AltitudeTable SiteMemory::read_table(std::string_view directory) {
     const std::string name = altitude_file_name(directory);
     FileContent file = read_content_at_rest(name);
     AltitudeTable table;
@@ -20,7 +31,7 @@ const AltitudeTable& SiteMemory::table(std::string_view directory) {
     }
     if (file.end == ReadEnd::disturbed) table.failure = file.reason;
     if (file.end == ReadEnd::read) table.bytes = *m_files.insert(std::move(file.bytes)).first;
-    return m_tables.emplace(directory, std::move(table)).first->second;
+    return table;
 }
 
 const Site* SiteMemory::recall(std::string_view directory, std::string_view province,

@@ -52,11 +52,13 @@ class SiteMemory {
         using is_transparent = void;
     };
 
+    AltitudeTable read_table(std::string_view directory);
+
     /// The three texts as one, in m_key.
     std::string_view key(std::string_view directory, std::string_view province,
                          std::string_view municipality);
 
-    std::map<std::string, AltitudeTable, std::less<>> m_tables;  // by directory
+    std::map<std::string, AltitudeTable, std::less<>> m_tables;  // by directory, in each of its spellings
     std::unordered_set<std::string> m_files;                     // what the tables hold, equal ones once
     std::unordered_map<std::string, Site, Hash, std::equal_to<>> m_sites;
     std::string m_key;

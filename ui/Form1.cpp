@@ -226,7 +226,7 @@ void Form1::province_chosen() {
     m_ui->altitude_note->hide();
     AltitudeNotices notices;
     const auto municipalities = FillMunicipalities(m_program.directories.ProgramDirectory, province, notices);
-    tell(notices);
+    show_notices(notices);
     if (!municipalities) return m_dialogs.end();
     m_ui->comuneinput->setEnabled(true);
     m_ui->comuneinput->fill(*municipalities);
@@ -238,13 +238,13 @@ void Form1::municipality_chosen() {
     const std::optional<std::string> altitude =
         ReadAltitude(m_program.directories.ProgramDirectory, m_ui->Provinciainput->utf8(),
                      m_ui->comuneinput->utf8(), notices);
-    tell(notices);
+    show_notices(notices);
     if (!altitude) return m_dialogs.end();
     m_listed_altitude = *altitude;
     m_ui->asinput->setText(QString::fromStdString(*altitude));
 }
 
-void Form1::tell(const AltitudeNotices& notices) {
+void Form1::show_notices(const AltitudeNotices& notices) {
     if (!notices.note.empty()) {
         m_ui->altitude_note->setText(QString::fromStdString(notices.note));
         m_ui->altitude_note->show();

@@ -84,7 +84,7 @@ class Form1 : public QWidget {
     /// Keeps a calculation of either window for its documents.
     void keep(const Fields& fields, const Outcome& outcome);
 
-    void tell(const AltitudeNotices& notices);
+    void show_notices(const AltitudeNotices& notices);
 
     /// Chooses region, province and municipality by their events; without a province none is chosen.
     /// @param province  in the spelling of the table

@@ -13,10 +13,15 @@
 #include "platform/environment.h"
 #include "platform/interruption.h"
 #include "ui/Form1.h"
-#include "ui/pictures.h"
 #include "ui/qt_dialogs.h"
 #include "version/maker.h"
 #include "version/version.h"
+
+// Outside any namespace, as the macro wants it: without it the linker drops the resources of a static
+// library.
+static void know_pictures() {
+    Q_INIT_RESOURCE(resources);
+}
 
 namespace coltre {
 
@@ -99,7 +104,7 @@ int run(int argc, char** argv) {
         QApplication::installTranslator(&italian);
     KeyNames key_names;
     QApplication::installTranslator(&key_names);
-    load_pictures();
+    know_pictures();
     QApplication::setWindowIcon(QIcon(":/images/coltre.png"));
 
     Program program;

@@ -8,6 +8,7 @@
 #include "platform/environment.h"
 #include "report/unit_systems.h"
 #include "text/number_reading.h"
+#include "ui/qt_text.h"
 #include "ui/window_setup.h"
 #include "ui_casipart.h"
 
@@ -94,20 +95,9 @@ void casipart::keyPressEvent(QKeyEvent* event) {
 
 void casipart::page_chosen() {
     follow_inputs();
-    const Kind kind = open_tab().kind();
-    m_ui->Label78->setVisible(kind != Kind::wall);
-    if (kind == Kind::level_change) {
-        m_ui->Label78->setText(
-            tr("<In corrisponenza di bruschi cambiamenti di quota delle coperture si considererà la "
-               "distribuzione di carico più gravosa tra quelle indicate in assenza di discontinuità e quella "
-               "qui riportata> (Circ. 4 luglio 96 - C.6.4)"));
-    } else if (kind == Kind::snow_guard) {
-        m_ui->Label78->setText(
-            tr("<La forza esercitata da una massa di neve contro una protezione viene calcolata nell'ipotesi "
-               "che il coefficiente di attrito tra neve e manto sia nullo. La forza va considerata nella "
-               "direzione dello slittamento per unità di lunghezza dell' ostacolo.> (Circ. 4 luglio 96 - "
-               "C.6.6)"));
-    }
+    const std::string_view quotation = describe(open_tab().kind()).quotation;
+    m_ui->Label78->setVisible(!quotation.empty());
+    if (!quotation.empty()) m_ui->Label78->setText(qt(quotation));
 }
 
 void casipart::report_switched() {

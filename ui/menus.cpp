@@ -31,20 +31,6 @@ QString path_of(const std::string& suite_path) {
     return QString::fromStdString(path_text(find_path(suite_path)));
 }
 
-/// The heading of the manual that a calculation is under, as its page links to it.
-QString chapter(Kind kind) {
-    switch (kind) {
-        case Kind::level_change:
-            return "coperture-con-discontinuità-di-quota";
-        case Kind::wall:
-            return "pareti-verticali";
-        case Kind::snow_guard:
-            return "ostacoli-sulle-coperture";
-        default:
-            return "la-copertura";
-    }
-}
-
 }  // namespace
 
 const Menus::Entry Menus::entries[] = {
@@ -177,7 +163,7 @@ void Menus::open_manual(const CalculationTab& open_tab) {
         const QFileInfo manual(program + place);
         if (!manual.exists()) continue;
         QUrl url = QUrl::fromLocalFile(manual.canonicalFilePath());
-        url.setFragment(chapter(open_tab.kind()));
+        url.setFragment(qt(describe(open_tab.kind()).manual_heading));
         return open(url);
     }
     show_error(

@@ -4,7 +4,6 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QFontInfo>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QPaintEvent>
 #include <QtMath>
@@ -20,9 +19,6 @@ namespace coltre {
 SketchWidget::SketchWidget(QWidget* parent) : QWidget(parent) {
     ask_file = [this](const QString& title, const QString& suggested, const QString& filter) {
         return choose_file_to_save(this, title, suggested, filter);
-    };
-    report_error = [this](const QString& text) {
-        QMessageBox::critical(this, QStringLiteral("Coltre"), text);
     };
 
     setContextMenuPolicy(Qt::ActionsContextMenu);

@@ -44,7 +44,7 @@ class SketchWidget : public QWidget {
     /// A file dialog unless replaced.
     std::function<QString(const QString& title, const QString& suggested, const QString& filter)> ask_file;
 
-    /// How an error is shown. A message box "Coltre" unless replaced.
+    /// How an error is shown; to be set by the window.
     std::function<void(const QString& text)> report_error;
 
     /// Saves the picture with the texts of its labels; a message says if that fails.

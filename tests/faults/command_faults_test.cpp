@@ -182,7 +182,7 @@ TEST_F(CommandFaults, RequestsAndResultsThatGoNowhereAreToldWithAFailure) {
     put("results", "");
     const std::string requests = path() / "requests", results = path() / "results";
     const char* const in = requests.c_str();
-    for (const Arguments& arguments : {Arguments{"--help"}, {"lotto"}})
+    for (const Arguments& arguments : {Arguments{"--help"}, {"--version"}, {"lotto"}})
         for (const Conditions& conditions : {Conditions{.output = "/dev/full", .input = in},
                                              {.output = "", .input = in},
                                              {.largest_file = 10, .output = results.c_str(), .input = in}})
