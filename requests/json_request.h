@@ -8,11 +8,15 @@
 
 namespace coltre {
 
+/// What kind of thing is wrong with a line.
+enum class JsonFault { none, cut, unreadable, unknown_kind, wrong_entry };
+
 /// A line of a batch, read.
 struct JsonRequest {
     Request request;
     std::string_view id;  ///< the value of "id" as it stands in the line; empty if there is no whole one
-    std::string error;    ///< what is wrong with the line, in Italian; empty if nothing is
+    JsonFault fault = JsonFault::none;
+    std::string error;                      ///< what is wrong with the line, in Italian; empty if nothing is
     std::vector<std::string> unknown_keys;  ///< where they are no error
 };
 
