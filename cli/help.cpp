@@ -82,7 +82,7 @@ std::string batch_help() {
            "che "
            "manca.\n"
            "Il risultato è la stessa tabella con le colonne dei risultati; \"errore\" è l'ultima.\n\n"
-           "Stato di uscita: 0 tutto bene, 1 qualche richiesta non riuscita, 2 uso errato.\n\n"
+           "Stato di uscita: 0 esito positivo, 1 qualche richiesta non riuscita, 2 uso errato.\n\n"
            "Esempio:\n"
            "  echo '{\"calcolo\": \"una-falda\", \"zona\": 0, \"altitudine\": 239, \"alfa\": 15}' | "
            "coltre-calcolo "
@@ -101,7 +101,7 @@ std::string places_help() {
     append_row(help, "--json", "un oggetto JSON per riga invece della tabella");
     append_row(help, "-h, --help", "mostra questo aiuto");
     return help +
-           "\nStato di uscita: 0 tutto bene, 1 nessun comune trovato, 2 uso errato.\n\n"
+           "\nStato di uscita: 0 esito positivo, 1 nessun comune trovato, 2 uso errato.\n\n"
            "Esempio:\n"
            "  coltre-calcolo comuni valsamoggia\n";
 }

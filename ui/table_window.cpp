@@ -59,7 +59,7 @@ TableWindow::TableWindow(const QString& name, const QString& file_name, UserDial
     m_ui->diagramma->set_suggested_name(file_name);
     m_ui->diagramma->hide();
     set_row_height(*m_ui->tabella);
-    m_ui->tabella->setMinimumHeight(4 * fontMetrics().lineSpacing());
+    m_ui->tabella->setMinimumHeight(6 * fontMetrics().lineSpacing());
     ask_file = [this](const QString& title, const QString& suggested, const QString& filter) {
         return choose_file_to_save(this, title, suggested, filter);
     };
