@@ -293,8 +293,9 @@ int run(std::span<const std::string> arguments, const Environment& environment, 
     }
     const CLI::App& command = named_command(app);
     const std::string path = command_path(command);
-    if (const auto extras = app.remaining(true); !extras.empty())
-        return complain(err, unknown_argument(command, extras.front()), path);
+    std::vector<std::string> extras = app.remaining(true);
+    std::erase(extras, "--");  // the end of the options, which the library leaves behind
+    if (!extras.empty()) return complain(err, unknown_argument(command, extras.front()), path);
     if (!choice.usage_error.empty()) return complain(err, choice.usage_error, path);
     if (!choice.action) {
         return complain(

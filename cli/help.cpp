@@ -56,7 +56,7 @@ std::string calculation_help(const Description& calculation) {
     for (const Key& key : common_keys())
         append_option(help, key);
     append_option(help, json_option);
-    append_row(help, "-h, --help", "questo aiuto");
+    append_row(help, "-h, --help", "mostra questo aiuto");
     help += "\nEsempio:\n  coltre-calcolo " + std::string(calculation.name) + " " +
             std::string(calculation.example) + "\n";
     return help;
@@ -82,7 +82,7 @@ std::string batch_help() {
            "che "
            "manca.\n"
            "Il risultato è la stessa tabella con le colonne dei risultati; \"errore\" è l'ultima.\n\n"
-           "Stato di uscita: 0 tutto bene, 1 qualche richiesta non riuscita, 2 uso errato.\n\n"
+           "Stato di uscita: 0 esito positivo, 1 qualche richiesta non riuscita, 2 uso errato.\n\n"
            "Esempio:\n"
            "  echo '{\"calcolo\": \"una-falda\", \"zona\": 0, \"altitudine\": 239, \"alfa\": 15}' | "
            "coltre-calcolo "
@@ -99,9 +99,9 @@ std::string places_help() {
         "Opzioni:\n";
     append_row(help, "--provincia P", "soltanto i comuni di questa provincia, o di questa sigla di oggi");
     append_row(help, "--json", "un oggetto JSON per riga invece della tabella");
-    append_row(help, "-h, --help", "questo aiuto");
+    append_row(help, "-h, --help", "mostra questo aiuto");
     return help +
-           "\nStato di uscita: 0 tutto bene, 1 nessun comune trovato, 2 uso errato.\n\n"
+           "\nStato di uscita: 0 esito positivo, 1 nessun comune trovato, 2 uso errato.\n\n"
            "Esempio:\n"
            "  coltre-calcolo comuni valsamoggia\n";
 }
@@ -119,7 +119,7 @@ std::string worked_cases_help() {
 
 std::string altitudes_help() {
     return "coltre-calcolo altitudini scrivi | verifica | ripara [DIR]: il file altitudini.txt\n\n"
-           "  scrivi      scrive il file dalla tabella del programma; un file diverso resta come "
+           "  scrivi      scrive il file dalla tabella del programma; un file diverso è conservato come "
            "altitudini.bak\n"
            "  verifica    elenca le righe che il programma non riesce a leggere; stato di uscita 1 se ce ne "
            "sono\n"

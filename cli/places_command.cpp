@@ -5,10 +5,11 @@
 
 #include "cli/command.h"
 #include "platform/files.h"
-#include "requests/request.h"
+#include "requests/site_choice.h"
 #include "site/altitude_file.h"
 #include "site/places.h"
 #include "site/regions.h"
+#include "site/suggestions.h"
 #include "text/characters.h"
 #include "text/json_text.h"
 #include "text/names.h"
@@ -63,13 +64,7 @@ bool keep_province(std::string_view typed, const Places& places, std::vector<Pla
     return !hits.empty() || std::ranges::any_of(places.all(), is_in);
 }
 
-std::string perhaps(std::string_view typed, std::span<const std::string> names) {
-    std::string text;
-    for (const std::string& name : nearest_names(typed, names, 3))
-        text += (text.empty() ? "; forse " : ", ") + name;
-    return text + '\n';
-}
-
+/// The names that may be searched for.
 std::vector<std::string> names_of(const Places& places) {
     std::vector<std::string> names;
     for (const Place& place : places.all())
@@ -91,13 +86,17 @@ int places_command(const PlacesQuery& query, std::string_view directory, std::os
 
     std::vector<PlaceHit> hits = places.find(query.text);
     if (!query.province.empty() && !keep_province(query.province, places, hits)) {
-        err << "Errore: provincia sconosciuta: " << in_quotes(query.province)
-            << perhaps(query.province, std::vector<std::string>(provinces().begin(), provinces().end()));
+        err << "Errore: "
+            << not_found("provincia sconosciuta", query.province,
+                         suggested_provinces(places, query.province, query.text))
+            << '\n';
         return failed;
     }
     if (hits.empty()) {
-        err << "Errore: nessun comune trovato: " << in_quotes(query.text)
-            << perhaps(query.text, names_of(places));
+        err << "Errore: "
+            << not_found("nessun comune trovato", query.text,
+                         suggested_municipalities(places, query.text, "", names_of(places)))
+            << '\n';
         return failed;
     }
     if (!query.json) out << table_row("Comune", "Provincia", "Zona", "Altitudine") << '\n';

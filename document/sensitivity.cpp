@@ -22,6 +22,7 @@ void vary_ground_load(std::vector<Variation>& variations, const LoadInputs& inpu
     for (const double by : {-50.0, 50.0}) {
         LoadInputs changed = inputs;
         changed.altitude += by;
+        if (changed.altitude < 0) continue;
         vary(variations,
              "altitudine " + number_text(changed.altitude) + " m (" + (by < 0 ? "− " : "+ ") + "50 m)",
              changed);

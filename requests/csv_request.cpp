@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/code_page.h"
+#include "requests/site_choice.h"
 #include "text/characters.h"
 #include "text/names.h"
 
@@ -34,6 +35,10 @@ std::vector<std::string> column_names() {
     return names;
 }
 
+bool is_column(const std::string& name) {
+    return name == "id" || name == "calcolo" || find_key(name);
+}
+
 std::string fault_text(CsvFault fault) {
     switch (fault) {
         case CsvFault::open_quotes:
@@ -53,8 +58,7 @@ std::string fault_text(CsvFault fault) {
 std::string name_error(std::string_view name, std::size_t column) {
     const std::string place = "la colonna " + std::to_string(column) + " dell'intestazione ";
     if (name.empty()) return place + "non ha nome";
-    return place + "non è una chiave: " + in_quotes(name) + "; forse " +
-           nearest_names(name, column_names(), 1).front();
+    return not_found(place + "non è una chiave", name, nearest_names(name, column_names(), 1));
 }
 
 /// The text of a cell as the request takes it.
@@ -127,18 +131,23 @@ CsvHeader read_csv_header(const CsvReader* table) {
     if (table == nullptr) return {{}, std::string(missing)};
     if (table->fault() != CsvFault::none)
         return {{}, "l'intestazione è errata: " + fault_text(table->fault())};
-    CsvHeader header;
+    std::vector<std::string> names;
     for (const std::string_view field : table->fields()) {
         if (field.starts_with("\xFF\xFE") || field.starts_with("\xFE\xFF"))
             return {{}, "la tabella è scritta in UTF-16: salvarla come CSV UTF-8"};
         const std::string value = csv_value(field);
-        const std::string name = lower_case(trim_blanks(value));
+        names.push_back(lower_case(trim_blanks(value)));
+    }
+    const auto is_calculation = [](const std::string& name) { return kind_of(name).has_value(); };
+    if (std::ranges::any_of(names, is_calculation) || std::ranges::none_of(names, is_column))
+        return {{}, std::string(missing)};
+    CsvHeader header;
+    for (const std::string& name : names) {
         const std::optional<Key> key = find_key(name);
-        if (kind_of(name)) return {{}, std::string(missing)};
-        if (!key && name != "calcolo" && name != "id")
+        if (!is_column(name))
             return {{}, name_error(is_utf8(name) ? name : from_code_page(name), header.columns.size() + 1)};
         if (key && key->name == keys::passaggi.name)
-            return {{}, "i passaggi non stanno in una tabella: chiederli in JSON, senza --csv"};
+            return {{}, "una tabella non riporta i passaggi: chiederli in JSON, senza --csv"};
         if (std::ranges::find(header.columns, name, &CsvColumn::name) != header.columns.end())
             return {{}, "l'intestazione ripete la colonna " + in_quotes(name)};
         header.columns.push_back({name, key});

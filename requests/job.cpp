@@ -9,6 +9,7 @@
 #include "requests/site_choice.h"
 #include "site/regions.h"
 #include "startup/start_up.h"
+#include "text/characters.h"
 #include "text/number_reading.h"
 
 namespace coltre {
@@ -19,10 +20,34 @@ namespace {
 constexpr std::array command_keys{keys::lavoro,     keys::relazione,     keys::altitudini, keys::passaggi,
                                   keys::illustrata, keys::impaginazione, keys::sovrascrivi};
 
+/// A text that a message box has room for: what a file holds may have any length.
+std::string shortened(const std::string& text, std::size_t most_characters = 300) {
+    const std::size_t end = bytes_of_characters(text, most_characters);
+    return end == text.size() ? text : text.substr(0, end) + "…";
+}
+
+std::string in_quotes_shortened(const std::string& text) {
+    return in_quotes(shortened(text, 40));
+}
+
 bool is_batch(std::string_view bytes) {
     const std::size_t end = std::min(bytes.find('\n'), bytes.size());
     return bytes.find_first_not_of(json_blanks, end) != std::string_view::npos &&
            read_json_request(bytes.substr(0, end)).error.empty();
+}
+
+/// Why a file that is no job of this version cannot be opened: cut, damaged, of another program or of a later
+/// version, as far as it shows.
+std::string refusal(const JsonRequest& read, std::string_view bytes) {
+    const bool is_object = bytes[bytes.find_first_not_of(json_blanks)] == '{';
+    const bool later_calculation = read.fault == JsonFault::unknown_kind;
+    if (is_object && read.fault == JsonFault::cut) return "il file è incompleto: " + read.error;
+    if (is_object && read.fault == JsonFault::unreadable) return "il file è danneggiato: " + read.error;
+    if (!is_object || (!read.request.kind && !later_calculation))
+        return "il file è di un altro programma, non è un lavoro di Coltre";
+    if (later_calculation || !read.unknown_keys.empty())
+        return "il lavoro è forse di una versione più recente: " + read.error;
+    return "il lavoro è errato: " + read.error;
 }
 
 JsonRequest refused(std::string error) {
@@ -34,12 +59,13 @@ JsonRequest refused(std::string error) {
 JsonRequest read_request(std::string_view bytes) {
     if (bytes.size() > longest_job)
         return refused("il file è più lungo di " + std::to_string(longest_job) + " byte");
+    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+    if (bytes.starts_with(byte_order_mark)) bytes.remove_prefix(byte_order_mark.size());
     if (bytes.find_first_not_of(json_blanks) == std::string_view::npos) return refused("il file è vuoto");
     if (is_batch(bytes)) return refused("il file contiene più richieste, è un lotto del comando");
     JsonRequest request = read_json_request(bytes, UnknownKeys::listed);
     if (request.error.empty()) request.error = validation_error(request.request);
-    if (!request.error.empty())
-        request.error = "il file è incompleto, o non è un lavoro di questa versione: " + request.error;
+    if (!request.error.empty()) request.error = refusal(request, bytes);
     return request;
 }
 
@@ -55,8 +81,8 @@ void take_site(const Request& request, const std::string& ProgramDirectory, Job&
             job.municipality = site->municipality;
             if (request.value(keys::altitudine) == nullptr) job.fields.asinput = site->altitude;
         } else {
-            job.not_taken.push_back("sito " + in_quotes(*request.value(keys::comune)) + ", " +
-                                    in_quotes(*province) + ": " + answer.error);
+            job.not_taken.push_back("sito " + in_quotes_shortened(*request.value(keys::comune)) + ", " +
+                                    in_quotes_shortened(*province) + ": " + shortened(answer.error));
         }
         if (site || std::ranges::find(provinces(), *province) != provinces().end())
             job.zone = ZoneOfProvince(site ? site->province : *province).zone;
@@ -71,7 +97,7 @@ void take_exposure(Job& job) {
     };
     const auto item = std::ranges::find_if(exposure_items, is_typed);
     if (item == exposure_items.end())
-        job.not_taken.push_back("«ce» " + in_quotes(job.fields.ComboEsp) +
+        job.not_taken.push_back("«ce» " + in_quotes_shortened(job.fields.ComboEsp) +
                                 ": l'elenco ha 0.9, 1.0 e 1.1; vale 1.0");
     job.fields.ComboEsp = item != exposure_items.end() ? *item : exposure_items[1];
 }
@@ -84,7 +110,7 @@ void take_return_period(const Request& request, Job& job) {
     if (outcome.OutputPerRit) {
         job.return_period = *typed;
     } else {
-        job.not_taken.push_back("«periodo-ritorno» " + in_quotes(*typed) +
+        job.not_taken.push_back("«periodo-ritorno» " + in_quotes_shortened(*typed) +
                                 ": il periodo non è valido; vale il coefficiente 1");
     }
 }
@@ -94,7 +120,7 @@ void take_return_period(const Request& request, Job& job) {
 Job read_job(std::string_view bytes, const std::string& ProgramDirectory) {
     Job job;
     const JsonRequest read = read_request(bytes);
-    job.error = read.error;
+    job.error = shortened(read.error);
     if (!job.error.empty()) return job;
 
     const Request& request = read.request;
@@ -103,7 +129,7 @@ Job read_job(std::string_view bytes, const std::string& ProgramDirectory) {
     take_exposure(job);
     take_return_period(request, job);
     for (const std::string& key : read.unknown_keys)
-        job.not_taken.push_back("chiave sconosciuta " + in_quotes(key) +
+        job.not_taken.push_back("chiave sconosciuta " + in_quotes_shortened(key) +
                                 ", forse di una versione più recente");
     for (const Key& key : command_keys)
         if (request.value(key) != nullptr)

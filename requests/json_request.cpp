@@ -52,7 +52,8 @@ class RequestHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Re
         if (!is_entry()) return true;
         if (m_is_kind) {
             m_result.request.kind = kind_of(text);
-            if (!m_result.request.kind) error("calcolo sconosciuto: " + in_quotes(text));
+            if (!m_result.request.kind)
+                error("calcolo sconosciuto: " + in_quotes(text), JsonFault::unknown_kind);
         } else if (m_key && m_key->type == KeyType::flag) {
             wrong_type("un testo");
         } else if (m_key) {
@@ -90,8 +91,10 @@ class RequestHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Re
   private:
     static constexpr std::string_view no_object = "la richiesta deve essere un oggetto JSON";
 
-    void error(std::string_view text) {
-        if (m_result.error.empty()) m_result.error = text;
+    void error(std::string_view text, JsonFault fault = JsonFault::wrong_entry) {
+        if (!m_result.error.empty()) return;
+        m_result.error = text;
+        m_result.fault = fault;
     }
 
     void unknown_key(std::string_view name) {
@@ -165,6 +168,8 @@ std::optional<std::size_t> read_once(std::string_view line, std::string_view par
     // The parser takes a null character for the end of the text.
     if (!end.IsError() && stream.Tell() == line.size()) return std::nullopt;
     const std::size_t position = end.IsError() ? end.Offset() : stream.Tell();
+    const bool is_cut = line.find_first_not_of(json_blanks, position) == std::string_view::npos;
+    result.fault = is_cut ? JsonFault::cut : JsonFault::unreadable;
     result.error =
         "JSON illeggibile al carattere " + std::to_string(character_count(line.substr(0, position)) + 1);
     // A number where reading ended may have gone on: the "18" of a line that was cut in "188".
@@ -183,6 +188,7 @@ JsonRequest read_json_request(std::string_view line, UnknownKeys unknown) {
 
     JsonRequest result;
     if (line.find_first_not_of(json_blanks) == std::string_view::npos) {
+        result.fault = JsonFault::cut;
         result.error = "riga vuota";
         return result;
     }

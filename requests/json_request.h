@@ -11,11 +11,15 @@ namespace coltre {
 /// What may stand between the parts of a JSON text.
 inline constexpr std::string_view json_blanks = " \t\r\n";
 
+/// What kind of thing is wrong with a line.
+enum class JsonFault { none, cut, unreadable, unknown_kind, wrong_entry };
+
 /// A line of a batch, read.
 struct JsonRequest {
     Request request;
     std::string_view id;  ///< the value of "id" as it stands in the line; empty if there is no whole one
-    std::string error;    ///< what is wrong with the line, in Italian; empty if nothing is
+    JsonFault fault = JsonFault::none;
+    std::string error;                      ///< what is wrong with the line, in Italian; empty if nothing is
     std::vector<std::string> unknown_keys;  ///< where they are no error
 };
 

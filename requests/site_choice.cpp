@@ -1,26 +1,19 @@
 #include "requests/site_choice.h"
 
 #include <algorithm>
-#include <map>
-#include <span>
-#include <string>
-#include <string_view>
 #include <vector>
 
 #include "platform/files.h"
 #include "site/altitude_file.h"
 #include "site/built_in_altitudes.h"
 #include "site/municipalities.h"
-#include "site/places.h"
 #include "site/regions.h"
-#include "site/todays_names.h"
+#include "site/suggestions.h"
 #include "text/names.h"
 
 namespace coltre {
 
 namespace {
-
-constexpr std::size_t most_suggestions = 3;
 
 /// A name as the table spells it: the one that is typed exactly or, failing that, the only one that differs
 /// in case, accents, apostrophes and blanks alone.
@@ -41,52 +34,9 @@ NameSearch find_name(std::string_view typed, std::span<const std::string> names)
     return {std::nullopt, hits};
 }
 
-/// @param what  "comune sconosciuto"
-std::string not_found(std::string_view what, std::string_view typed, std::span<const std::string> perhaps) {
-    std::string error = std::string(what) + ": " + in_quotes(typed);
-    for (std::size_t i = 0; i < perhaps.size(); ++i)
-        error += (i == 0 ? "; forse " : ", ") + perhaps[i];
-    return error;
-}
-
-/// The provinces that were perhaps meant: those of 1996 that the municipality was in, which may be in a
-/// younger one today, then the nearest names.
-std::vector<std::string> suggested_provinces(const Request& request, std::span<const std::string> all) {
+const Places& built_in_places() {
     static const Places places(built_in_altitude_file());
-    const std::string municipality = fold_name(*request.value(keys::comune));
-    std::vector<std::string> suggested;
-    const auto add = [&](std::string_view province) {
-        if (suggested.size() < most_suggestions && std::ranges::find(suggested, province) == suggested.end())
-            suggested.emplace_back(province);
-    };
-    for (const PlaceHit& hit : places.find(municipality)) {
-        const std::string_view name = hit.later_name.empty() ? hit.place->name : hit.later_name;
-        if (fold_name(name) == municipality) add(hit.place->province);
-    }
-    for (const std::string& near : nearest_names(*request.value(keys::provincia), all, most_suggestions))
-        add(near);
-    return suggested;
-}
-
-/// The municipalities of a province that were perhaps meant. A later name that comes near stands for those
-/// that it was made of: "Bazzano, Savigno (poi Valsamoggia)".
-std::vector<std::string> suggested_municipalities(std::string_view typed, std::string_view province,
-                                                  std::vector<std::string> names) {
-    std::map<std::string_view, std::string> made_of;
-    for (const LaterName& later : later_names()) {
-        std::string parts;
-        for (const Municipality& it : later.made_of)
-            if (it.province == province && std::ranges::find(names, it.name) != names.end())
-                parts.append(parts.empty() ? "" : ", ").append(it.name);
-        if (!parts.empty()) made_of[later.name] = parts + " (poi " + std::string(later.name) + ")";
-    }
-    for (const auto& [name, parts] : made_of)
-        names.emplace_back(name);
-    auto nearest = nearest_names(typed, names, most_suggestions);
-    if (!nearest.empty() && fold_name(nearest.front()) == fold_name(typed)) nearest.resize(1);
-    for (std::string& name : nearest)
-        if (const auto later = made_of.find(name); later != made_of.end()) name = later->second;
-    return nearest;
+    return places;
 }
 
 /// Ends the request with a message, which says what went wrong.
@@ -118,7 +68,8 @@ std::optional<Site> choose_site(const Request& request, const std::string& direc
     const std::optional<std::string> province = find_name(typed_province, all_provinces).found;
     if (!province)
         return end_with_error(
-            not_found("provincia sconosciuta", typed_province, suggested_provinces(request, all_provinces)),
+            not_found("provincia sconosciuta", typed_province,
+                      suggested_provinces(built_in_places(), typed_province, *request.value(keys::comune))),
             result);
 
     const AltitudeTable& table = memory.table(directory);
@@ -140,15 +91,29 @@ std::optional<Site> choose_site(const Request& request, const std::string& direc
     const auto [municipality, hits] = find_name(typed, *municipalities);
     if (!hits.empty()) return end_with_error(not_found("comune ambiguo", typed, hits), result);
     if (!municipality)
-        return end_with_error(not_found("comune sconosciuto", typed,
-                                        suggested_municipalities(typed, *province, *municipalities)),
-                              result);
+        return end_with_error(
+            not_found("comune sconosciuto", typed,
+                      suggested_municipalities(built_in_places(), typed, *province, *municipalities)),
+            result);
     const auto altitude = altitude_in(file, *province, *municipality);
     if (!altitude) return end_with(altitude_read_error(), result);
     return Site{*province, *municipality, *altitude, ZoneOfProvince(*province).zone, from_built_in};
 }
 
 }  // namespace
+
+std::string not_found(std::string_view what, std::string_view typed, std::string_view perhaps) {
+    std::string error = std::string(what) + ": " + in_quotes(typed);
+    if (!perhaps.empty()) error.append("; forse ").append(perhaps);
+    return error;
+}
+
+std::string not_found(std::string_view what, std::string_view typed, std::span<const std::string> perhaps) {
+    std::string listed;
+    for (const std::string& name : perhaps)
+        listed.append(listed.empty() ? "" : ", ").append(name);
+    return not_found(what, typed, listed);
+}
 
 std::optional<Site> site_by_name(const Request& request, Program& program, SiteMemory& memory,
                                  Answer& result) {

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <optional>
+#include <span>
+#include <string>
+#include <string_view>
 
 #include "requests/answer.h"
 #include "requests/request.h"
@@ -18,5 +21,11 @@ namespace coltre {
 /// @return nothing in that case
 std::optional<Site> site_by_name(const Request& request, Program& program, SiteMemory& memory,
                                  Answer& result);
+
+/// "comune sconosciuto: «Torin»; forse Torino, Corio"
+/// @param what     "comune sconosciuto"
+/// @param perhaps  what was perhaps meant, if anything
+std::string not_found(std::string_view what, std::string_view typed, std::string_view perhaps);
+std::string not_found(std::string_view what, std::string_view typed, std::span<const std::string> perhaps);
 
 }  // namespace coltre

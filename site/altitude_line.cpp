@@ -23,7 +23,7 @@ bool is_number(std::string_view text) {
 }  // namespace
 
 std::string_view line_fault(std::string_view field) {
-    if (field.find('\t') != std::string_view::npos) return "una tabulazione sta al posto degli spazi";
+    if (field.find('\t') != std::string_view::npos) return "una tabulazione al posto degli spazi";
     const std::size_t blank = field.find(' ');
     if (blank == std::string_view::npos) return "manca lo spazio tra il nome e l'altitudine";
     const std::string_view meant = trim_blanks(field.substr(blank));

@@ -69,14 +69,20 @@ void append(std::string& remark, const std::string& text) {
 
 }  // namespace
 
-std::string remark(const PlaceHit& hit) {
-    const Place& place = *hit.place;
+std::string name_of_today(const PlaceHit& hit) {
+    const Today& today = hit.place->today;
     std::string text;
     if (hit.part_of_it) append(text, "in parte oggi " + std::string(hit.later_name));
-    if (!place.today.name.empty()) {
-        append(text, "oggi " + std::string(place.today.name));
-        if (!place.today.since.empty()) text += " (dal " + std::string(place.today.since.substr(0, 4)) + ")";
+    if (!today.name.empty()) {
+        append(text, "oggi " + std::string(today.name));
+        if (!today.since.empty()) text += " (dal " + std::string(today.since.substr(0, 4)) + ")";
     }
+    return text;
+}
+
+std::string remark(const PlaceHit& hit) {
+    const Place& place = *hit.place;
+    std::string text = name_of_today(hit);
     if (!place.today.plate.empty()) append(text, "oggi in provincia " + std::string(place.today.plate));
     if (!place.namesakes.empty()) append(text, "omonimo in provincia di " + place.namesakes);
     if (!place.selectable) append(text, "provincia illeggibile in altitudini.txt");
@@ -155,7 +161,9 @@ void Places::add_aliases() {
 }
 
 std::vector<PlaceHit> Places::find(std::string_view typed) const {
+    constexpr std::size_t most_words = 16;  // more than any name has
     const std::vector<std::string> words = words_of(typed);
+    if (words.size() > most_words) return {};
     const auto with_province = [&](bool whole) {
         std::vector<PlaceHit> hits;
         for (std::size_t of_name = words.size(); hits.empty() && of_name-- > 1;)

@@ -35,7 +35,11 @@ struct PlaceHit {
     bool part_of_it = false;      ///< the later name is that of a municipality which got but a part of it
 };
 
-/// What is to be known of a hit, in Italian: "oggi Valsamoggia (dal 2014)". Empty if nothing is.
+/// What the municipality is called today, in Italian: "oggi Valsamoggia (dal 2014)". Empty if it still has
+/// its name.
+std::string name_of_today(const PlaceHit& hit);
+
+/// What is to be known of a hit, in Italian: its name of today, its namesakes. Empty if nothing is.
 std::string remark(const PlaceHit& hit);
 
 /// The municipalities of an altitude file, by provinces in the order of the lists, in the order of the file.
@@ -50,7 +54,8 @@ class Places {
     /// The municipalities whose names, of 1996 or later, are or hold what was typed, those that are it first,
     /// then those that start with it. Case, accents, apostrophes, hyphens and blanks play no part. Its last
     /// words may be the province or the plate of today's: "samone trento", "monza mb"; where nothing else is
-    /// found, the beginning of the province. All of them for an empty text. Hits are valid as long as this.
+    /// found, the beginning of the province. All of them for an empty text, none for one of more words than
+    /// any name has. Hits are valid as long as this.
     [[nodiscard]] std::vector<PlaceHit> find(std::string_view typed) const;
 
   private:

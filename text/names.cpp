@@ -62,13 +62,14 @@ std::vector<std::string> nearest_names(std::string_view typed, std::span<const s
     // Longer than any name of a place: more letters would only cost time.
     constexpr std::size_t longest = 64;
     const std::string sought = fold_name(typed.substr(0, bytes_of_characters(typed, longest)));
+    if (sought.empty()) return {};
+    const std::size_t most_changes = (sought.size() + 1) / 3;
 
     std::vector<std::pair<std::size_t, std::size_t>> ranked;  // distance, place in the list
-    ranked.reserve(names.size());
     for (std::size_t i = 0; i < names.size(); ++i) {
         const std::string folded = fold_name(names[i]);
-        const bool same_start = !sought.empty() && folded.starts_with(sought);
-        ranked.emplace_back(same_start ? 0 : edit_distance(sought, folded), i);
+        const std::size_t distance = folded.starts_with(sought) ? 0 : edit_distance(sought, folded);
+        if (distance <= most_changes) ranked.emplace_back(distance, i);
     }
     std::ranges::sort(ranked);
 

@@ -1,6 +1,8 @@
 #include "ui/altitude_repair.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <string>
 
 #include "platform/files.h"
@@ -15,14 +17,10 @@ Message box(Icon icon, std::string text) {
     return {icon, std::string(program_title), std::move(text)};
 }
 
-/// As many faults as fit a message box.
 std::string list(const std::vector<AltitudeFault>& faults) {
-    constexpr std::size_t most = 12;
-    std::string text;
-    for (std::size_t i = 0; i < faults.size() && i < most; ++i)
-        text += "\r" + text_of(faults[i]);
-    if (faults.size() > most) text += "\re altri " + std::to_string(faults.size() - most) + ".";
-    return text;
+    std::vector<std::string> lines;
+    std::ranges::transform(faults, std::back_inserter(lines), text_of);
+    return lines_of_message(lines);
 }
 
 }  // namespace
@@ -45,14 +43,14 @@ void check_and_repair_altitudes(std::string_view ProgramDirectory, UserDialogs& 
             return dialogs.show(box(Icon::information, "Nessun difetto nel file " + path_text(path) + "."));
         if (!dialogs.ask(box(Icon::warning, "Difetti del file " + path_text(path) + ":" + list(check.faults) +
                                                 "\r\rRiparare il file? Le altre righe restano come sono; il "
-                                                "file di ora si conserva accanto.")))
+                                                "file attuale è conservato accanto.")))
             return;
     }
     const AltitudeFileCheck repair = repair_altitude_file(ProgramDirectory);
     if (repair.failure)
         return dialogs.show(box(Icon::error, "Impossibile riparare " + file + ": " + *repair.failure + "."));
     const std::string kept =
-        repair.kept_name.empty() ? "" : " Quello di prima resta come " + repair.kept_name + ".";
+        repair.kept_name.empty() ? "" : " Il precedente è conservato come " + repair.kept_name + ".";
     dialogs.show(box(Icon::information, "Scritto " + file + ", senza difetti." + kept));
 }
 

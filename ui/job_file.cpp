@@ -52,9 +52,8 @@ std::optional<Job> JobFile::open(const std::string& ProgramDirectory) {
         return std::nullopt;
     }
     if (!job.not_taken.empty()) {
-        std::string text = "Del lavoro " + shown.toStdString() + " non si può riprendere:";
-        for (const std::string& it : job.not_taken)
-            text += "\r– " + it;
+        const std::string text =
+            "Del lavoro " + shown.toStdString() + " non si può riprendere:" + lines_of_message(job.not_taken);
         if (!m_dialogs.ask(question(text + "\r\rAprire il resto?"))) return std::nullopt;
     }
     m_path = path;

@@ -108,12 +108,20 @@ void Menus::print_report(const CalculationTab& /*open_tab*/) {
     printer.setDocName(QString::fromStdString(report->title));
     printer.setPageSize(QPageSize(QPageSize::A4));
     printer.setFullPage(true);
-    if (!ask_printer(printer) || print(*report, printer)) return;
+    if (!ask_printer(printer)) return;
+    const bool printed = print(*report, printer);
     const QString file = printer.outputFileName();
-    show_error(file.isEmpty()
-                   ? tr("La stampante %1 non accetta il documento: controllare che sia accesa e collegata.")
-                         .arg(printer.printerName())
-                   : tr("Impossibile stampare nel file %1.").arg(file));
+    if (file.isEmpty()) {
+        if (!printed)
+            show_error(tr("La stampante %1 non accetta il documento: controllare che sia accesa e collegata.")
+                           .arg(printer.printerName()));
+        return;
+    }
+    const QString path = QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath());
+    if (!printed) return show_error(tr("Impossibile stampare nel file %1.").arg(path));
+    // The print dialog has a file name of its own, which is easily overlooked.
+    m_dialogs.show({Icon::information, std::string(program_title),
+                    tr("La relazione illustrata è nel file %1.").arg(path).toStdString()});
 }
 
 void Menus::check_altitudes(const CalculationTab& /*open_tab*/) {

@@ -34,9 +34,25 @@ struct ButtonText {
 constexpr ButtonText button_texts[] = {
     {QMessageBox::Yes, "&Sì"}, {QMessageBox::No, "&No"}, {QMessageBox::Ok, "OK"}};
 
+/// The text with places to break in words that no line of a box has room for, such as a long path.
+QString breakable(const QString& text) {
+    constexpr int longest = 60;  // characters without a blank
+    constexpr QChar break_here(u'\u200B');
+    QString result;
+    int length = 0;
+    for (const QChar c : text) {
+        length = c.isSpace() ? 0 : length + 1;
+        if (length > longest && !c.isLowSurrogate()) {
+            result += break_here;
+            length = 1;
+        }
+        result += c;
+    }
+    return result;
+}
+
 QMessageBox::StandardButton run(const Message& message, QMessageBox::StandardButtons buttons) {
-    QString text = QString::fromStdString(message.text);
-    text.replace('\r', '\n');
+    const QString text = breakable(QString::fromStdString(message.text).replace('\r', '\n'));
     QMessageBox box(icon_of(message.icon), QString::fromStdString(message.title), text, buttons,
                     QApplication::activeWindow());
     // Texts such as "<Eventuali riduzioni ...>" are no markup.
@@ -52,6 +68,15 @@ QMessageBox::StandardButton run(const Message& message, QMessageBox::StandardBut
 }
 
 }  // namespace
+
+std::string lines_of_message(std::span<const std::string> lines) {
+    constexpr std::size_t most = 12;
+    std::string text;
+    for (const std::string& line : lines.first(std::min(lines.size(), most)))
+        text += "\r– " + line;
+    if (lines.size() > most) text += "\re altri " + std::to_string(lines.size() - most) + ".";
+    return text;
+}
 
 void QtDialogs::show(const Message& message) {
     run(message, QMessageBox::Ok);

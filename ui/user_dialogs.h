@@ -1,5 +1,8 @@
 #pragma once
 
+#include <span>
+#include <string>
+
 #include "platform/messages.h"
 
 namespace coltre {
@@ -23,5 +26,9 @@ class UserDialogs {
             show(message);
     }
 };
+
+/// The lines of a list for a message, each behind a line end: as many as fit a message box, and how many more
+/// there are.
+std::string lines_of_message(std::span<const std::string> lines);
 
 }  // namespace coltre

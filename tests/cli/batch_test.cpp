@@ -120,7 +120,8 @@ TEST(Batch, NamesAreMatchedAndAnsweredInTheTablesSpelling) {
     const CommandRun run = run_command(
         {"lotto"}, {place("FORLI'", "forlì"), place("torino", "AGLIÈ"), place("Vicenza", "Vicenza"),
                     place("Torin", "Torino"), place("Torino", "Moncaliere"), place("Palermo", "palermo"),
-                    place("MB", "Monza"), place("Bologna", "valsamoggia")});
+                    place("MB", "Monza"), place("Monza", "x"), place("Bologna", "valsamogia"),
+                    place("Milano", "Fonte Nuova"), place("Milano", "Samone"), place("Milano", "zzzzz")});
     EXPECT_EQ(run.status, failed);
     std::vector<std::string> answers;
     for (const Json& result : run.results()) {
@@ -134,9 +135,15 @@ TEST(Batch, NamesAreMatchedAndAnsweredInTheTablesSpelling) {
                     "Vicenza; Vicenza; Errore in lettura del file altitudine.txt .",
                     StartsWith("Torin; Torino; provincia sconosciuta: «Torin»; forse Torino"),
                     StartsWith("Torino; Moncaliere; comune sconosciuto: «Moncaliere»; forse Moncalieri"),
-                    "Palermo; Palermo; 3", "MB; Monza; provincia sconosciuta: «MB»; forse Milano, Roma, Como",
-                    "Bologna; valsamoggia; comune sconosciuto: «valsamoggia»; forse Bazzano, "
-                    "CastelloDiSerravalle, Crespellano, Monteveglio, Savigno (poi Valsamoggia)"));
+                    "Palermo; Palermo; 3", "MB; Monza; provincia sconosciuta: «MB»; forse Milano",
+                    "Monza; x; provincia sconosciuta: «Monza»; forse Milano",
+                    "Bologna; valsamogia; comune sconosciuto: «valsamogia»; forse Bazzano, "
+                    "CastelloDiSerravalle, Crespellano, Monteveglio, Savigno, oggi Valsamoggia (dal 2014)",
+                    "Milano; Fonte Nuova; comune sconosciuto: «Fonte Nuova»; forse GuidoniaMontecelio, "
+                    "Mentana, in parte oggi Fonte Nuova, in provincia Roma",
+                    "Milano; Samone; comune sconosciuto: «Samone»; forse Samone, in provincia Torino; "
+                    "Samone, in provincia Trento",
+                    "Milano; zzzzz; comune sconosciuto: «zzzzz»"));
 }
 
 }  // namespace

@@ -23,6 +23,7 @@ TEST(Command, ExitStatusTellsWhoIsWrong) {
               "forse verifica\nPer l'aiuto: coltre-calcolo altitudini --help\n"},
              {{"altitudini"}, bad_usage, "manca il comando"},
              {{"lotto", "/nessuna/richiesta"}, bad_usage, "file «/nessuna/richiesta»\n"},
+             {{"lotto", "--", "--x"}, bad_usage, "file «--x»\n"},
              {{"parete", "--json=x"}, bad_usage, "--json non accetta un valore"},
              {{"parete", "--h"}, bad_usage, "manca il valore di --h"},
              {{"parete"}, bad_usage, "manca «h»\nPer l'aiuto: coltre-calcolo parete --help\n", true},
@@ -52,10 +53,21 @@ TEST(Command, MunicipalitiesAreListedByNamesOf1996AndOfToday) {
     EXPECT_THAT(run_command({"comuni", "cagn", "--provincia=trento"}).out,
                 HasSubstr(" 663 m  oggi Novella (dal 2020); omonimo in provincia di Como\n"));
     EXPECT_EQ(run_command({"comuni", "--json"}).results().size(), 8102U);
-    EXPECT_EQ(run_command({"comuni", "--provincia", "Milan"}).status, failed);
-    const CommandRun unknown = run_command({"comuni", "valsamogia"});
-    EXPECT_EQ(unknown.status, failed);
-    EXPECT_THAT(unknown.err, HasSubstr("nessun comune trovato: «valsamogia»; forse Valsamoggia, "));
+    for (const auto& [arguments, error] : std::vector<std::pair<std::vector<std::string>, std::string>>{
+             {{"--provincia", "Monza"}, "provincia sconosciuta: «Monza»; forse Milano"},
+             {{"valsamogia"},
+              "nessun comune trovato: «valsamogia»; forse Bazzano, CastelloDiSerravalle, "
+              "Crespellano, Monteveglio, Savigno, oggi Valsamoggia (dal 2014), in provincia "
+              "Bologna"},
+             {{"torino", "--provincia", "Milano"},
+              "nessun comune trovato: «torino»; forse Torino, in provincia Torino"},
+             {{"zzzzz"}, "nessun comune trovato: «zzzzz»"}}) {
+        std::vector<std::string> command{"comuni"};
+        command.insert(command.end(), arguments.begin(), arguments.end());
+        const CommandRun run = run_command(command);
+        EXPECT_EQ(run.status, failed);
+        EXPECT_EQ(run.err, "Errore: " + error + "\n");
+    }
 }
 
 TEST(Command, CompletesWords) {

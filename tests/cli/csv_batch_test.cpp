@@ -73,13 +73,15 @@ TEST(CsvBatch, BrokenLineIsAnErrorLine) {
 TEST(CsvBatch, WrongHeaderIsToldAndNothingIsDone) {
     for (const auto& [header, error] : std::vector<std::pair<std::string, std::string>>{
              {"", "manca l'intestazione"},
-             {"una-falda;15", "manca l'intestazione"},
+             {"calcolo;una-falda;15", "manca l'intestazione"},
+             {"1;Torino;15", "manca l'intestazione: la prima riga nomina le chiavi"},
+             {"calcolo;1", "la colonna 2 dell'intestazione non è una chiave: «1»\n"},
              {"zona;alfa", "manca la colonna «calcolo»"},
              {"calcolo;Altitudne",
               "la colonna 2 dell'intestazione non è una chiave: «altitudne»; forse altitudine"},
              {"calcolo;;alfa", "la colonna 2 dell'intestazione non ha nome"},
              {"calcolo;alfa;ALFA", "ripete la colonna «alfa»"},
-             {"calcolo;passaggi", "i passaggi non stanno in una tabella"},
+             {"calcolo;passaggi", "una tabella non riporta i passaggi"},
              {"calcolo;\"alfa", "l'intestazione è errata: le virgolette aperte"},
              {std::string("\xFF\xFE") + "c", "UTF-16"}}) {
         const CommandRun run = run_table(header);

@@ -41,8 +41,9 @@ TEST_F(SitesByName, BuiltInTableAnswersForAProvinceThatTheFileDoesNotGiveAndSays
                                             request("Torino", "Cuneo"), request("Vicenza", "Asiago"),
                                             request("Cuneo", "Busca")};
     const std::vector<std::string> expected{
-        "239; " + built_in, "999", "comune sconosciuto: «Cuneo»; forse Ceres, Corio, None; " + built_in,
-        read_error, "comune sconosciuto: «Busca»; forse Cuneo"};
+        "239; " + built_in, "999",
+        "comune sconosciuto: «Cuneo»; forse Cuneo, in provincia Cuneo; " + built_in, read_error,
+        "comune sconosciuto: «Busca»"};
     std::vector<std::string> answers;
     for (const Json& answer : run_command({"lotto"}, requests).results())
         answers.push_back(summary(answer));

@@ -19,9 +19,8 @@ TEST(NearestNames, PutsTheSameStartFirstThenTheFewestChanges) {
     EXPECT_THAT(nearest_names("Trino", names, 1), ElementsAre("Torino"));
     // Of 1, 2 and 2 changes: of equals the first in the list.
     EXPECT_THAT(nearest_names("Formo", names, 3), ElementsAre("Fermo", "Forlì", "Formia"));
-    EXPECT_THAT(nearest_names("Formo", names, 9), testing::SizeIs(5));
-    EXPECT_THAT(nearest_names("", names, 1), ElementsAre("Forlì"));
-    EXPECT_THAT(nearest_names(std::string(1000000, 'x'), names, 1), testing::SizeIs(1));
+    for (const std::string& like_none : {std::string(), std::string("1"), std::string(1000000, 'x')})
+        EXPECT_THAT(nearest_names(like_none, names, 1), testing::IsEmpty());
 }
 
 }  // namespace

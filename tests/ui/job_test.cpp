@@ -53,12 +53,18 @@ TEST_F(JobTest, OpeningAJobFillsTheWindowsSoThatSavingWritesItAgain) {
 
 TEST_F(JobTest, AFileThatIsNoJobChangesNothing) {
     const std::string before = saved(window);
-    const std::string no_job = "il file è incompleto, o non è un lavoro di questa versione: ";
+    const std::string other = "il file è di un altro programma, non è un lavoro di Coltre";
+    const std::string later = "il lavoro è forse di una versione più recente: ";
     const std::pair<std::string, std::string> files[] = {
         {"", "il file è vuoto"},
-        {R"({"calcolo":"parete","zona":2,"alt)", no_job + "JSON illeggibile al carattere 34"},
-        {R"({"name":"app","version":2})", no_job + "manca «calcolo»"},
-        {R"({"calcolo":"una-falda","zona":2,"altitudine":5})", no_job + "manca «alfa»"},
+        {R"({"calcolo":"parete","zona":2,"alt)", "il file è incompleto: JSON illeggibile al carattere 34"},
+        {"\xEF\xBB\xBF{\"calcolo\":=}", "il file è danneggiato: JSON illeggibile al carattere 12"},
+        {"\xEF\xBB\xBF", "il file è vuoto"},
+        {"%PDF-1.4", other},
+        {R"({"name":"app","version":2})", other},
+        {R"({"calcolo":"cupola"})", later + "calcolo sconosciuto: «cupola»"},
+        {R"({"calcolo":"una-falda","zona":2,"altitudine":5,"pendenza":1})", later + "manca «alfa»"},
+        {R"({"calcolo":"una-falda","zona":2,"altitudine":5})", "il lavoro è errato: manca «alfa»"},
         {"{\"calcolo\":\"parete\",\"zona\":2,\"altitudine\":5,\"h\":2}\n{}\n",
          "il file contiene più richieste, è un lotto del comando"},
         {std::string(longest_job + 1, ' '), "il file è più lungo di 30000 byte"},
@@ -75,15 +81,14 @@ TEST_F(JobTest, WhatCannotBeTakenIsAskedAboutBeforeAnythingChanges) {
     const std::string content =
         R"({"calcolo":"una-falda","provincia":"Roma","comune":"Romaa","altitudine":600,"ce":1.05,)"
         R"("periodo-ritorno":1,"ombra":{},"relazione":".","id":3,"alfa":30})";
-    const std::string question =
-        "Del lavoro " + path +
-        " non si può riprendere:"
-        "\r– sito «Romaa», «Roma»: comune sconosciuto: «Romaa»; forse Roma, Gorga, Roiate"
-        "\r– «ce» «1.05»: l'elenco ha 0.9, 1.0 e 1.1; vale 1.0"
-        "\r– «periodo-ritorno» «1»: il periodo non è valido; vale il coefficiente 1"
-        "\r– chiave sconosciuta «ombra», forse di una versione più recente"
-        "\r– chiave «relazione», che serve soltanto al comando"
-        "\r– chiave «id», che serve soltanto al lotto\r\rAprire il resto?";
+    const std::string question = "Del lavoro " + path +
+                                 " non si può riprendere:"
+                                 "\r– sito «Romaa», «Roma»: comune sconosciuto: «Romaa»; forse Roma"
+                                 "\r– «ce» «1.05»: l'elenco ha 0.9, 1.0 e 1.1; vale 1.0"
+                                 "\r– «periodo-ritorno» «1»: il periodo non è valido; vale il coefficiente 1"
+                                 "\r– chiave sconosciuta «ombra», forse di una versione più recente"
+                                 "\r– chiave «relazione», che serve soltanto al comando"
+                                 "\r– chiave «id», che serve soltanto al lotto\r\rAprire il resto?";
     dialogs.expect_question(Icon::warning, question, false);
     open(content);
     EXPECT_EQ(saved(window), before);

@@ -90,6 +90,7 @@ TEST_F(MenusTest, ReportIsPrinted) {
     dialogs.expect(Icon::error, std::string(no_calculation_yet));
     choose(window, "Stampa…");
     click("Calcola");
+    dialogs.expect(Icon::information, "La relazione illustrata è nel file " + file + ".");
     QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
     EXPECT_THAT(read_file(file).value(), HasSubstr("%%EOF"));
     output = path_text(directory.path() / "nowhere" / "stampa.pdf");
@@ -119,13 +120,13 @@ TEST_F(MenusTest, AltitudesAreCheckedAndRepairedAfterAQuestionAndARewritingIsNot
         dialogs.expect_question(
             Icon::warning,
             "Difetti del file " + file +
-                ":\rriga 3530: Vicenza: manca lo spazio tra il nome e l'altitudine\rriga 8618: "
+                ":\r– riga 3530: Vicenza: manca lo spazio tra il nome e l'altitudine\r– riga 8618: "
                 "Oristano: manca la riga vuota che chiude la provincia alla fine del "
-                "file\r\rRiparare il file? Le altre righe restano come sono; il file di ora si "
-                "conserva accanto.",
+                "file\r\rRiparare il file? Le altre righe restano come sono; il file attuale è "
+                "conservato accanto.",
             answer);
-    dialogs.expect(Icon::information,
-                   "Scritto il file " + file + ", senza difetti. Quello di prima resta come altitudini.bak.");
+    dialogs.expect(Icon::information, "Scritto il file " + file +
+                                          ", senza difetti. Il precedente è conservato come altitudini.bak.");
     check();
     check();
     list("Provinciainput").setCurrentText("Asti");
