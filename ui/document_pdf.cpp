@@ -280,8 +280,8 @@ class PdfPages {
             const double part = std::min(1.0, width / metrics.horizontalAdvance(text));
             fitted.setPixelSize(static_cast<int>(std::max(7 * point, part * 8.5 * point)));
             painter.setFont(fitted);
-            const QFontMetricsF letters(fitted, painter.device());
-            painter.drawText(at, letters.elidedText(text, Qt::ElideMiddle, width));
+            const QFontMetricsF fitted_metrics(fitted, painter.device());
+            painter.drawText(at, fitted_metrics.elidedText(text, Qt::ElideMiddle, width));
         };
         painter.setPen(QColor(85, 85, 85));
         const QString number = QStringLiteral("pagina %1 di %2").arg(page + 1).arg(pages);
