@@ -79,7 +79,7 @@ Outcome begin_click(const Fields& fields, const ProgramCells& cells) {
     outcome.entries.kind = fields.kind;
     if (!fields.traced) return outcome;
     const double Tr = cells.confirmed_return_period.value_or(cells.return_period);
-    outcome.trace = Trace{{zone_datum(cells), {"Tr", Tr, "anni", ""}}, {}};
+    outcome.trace = Trace{{zone_datum(cells), {"Tr", Tr, "anni", shortest_number_text(Tr)}}, {}};
     return outcome;
 }
 

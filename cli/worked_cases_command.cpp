@@ -34,10 +34,17 @@ int worked_cases_command(const std::string& html, std::ostream& out, std::ostrea
     if (html.empty()) return all_passed ? all_well : failed;
 
     const std::filesystem::path path = find_path(suite_notation(to_path(html)));
-    FileReplacement file(path);
-    file.write(to_html(
-        worked_cases_document(outcomes, "Coltre " + std::string(version_and_build()), document_date())));
-    if (const Failure failure = file.commit()) {
+    const DocumentDate date = document_date();
+    Failure failure;
+    if (!date.error.empty()) {
+        failure = date.error;
+    } else {
+        FileReplacement file(path);
+        file.write(to_html(
+            worked_cases_document(outcomes, "Coltre " + std::string(version_and_build()), date.text)));
+        failure = file.commit();
+    }
+    if (failure) {
         err << "Impossibile scrivere il file " << path_text(path) << ": " << *failure << ".\n";
         return failed;
     }

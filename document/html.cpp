@@ -16,6 +16,7 @@ h1 { font-size: 16pt; margin: 0 0 4mm; }
 h2 { font-size: 12.5pt; margin: 7mm 0 2mm; border-bottom: 0.3mm solid #888; }
 h3 { font-size: 11pt; margin: 4mm 0 1mm; }
 h1, h2, h3 { break-after: avoid; }
+p:has(+ table), p:has(+ pre) { break-after: avoid; }
 p { margin: 1.5mm 0; }
 i { font-family: "Liberation Serif", "Times New Roman", serif; font-size: 1.05em; }
 sub { font-size: 0.72em; line-height: 0; }

@@ -14,8 +14,8 @@ Composer begin(const Subject& subject, const TitleBlock& block, Layout layout) {
                        std::string(subject.calculation().meaning),
                    layout == Layout::steps_alone ? 1 : 0);
     Document& document = write.document();
-    if (!block.sheet.empty()) document.page_header += " — Elaborato " + block.sheet;
-    if (!block.revision.empty()) document.page_header += " rev. " + block.revision;
+    const auto or_blank = [](const std::string& text) { return text.empty() ? "....." : text; };
+    document.page_header += " — Elaborato " + or_blank(block.sheet) + " rev. " + or_blank(block.revision);
     document.page_footer = subject.program + (block.date.empty() ? "" : " — " + block.date);
     return write;
 }
@@ -29,7 +29,7 @@ Document illustrated_report(const Subject& subject, const TitleBlock& title_bloc
         write_steps(write, subject, false);
         return std::move(write.document());
     }
-    write_title(write, title_block);
+    write_title(write, subject, title_block);
     write_summary(write, subject);
     write_references(write, subject);
     write_data(write, subject);

@@ -16,7 +16,7 @@ std::string printed(double value, const Quantity& quantity) {
 }
 
 /// A negative pitch leaves a coefficient as it was: deliberate, no error, but nothing to build on.
-void tell_negative_pitches(const Subject& subject, std::vector<std::string>& remarks) {
+void remark_on_negative_pitches(const Subject& subject, std::vector<std::string>& remarks) {
     for (const Step& step : subject.trace().steps) {
         if (!step.symbol.starts_with("mu") || !step.condition.ends_with(" < 0") || !step.value) continue;
         const std::string pitch(step.condition.substr(0, step.condition.find(' ')));
@@ -29,7 +29,7 @@ void tell_negative_pitches(const Subject& subject, std::vector<std::string>& rem
     }
 }
 
-void tell_springing(const Subject& subject, std::vector<std::string>& remarks) {
+void remark_on_springing(const Subject& subject, std::vector<std::string>& remarks) {
     const auto width = subject.computed(L1);
     if (!width) return;
     const Entries& entries = subject.outcome.entries;
@@ -45,13 +45,13 @@ void tell_springing(const Subject& subject, std::vector<std::string>& remarks) {
                   "non le comprende.");
 }
 
-void tell_limits(const Subject& subject, std::vector<std::string>& remarks) {
+void remark_on_limits(const Subject& subject, std::vector<std::string>& remarks) {
     const Step* const mu = subject.step("mu_w");
     if (mu != nullptr && mu->governs.starts_with("mu_w_"))
         remarks.emplace_back("I limiti 0,8 ≤ µ2 ≤ 4,0 non intervengono.");
 }
 
-void tell_drift(const Subject& subject, std::vector<std::string>& remarks) {
+void remark_on_drift(const Subject& subject, std::vector<std::string>& remarks) {
     const auto qs2 = subject.computed(level_qs2);
     const Step* const qs1 = subject.step("qs1_intero");
     if (!qs2 || qs1 == nullptr || !qs1->value) return;
@@ -68,7 +68,7 @@ void tell_drift(const Subject& subject, std::vector<std::string>& remarks) {
         printed(*qs1->value, area_load) + ".");
 }
 
-void tell_force(const Subject& subject, std::vector<std::string>& remarks) {
+void remark_on_force(const Subject& subject, std::vector<std::string>& remarks) {
     if (!subject.computed(Fs)) return;
     const Entries& entries = subject.outcome.entries;
     std::string source = "qs è scritto dal progettista: " + printed(entries.qs, area_load);
@@ -89,7 +89,7 @@ void tell_force(const Subject& subject, std::vector<std::string>& remarks) {
 
 Remarks remarks_on(const Subject& subject) {
     Remarks remarks;
-    tell_negative_pitches(subject, remarks.on_coefficients);
+    remark_on_negative_pitches(subject, remarks.on_coefficients);
     switch (subject.fields.kind) {
         case Kind::one_pitch:
         case Kind::two_pitches:
@@ -101,11 +101,11 @@ Remarks remarks_on(const Subject& subject) {
                 "colmo e compluvio. La neve sporgente non si calcola per questo tipo.");
             break;
         case Kind::cylindrical:
-            tell_springing(subject, remarks.on_coefficients);
+            remark_on_springing(subject, remarks.on_coefficients);
             break;
         case Kind::level_change:
-            tell_limits(subject, remarks.on_coefficients);
-            tell_drift(subject, remarks.on_loads);
+            remark_on_limits(subject, remarks.on_coefficients);
+            remark_on_drift(subject, remarks.on_loads);
             break;
         case Kind::wall:
             if (subject.computed(wall_ls))
@@ -113,7 +113,7 @@ Remarks remarks_on(const Subject& subject) {
                     "Nessun confronto con la larghezza della copertura: verificare che ls vi stia.");
             break;
         case Kind::snow_guard:
-            tell_force(subject, remarks.on_loads);
+            remark_on_force(subject, remarks.on_loads);
             break;
     }
     return remarks;

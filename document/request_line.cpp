@@ -2,6 +2,7 @@
 
 #include "calculate/return_period.h"
 #include "text/json_text.h"
+#include "text/number_reading.h"
 #include "text/number_text.h"
 
 namespace coltre {
@@ -37,9 +38,10 @@ std::string request_line(const Subject& subject) {
     auto typed = fields.entries.begin();
     for (const Entry& entry : calculation.entries) {
         // A comma counts as the locale has it, a point everywhere.
-        const bool as_read = entry.reading == Reading::strict && subject.outcome.complete;
-        const double number = subject.outcome.entries.*entry.number;
-        object.text(entry.key, as_read ? shortest_number_text(number) : *typed);
+        const StrictNumber number = read_strictly(*typed, fields.decimal_separator);
+        const bool as_read =
+            entry.reading == Reading::strict && number.verdict == StrictNumber::Verdict::number;
+        object.text(entry.key, as_read ? shortest_number_text(number.value) : *typed);
         ++typed;
     }
     object.close();

@@ -8,7 +8,7 @@
 namespace coltre {
 
 // sections_on_case.cpp: what was calculated, and from what
-void write_title(Composer& write, const TitleBlock& title_block);
+void write_title(Composer& write, const Subject& subject, const TitleBlock& title_block);
 /// Why the calculation stopped, and that no error is where a steep pitch keeps no snow.
 void write_stop(Composer& write, const Subject& subject);
 void write_summary(Composer& write, const Subject& subject);

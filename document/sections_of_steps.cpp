@@ -2,6 +2,7 @@
 #include <array>
 #include <cmath>
 
+#include "calculate/Calcola.h"
 #include "document/formula_text.h"
 #include "document/remarks.h"
 #include "document/sections.h"
@@ -28,7 +29,8 @@ Chapter chapter_of(const Step& step, Kind kind) {
     for (const std::string_view start : {"d_", "k_", "qe_", "ls"})
         if (symbol.starts_with(start)) return Chapter::further;
     // The cut of a drift needs its length.
-    return kind == Kind::level_change && symbol == "qs1" ? Chapter::further : Chapter::loads;
+    const bool cut = kind == Kind::level_change && symbol.starts_with("qs1") && symbol != "qs1_intero";
+    return cut ? Chapter::further : Chapter::loads;
 }
 
 /// What the site and the return period add to a step.
@@ -61,7 +63,7 @@ void write_chapter(Composer& write, const Subject& subject, Chapter chapter, std
             write.paragraph(remark);
 }
 
-/// What the rules say of sites above 1500 m, and the ground load there.
+/// What the circular says of sites above 1500 m, and the ground load there.
 void write_altitude_remark(Composer& write, const Subject& subject) {
     if (!subject.outcome.qsk || !subject.calculation().needs_ground_load) return;
     const LoadInputs inputs = subject.load_inputs();
@@ -71,11 +73,11 @@ void write_altitude_remark(Composer& write, const Subject& subject) {
     cells.return_period_factor = inputs.factor;
     set_base_load(cells, highest_regulated_altitude);
     apply_load_factors(cells, inputs.CE, inputs.Ct);
+    std::string notice = altitude_notice(subject.fields)->message.text;
+    std::ranges::replace(notice, '\r', ' ');
+    write.note(std::move(notice));
     write.paragraph(
-        "Oltre 1500 m valgono le condizioni locali di clima e di esposizione, con valori non inferiori a "
-        "quelli "
-        "previsti per 1500 m. Calcolo eseguito con l'altitudine scritta, " +
-        number_text(inputs.altitude) +
+        "Calcolo eseguito con l'altitudine scritta, " + number_text(inputs.altitude) +
         " m; a 1500 m sarebbe qsk = " + with_unit(value_text(cells.qsk, area_load), area_load.unit) + ".");
 }
 
@@ -130,29 +132,41 @@ void write_arrangements(Composer& write, const Subject& subject) {
         with_unit(fixed_text(difference(*most_uneven), area_load.decimals), area_load.unit) + ".");
 }
 
+/// Windows have the decimal point in their sketches, as in their fields.
+void take_decimal_commas(Drawing& drawing) {
+    const auto is_digit = [](char c) { return c >= '0' && c <= '9'; };
+    for (Text& text : drawing.texts)
+        for (std::size_t i = 1; i + 1 < text.text.size(); ++i)
+            if (text.text[i] == '.' && is_digit(text.text[i - 1]) && is_digit(text.text[i + 1]))
+                text.text[i] = ',';
+}
+
 void write_sketch(Composer& write, const Subject& subject) {
     if (subject.outcome.calculation.results.empty()) return;
     std::map<std::string, std::string> labels;
-    bool all_loads = true;
     const auto label = [&](std::string_view name, const ResultCell& result, std::string_view unit = {}) {
-        const auto value = subject.computed(result);
-        if (value)
+        if (const auto value = subject.computed(result))
             labels[std::string(name)] = fixed_text(*value, result.quantity.decimals) + std::string(unit);
-        all_loads = all_loads && (value || result.quantity.unit != area_load.unit);
     };
     for (const ResultPlace& place : subject.calculation().places)
         label(place.label, *place.result);
     if (subject.fields.kind == Kind::cylindrical) {
         label("L1output", L1);
-        label("L2output", L2, " [m]");
+        label("L2output", L2, " m");
     }
     // Ordinates of loads that were not computed would be 0: those of the coefficients stand for them.
+    const bool all_loads = worst_load(subject.fields.kind, subject.outcome.calculation).has_value();
     const ProgramCells cells = subject.cells();
-    write.figure(
-        sketch(subject.outcome.entries, all_loads ? &cells : nullptr), std::move(labels),
+    Drawing drawing = sketch(subject.outcome.entries, all_loads ? &cells : nullptr);
+    take_decimal_commas(drawing);
+    const std::string caption =
         std::string(subject.calculation().meaning) +
-            ", schema in scala; qs riferito alla proiezione orizzontale" +
-            (all_loads ? "" : "; carichi non tutti calcolati, ordinate proporzionali ai coefficienti"));
+        (drawing.neutral ? ", schema senza scala" : ", schema in scala") +
+        "; qs riferito alla proiezione orizzontale" +
+        (all_loads || drawing.neutral
+             ? ""
+             : "; carichi non tutti calcolati, ordinate proporzionali ai coefficienti");
+    write.figure(std::move(drawing), std::move(labels), caption);
 }
 
 void write_load_figure(Composer& write, const Subject& subject) {

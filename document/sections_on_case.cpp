@@ -36,11 +36,19 @@ std::string with_decimals(double value, int decimals) {
     return shown > static_cast<std::size_t>(decimals) || all.find('e') != std::string::npos ? all : few;
 }
 
+/// Whether the text is a number that the calculation takes, were it to come so far.
+bool is_usable(const std::string& typed, Reading reading, char decimal_separator) {
+    if (reading == Reading::lenient) return !read_leniently(typed).beyond_range;
+    return read_strictly(typed, decimal_separator).verdict == StrictNumber::Verdict::number;
+}
+
 /// The datum as the table of data prints it; of one that was never read what was typed.
 std::string datum_text(const Subject& subject, std::string_view symbol, std::string_view unit, int decimals,
-                       const std::string& typed) {
+                       const std::string& typed, Reading how = Reading::lenient) {
     const Datum* const datum = subject.datum(symbol);
-    if (datum == nullptr) return "scritto «" + typed + "», non letto";
+    if (datum == nullptr)
+        return "scritto «" + typed + "», non letto" +
+               (is_usable(typed, how, subject.fields.decimal_separator) ? ": calcolo già interrotto" : "");
     return with_unit(with_decimals(datum->value, decimals), unit) + reading(*datum);
 }
 
@@ -83,23 +91,20 @@ std::string_view arrangements_of(const ResultCell* load) {
     return {};
 }
 
-/// The result of the greatest value among those that hold.
-template <typename Holds>
-const Result* greatest(const Subject& subject, Holds holds) {
-    const Result* most = nullptr;
-    for (const Result& result : subject.outcome.calculation.results)
-        if (holds(result.cell) && (most == nullptr || result.value > most->value)) most = &result;
-    return most;
+/// The greatest load of the snow overhanging the eaves; null without one.
+const Result* worst_overhang(const Subject& subject) {
+    const Result* worst = nullptr;
+    for (const Result& result : subject.outcome.calculation.results) {
+        const bool overhang = std::ranges::find(overhang_loads, result.cell) != overhang_loads.end();
+        if (overhang && (worst == nullptr || result.value > worst->value)) worst = &result;
+    }
+    return worst;
 }
 
 /// Whether the drift of a level change is longer than the lower roof.
 bool is_cut(const Subject& subject, double ls) {
     const Step* const whole = subject.step("ls_intero");
     return whole != nullptr && whole->value && ls < *whole->value;
-}
-
-bool is_overhang(const ResultCell* cell) {
-    return std::ranges::find(overhang_loads, cell) != overhang_loads.end();
 }
 
 /// The limits that governed, each with the quantities that it governed.
@@ -135,27 +140,33 @@ void write_governing(Composer& write, const Subject& subject) {
 
 }  // namespace
 
-void write_title(Composer& write, const TitleBlock& block) {
+void write_title(Composer& write, const Subject& subject, const TitleBlock& block) {
     write.heading(1, "Relazione di calcolo — Azione della neve");
     Table lines{{ColumnAlign::left, ColumnAlign::left}, {}, {}};
+    const auto filled = [](const std::string& text) {
+        return text.empty() ? Piece{"", Style::blank} : Piece{text, Style::plain};
+    };
     const auto line = [&](std::string_view name, const std::string& text) {
-        lines.rows.push_back({plain(name), text.empty() ? Pieces{{"", Style::blank}} : plain(text)});
+        lines.rows.push_back({plain(name), {filled(text)}});
     };
     line("Lavoro", block.work);
     line("Committente", block.client);
-    line("Ubicazione", block.place);
+    line("Ubicazione", block.place.empty() ? subject.site() : block.place);
     line("Progettista", block.designer);
     line("Data", block.date);
-    line("Elaborato, revisione",
-         block.sheet + (block.sheet.empty() || block.revision.empty() ? "" : ", rev. ") + block.revision);
+    lines.rows.push_back({plain("Elaborato, revisione"),
+                          {filled(block.sheet), {", rev. ", Style::plain}, filled(block.revision)}});
     write.table(std::move(lines));
 }
 
 void write_stop(Composer& write, const Subject& subject) {
-    if (subject.sheds_snow()) {
-        write.paragraph(Pieces{
-            {"µ1 = 0: la neve non resta sulla falda; qs = 0, qe non si calcola. Non è un errore di calcolo.",
-             Style::emphasis}});
+    if (const Datum* const pitch = subject.steep_pitch()) {
+        const std::string side = pitch->symbol.substr(std::string_view("alfa").size());
+        write.paragraph(
+            Pieces{{plain_text(symbol_text(pitch->symbol)) + " = " + number_text(pitch->value) +
+                        "°, µ1 = 0: la neve non resta sulla falda" + (side.empty() ? "" : " " + side) +
+                        "; qs = 0, qe non si calcola. Non è un errore di calcolo.",
+                    Style::emphasis}});
         if (subject.outcome.calculation.end.cell == &qe_2a)
             write.paragraph(
                 "Il programma termina a questo punto e non calcola i carichi della falda 2: ricavarli come "
@@ -187,18 +198,16 @@ void write_summary(Composer& write, const Subject& subject) {
                     std::string(arrangements_of(result->cell)),
                 result->value, result->cell->quantity);
     };
-    const auto is_area_load = [](const ResultCell* cell) { return cell->quantity.unit == area_load.unit; };
-    const std::string_view load = subject.is_roof() ? "Carico sulla copertura: " : "Carico: ";
+    const std::string_view load = subject.is_roof() ? " sulla copertura: " : ": ";
     if (subject.outcome.qsk && subject.calculation().needs_ground_load)
         row("Carico neve al suolo qsk", *subject.outcome.qsk, area_load);
-    if (subject.outcome.complete) {
-        row_of(subject.is_roof() ? "Carico massimo sulla copertura: " : "Carico massimo: ",
-               greatest(subject, is_area_load));
-    } else {
-        for (const Result& result : subject.outcome.calculation.results)
-            if (is_area_load(result.cell)) row_of(load, &result);
+    const auto worst = worst_load(subject.fields.kind, subject.outcome.calculation);
+    for (const Result& result : subject.outcome.calculation.results) {
+        if (result.cell->quantity.unit != area_load.unit) continue;
+        if (!worst) row_of("Carico" + std::string(load), &result);
+        if (worst && worst->cell == result.cell) row_of("Carico massimo" + std::string(load), &result);
     }
-    row_of("Carico massimo in gronda: ", greatest(subject, is_overhang));
+    row_of("Carico massimo in gronda: ", worst_overhang(subject));
     for (const ResultCell* drift : {&level_ls, &wall_ls})
         if (const auto value = subject.computed(*drift))
             row(std::string("Lunghezza di accumulo ls") +
@@ -252,8 +261,7 @@ void write_data(Composer& write, const Subject& subject) {
         rows.rows.push_back({plain(what), plain(text)});
     };
     const Fields& fields = subject.fields;
-    row("Sito", subject.municipality.empty() ? "comune non indicato"
-                                             : subject.municipality + " (" + subject.province + ")");
+    row("Sito", subject.municipality.empty() ? "comune non indicato" : subject.site());
     // What plays no part in the results is left out, unless it has stopped the calculation.
     if (subject.calculation().needs_ground_load || !subject.outcome.qsk) {
         row("Zona",
@@ -281,7 +289,7 @@ void write_data(Composer& write, const Subject& subject) {
                                                             : length.decimals;
         row(plain_text(symbol_text(entry.symbol)) + " — " +
                 std::string(entry.meaning.substr(0, entry.meaning.find(" ["))),
-            datum_text(subject, entry.symbol, entry.unit, decimals, fields.entries[i++]));
+            datum_text(subject, entry.symbol, entry.unit, decimals, fields.entries[i++], entry.reading));
     }
     write.table(std::move(rows));
 }

@@ -64,14 +64,15 @@ void write_independent_check(Composer& write, const Subject& subject) {
 }  // namespace
 
 void write_sensitivity(Composer& write, const Subject& subject) {
-    if (!subject.outcome.complete) return;
-    const LoadInputs inputs = subject.load_inputs();
-    const auto now = worst_load(inputs);
+    const auto now = worst_load(subject.fields.kind, subject.outcome.calculation);
     if (!now) return;
+    // A coefficient that an earlier calculation left is not among the inputs.
+    const LoadInputs inputs = subject.load_inputs();
+    if (worst_load(inputs) != now->value) return;
     const LoadName load = greatest_load_name(subject.fields.kind);
     write.section("Sensibilità");
     write.paragraph((load.symbol == "Fs" ? "La forza Fs è " : "Il carico massimo è ") +
-                    with_unit(value_text(*now, load.quantity), load.quantity.unit) +
+                    with_unit(value_text(now->value, load.quantity), load.quantity.unit) +
                     ". Se cambia un solo dato:");
     write.table(variation_table(inputs));
 }
@@ -130,16 +131,32 @@ void write_program(Composer& write, const Subject& subject) {
 void write_reproduction(Composer& write, const Subject& subject) {
     if (subject.request.empty()) return;
     write.section("Dati per la riproduzione");
+    const auto& data = subject.trace().data;
+    const auto left_over = std::ranges::find_if(
+        data, [](const Datum& datum) { return datum.symbol.ends_with("_precedente") && datum.value != 0; });
     write.paragraph(
-        Pieces{{"La richiesta che segue, in un file di una riga, dà gli stessi risultati con ", Style::plain},
+        Pieces{{"La richiesta che segue, in un file di una riga, ", Style::plain},
+               {left_over == data.end() ? "dà gli stessi risultati" : "ripete il calcolo", Style::plain},
+               {" con ", Style::plain},
                {"coltre-calcolo lotto FILE", Style::code},
                {".", Style::plain}});
+    // Deliberate: a request begins with fresh coefficients.
+    if (left_over != data.end())
+        write.paragraph(Pieces{{"Non dà gli stessi risultati: " + plain_text(symbol_text(left_over->symbol)) +
+                                    " = " + number_text(left_over->value) +
+                                    " viene da un calcolo precedente della stessa sessione, che la richiesta "
+                                    "non riporta; il comando prende 0.",
+                                Style::emphasis}});
     write.code(subject.request);
 }
 
 void write_signature(Composer& write) {
-    for (const std::string_view what : {"Luogo e data ", "Il progettista "})
-        write.paragraph(Pieces{{std::string(what), Style::plain}, {"", Style::blank}});
+    const auto line = [&write](std::string what, std::string behind) {
+        write.paragraph(
+            Pieces{{std::move(what), Style::plain}, {"", Style::blank}, {std::move(behind), Style::plain}});
+    };
+    line("Luogo e data ", "");
+    line("Il progettista ", " (timbro e firma)");
 }
 
 }  // namespace coltre

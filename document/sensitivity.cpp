@@ -8,6 +8,7 @@
 #include "drawings/diagrams.h"
 #include "engine/ground_load.h"
 #include "site/regions.h"
+#include "text/number_text.h"
 
 namespace coltre {
 
@@ -79,12 +80,14 @@ std::optional<double> ground_load(const LoadInputs& inputs) {
     return cells->qsk;
 }
 
-std::optional<Result> worst_load(const Calculation& calculation) {
+std::optional<Result> worst_load(Kind kind, const Calculation& calculation) {
     std::optional<Result> worst;
-    for (const Result& result : calculation.results) {
-        const bool is_load = result.cell->quantity.unit == quantities::area_load.unit;
-        if (!is_load && result.cell != &results::Fs) continue;
-        if (!worst || result.value > worst->value) worst = result;
+    for (const ResultPlace& place : describe(kind).places) {
+        const bool is_load = place.result->quantity.unit == quantities::area_load.unit;
+        if (!is_load && place.result != &results::Fs) continue;
+        const auto result = std::ranges::find(calculation.results, place.result, &Result::cell);
+        if (result == calculation.results.end()) return std::nullopt;
+        if (!worst || result->value > worst->value) worst = *result;
     }
     return worst;
 }
@@ -92,16 +95,14 @@ std::optional<Result> worst_load(const Calculation& calculation) {
 std::optional<double> worst_load(const LoadInputs& inputs) {
     auto cells = loaded_cells(inputs);
     if (!cells) return std::nullopt;
-    const Calculation calculation = calculate(*cells, inputs.entries);
-    const auto worst = worst_load(calculation);
-    if (calculation.end.stopped() || !worst) return std::nullopt;
+    const auto worst = worst_load(inputs.entries.kind, calculate(*cells, inputs.entries));
+    if (!worst) return std::nullopt;
     return worst->value;
 }
 
 std::vector<Variation> variations(const LoadInputs& inputs) {
     std::vector<Variation> variations;
     const Description& calculation = describe(inputs.entries.kind);
-    const std::optional<double> now = worst_load(inputs);
     if (calculation.needs_ground_load) vary_ground_load(variations, inputs);
     for (const Entry& entry : calculation.entries) {
         const bool slope = entry.unit == "°";
@@ -110,8 +111,7 @@ std::vector<Variation> variations(const LoadInputs& inputs) {
             double& number = changed.entries.*entry.number;
             const double by = slope ? 5 : 0.1 * std::abs(number);
             number += sign * by;
-            if (slope && number < 0) continue;
-            if (worst_load(changed) == now) continue;  // the slope of a level change, for one
+            if (by == 0 || (slope && number < 0)) continue;
             vary(variations,
                  plain_text(symbol_text(entry.symbol)) + " = " + with_unit(number_text(number), entry.unit) +
                      " (" + (sign < 0 ? "− " : "+ ") + (slope ? "5°" : "10 %") + ")",
@@ -133,8 +133,8 @@ Table variation_table(const LoadInputs& inputs) {
         std::string load = "non si calcola", change = "–";
         if (variation.load) load = value_text(*variation.load, quantity);
         if (variation.load && now.value_or(0) != 0) {
-            const double percent = 100 * (*variation.load / *now - 1);
-            change = (percent > 0 ? "+" : "") + fixed_text(percent, 1) + " %";
+            const double percent = round_half_even(100 * (*variation.load / *now - 1), 1);
+            change = (percent > 0 ? "+" : "") + fixed_text(percent == 0 ? 0 : percent, 1) + " %";
         }
         table.rows.push_back({plain(variation.what), plain(load), plain(change)});
     }

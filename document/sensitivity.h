@@ -13,13 +13,13 @@
 namespace coltre {
 
 /// The greatest load that a calculation gave: of a roof its qs, of a drift qs2, of a snow guard Fs.
-/// @return its result; nothing for a calculation without one
-std::optional<Result> worst_load(const Calculation& calculation);
+/// @return its result; nothing for a calculation that stopped before it had all of its loads
+std::optional<Result> worst_load(Kind kind, const Calculation& calculation);
 
 /// One input changed.
 struct Variation {
     std::string what;            ///< Italian: "altitudine 189 m (− 50)"
-    std::optional<double> load;  ///< greatest load then; nothing where the calculation stops
+    std::optional<double> load;  ///< greatest load then; nothing where it is not computed
 };
 
 /// Everything that a calculation of numbers depends on.
@@ -38,11 +38,11 @@ std::optional<LoadInputs> load_inputs(const Fields& fields, SnowZone zone, doubl
 /// The ground load of these inputs, kN/m2; nothing where it cannot be computed.
 std::optional<double> ground_load(const LoadInputs& inputs);
 
-/// The greatest load of these inputs; nothing where the calculation stops.
+/// The greatest load of these inputs; nothing where the calculation stops before it.
 std::optional<double> worst_load(const LoadInputs& inputs);
 
 /// The changes that a designer asks about: altitude by 50 m, CE, return periods, the neighbouring zones, each
-/// slope by 5 degrees and each length by a tenth. Those that play no part are left out.
+/// slope by 5 degrees and each length by a tenth; also those that leave this load as it is.
 std::vector<Variation> variations(const LoadInputs& inputs);
 
 /// The variations as a table: what changes, the greatest load then, by how much it differs.

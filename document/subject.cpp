@@ -37,14 +37,19 @@ LoadInputs Subject::load_inputs() const {
             outcome.entries};
 }
 
-bool Subject::sheds_snow() const {
+std::string Subject::site() const {
+    return municipality.empty() ? "" : municipality + " (" + province + ")";
+}
+
+const Datum* Subject::steep_pitch() const {
     constexpr double no_snow_from = 60;  // degrees
     const CalculationEnd& end = outcome.calculation.end;
-    if (end.fault != Fault::division_by_zero || outcome.qsk.value_or(0) == 0) return false;
-    const Entries& entries = outcome.entries;
-    if (end.cell == &results::qe_1) return entries.alfa >= no_snow_from;
-    if (end.cell == &results::qe_2a) return entries.alfa1 >= no_snow_from;
-    return end.cell == &results::qe_2c && entries.alfa2 >= no_snow_from;
+    if (end.fault != Fault::division_by_zero || outcome.qsk.value_or(0) == 0) return nullptr;
+    const Datum* const pitch = end.cell == &results::qe_1    ? datum("alfa")
+                               : end.cell == &results::qe_2a ? datum("alfa1")
+                               : end.cell == &results::qe_2c ? datum("alfa2")
+                                                             : nullptr;
+    return pitch != nullptr && pitch->value >= no_snow_from ? pitch : nullptr;
 }
 
 }  // namespace coltre

@@ -38,8 +38,11 @@ struct Subject {
     [[nodiscard]] ProgramCells cells() const;
     /// Of a calculation whose ground load was computed.
     [[nodiscard]] LoadInputs load_inputs() const;
-    /// Whether the calculation ended at an overhang load because no snow stays on so steep a pitch: no error.
-    [[nodiscard]] bool sheds_snow() const;
+    /// The municipality with its province; empty where the site was not chosen by name.
+    [[nodiscard]] std::string site() const;
+    /// The pitch so steep that no snow stays on it, at whose overhang load the calculation ended: no error.
+    /// Null for any other end.
+    [[nodiscard]] const Datum* steep_pitch() const;
 };
 
 }  // namespace coltre

@@ -107,7 +107,7 @@ void several_pitches(Run<Number>& run, const Entries& entries) {
 
     constexpr std::string_view valley = "mu2((alfa1+alfa2)/2)";
     const Number mean = run.let("alfa_m", slope, (alfa1 + alfa2) / 2);
-    if (run.stops(mean, "mu2")) return;
+    if (run.stops(mean, "mu2", coefficient)) return;
     const Number mu_valley = set_coefficient(
         run, &ProgramCells::mu2, "mu2", "mu2_precedente", mean,
         [](const Number& pitch, const Number& before, auto holds) { return mu2(pitch, before, holds); });
@@ -131,7 +131,7 @@ void cylindrical(Run<Number>& run, const Entries& entries) {
     const Number R = run.let("R", exact_length, radius);
     // The chord between the points of the arc that slope by 60 degrees. For a shallow arc it comes out wider
     // than the roof, and is kept so.
-    const Number width = run.set(L1, 2 * R * cos(Number(30) / 180 * 4 * arctan(Number(1))));
+    const Number width = run.set(L1, 2 * R * cos(Number(30) / 180 * Number::pi()));
     run.set(L2, width / 4);
 
     constexpr double highest_mu3 = 2;

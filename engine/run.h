@@ -38,6 +38,7 @@ class NoTracer {
     }
     static Checked step(Symbol /*symbol*/, Quantity /*quantity*/, Checked value) { return value; }
     static void remember(double ProgramCells::* /*cell*/, const Checked& /*value*/) {}
+    static void remember(const ResultCell& /*result*/, const Checked& /*value*/) {}
     static void source(std::string_view /*source*/) {}
     static void words(std::string_view /*words*/) {}
 };
@@ -63,20 +64,27 @@ class Tracer {
     /// what an earlier calculation left.
     /// @param fallback  its symbol in that case
     Traced stored(double ProgramCells::*cell, double value, Symbol fallback);
-    /// Adds the step, and calls the quantity by its symbol from here on.
+    /// Adds the step, and calls the quantity by its symbol from here on. Before one that could not be
+    /// computed, results that have a step under another symbol alone get one under their own.
     Traced step(Symbol symbol, Quantity quantity, const Traced& value);
     /// The step that was added last has set the cell.
     void remember(double ProgramCells::*cell, const Traced& value) {
         m_cells.emplace_back(cell, value.symbols());
     }
+    /// The step that was added last has set the result, perhaps to be set again.
+    void remember(const ResultCell& result, const Traced& value);
     void source(std::string_view source) { m_source = source; }
     void words(std::string_view words) { m_words = words; }
 
   private:
+    [[nodiscard]] bool has_step(std::string_view symbol) const;
+    void name_results();
+
     Trace& m_trace;
     Condition m_condition{};
     std::string_view m_words;  // of the next step, unless a limit has some
     std::string_view m_source;
+    std::vector<std::pair<const ResultCell*, Traced>> m_results;          // set by this run, the last value
     std::vector<std::pair<double ProgramCells::*, std::string>> m_cells;  // set by this run, and as what
 };
 
@@ -120,7 +128,7 @@ class Run {
     /// Sets a cell that is no result, or stops.
     Number store(double ProgramCells::*cell, Symbol symbol, const Number& value,
                  Quantity quantity = quantities::coefficient) {
-        if (stops(value, symbol.name)) return value;
+        if (stops(value, symbol.name, quantity)) return value;
         m_cells.*cell = value.value();
         Number named = m_tracing.step(symbol, quantity, value);
         m_tracing.remember(cell, named);
@@ -130,9 +138,7 @@ class Run {
     /// Sets a result, or stops.
     /// @param symbol  of the step, where a later one sets the same result again
     Number set(const ResultCell& result, const Number& value, std::string_view symbol) {
-        if (stops(value, result.name, &result)) {
-            return value;
-        }
+        if (stops(value, result.name, result.quantity, &result)) return value;
         m_cells.*result.cell = value.value();
         auto& recorded = m_calculation.results;
         const auto earlier = std::ranges::find(recorded, &result, &Result::cell);
@@ -141,7 +147,9 @@ class Run {
         } else {
             recorded.push_back({&result, value.value()});
         }
-        return m_tracing.step(symbol, result.quantity, value);
+        Number named = m_tracing.step(symbol, result.quantity, value);
+        m_tracing.remember(result, named);
+        return named;
     }
     Number set(const ResultCell& result, const Number& value) { return set(result, value, result.name); }
 
@@ -159,13 +167,14 @@ class Run {
     }
 
     /// Stops where the number is a fault.
-    /// @param quantity  what the step was to compute   @param cell  its row, if it is a result
+    /// @param name  of what the step was to compute   @param cell  its row, if it is a result
     /// @return true if the calculation has stopped, here or before
-    bool stops(const Number& number, std::string_view quantity, const ResultCell* cell = nullptr) {
+    bool stops(const Number& number, std::string_view name, Quantity quantity = {},
+               const ResultCell* cell = nullptr) {
         if (m_calculation.end.stopped()) return true;
         if (number.fault() == Fault::none) return false;
-        if constexpr (std::is_same_v<Number, Traced>) m_tracing.step(quantity, {}, number);
-        m_calculation.end = {number.fault(), quantity, cell};
+        m_tracing.step(name, quantity, number);
+        m_calculation.end = {number.fault(), name, cell};
         return true;
     }
 

@@ -37,7 +37,7 @@ void level_change(Run<Number>& run, const Entries& entries) {
                              in_words(by_height, "l'accumulo colma il dislivello"));
     const Number mu_w = run.let(
         "mu_w", coefficient, clamp(drift, least_mu2<Number>(), in_words(Number(4), "limite superiore 4,0")));
-    if (run.stops(mu_w, level_mu2.name, &level_mu2)) return;
+    if (run.stops(mu_w, level_mu2.name, coefficient, &level_mu2)) return;
     // Deliberate: above 15 degrees mu1(alfa) is evaluated for its cell alone. The part of the snow that
     // slides off the upper roof is half of a value that is always 0, so mu2 is mu_w for every slope.
     if (entries.alfa > 15) {

@@ -20,7 +20,7 @@ struct Datum {
     std::string symbol;
     double value;
     std::string_view unit;  ///< empty for a coefficient
-    std::string text;       ///< as typed; empty for a number that nobody typed
+    std::string text;       ///< what it was read from; empty for one that an earlier calculation left
 };
 
 /// One quantity of a calculation: how it came about.

@@ -9,10 +9,36 @@ Traced Tracer::stored(double ProgramCells::*cell, double value, Symbol fallback)
     if (set != m_cells.end()) return Traced::named(set->second, value);
 
     const std::string symbol(fallback.name);
-    const bool known = std::ranges::find(m_trace.steps, symbol, &Step::symbol) != m_trace.steps.end() ||
-                       std::ranges::find(m_trace.data, symbol, &Datum::symbol) != m_trace.data.end();
+    const bool known =
+        has_step(symbol) || std::ranges::find(m_trace.data, symbol, &Datum::symbol) != m_trace.data.end();
     if (!known) m_trace.data.push_back({symbol, value, {}, {}});
     return Traced::named(symbol, value);
+}
+
+void Tracer::remember(const ResultCell& result, const Traced& value) {
+    const auto set = std::ranges::find(m_results, &result, &std::pair<const ResultCell*, Traced>::first);
+    if (set != m_results.end()) {
+        set->second = value;
+    } else {
+        m_results.emplace_back(&result, value);
+    }
+}
+
+bool Tracer::has_step(std::string_view symbol) const {
+    return std::ranges::find(m_trace.steps, symbol, &Step::symbol) != m_trace.steps.end();
+}
+
+void Tracer::name_results() {
+    for (const auto& [result, value] : m_results) {
+        if (has_step(result->name)) continue;
+        m_trace.steps.push_back({.symbol = std::string(result->name),
+                                 .formula = value.symbols(),
+                                 .numbers = value.numbers(),
+                                 .value = value.value(),
+                                 .quantity = result->quantity,
+                                 .source = m_source,
+                                 .words = "resta il valore già calcolato"});
+    }
 }
 
 Traced Tracer::step(Symbol symbol, Quantity quantity, const Traced& value) {
@@ -21,6 +47,8 @@ Traced Tracer::step(Symbol symbol, Quantity quantity, const Traced& value) {
 
     std::string name(symbol.name);
     if (!symbol.of.empty()) name.append("_").append(symbol.of);
+    if (value.fault() != Fault::none) name_results();
+    if (has_step(name)) name += "_finale";
     Step step{.symbol = name,
               .formula = value.symbols(),
               .numbers = value.numbers(),

@@ -8,17 +8,21 @@
 
 namespace coltre {
 
-std::string document_date() {
+DocumentDate document_date() {
     std::time_t seconds = std::time(nullptr);
     const char* const epoch = std::getenv("SOURCE_DATE_EPOCH");
-    const std::string_view text = epoch != nullptr ? epoch : "";
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
-    const bool fixed = !text.empty() && error == std::errc() && end == text.data() + text.size();
-    if (!fixed) seconds = std::time(nullptr);
-    const std::tm* const day = fixed ? std::gmtime(&seconds) : std::localtime(&seconds);
-    if (day == nullptr) return {};
+    const std::string_view given = epoch != nullptr ? epoch : "";
+    const char* const end = given.data() + given.size();
+    const auto read = std::from_chars(given.data(), end, seconds);
+    const bool is_number = read.ec == std::errc() && read.ptr == end;
+    const std::tm* day = nullptr;
+    if (given.empty()) day = std::localtime(&seconds);
+    if (!given.empty() && is_number) day = std::gmtime(&seconds);
+    if (day == nullptr)
+        return {"", "la variabile d'ambiente SOURCE_DATE_EPOCH deve essere un numero di secondi: «" +
+                        std::string(given) + "»"};
     std::array<char, 32> date{};
-    return {date.data(), std::strftime(date.data(), date.size(), "%d/%m/%Y", day)};
+    return {{date.data(), std::strftime(date.data(), date.size(), "%d/%m/%Y", day)}, ""};
 }
 
 }  // namespace coltre

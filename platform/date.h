@@ -4,8 +4,14 @@
 
 namespace coltre {
 
-/// Today as documents print it, "21/11/2026". Where the environment sets SOURCE_DATE_EPOCH to a number of
-/// seconds, that day in UTC: the same request then gives the same document.
-std::string document_date();
+/// A day as documents print it, "21/11/2026".
+struct DocumentDate {
+    std::string text;
+    std::string error;  ///< why there is none, in Italian; empty if there is one
+};
+
+/// Today. Where the environment sets SOURCE_DATE_EPOCH to a number of seconds, that day in UTC: the same
+/// request then gives the same document. To anything else it is an error.
+DocumentDate document_date();
 
 }  // namespace coltre

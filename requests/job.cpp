@@ -17,8 +17,8 @@ namespace coltre {
 namespace {
 
 /// What belongs to the command, and to no control.
-constexpr std::array command_keys{keys::lavoro,     keys::relazione,     keys::altitudini, keys::passaggi,
-                                  keys::illustrata, keys::impaginazione, keys::sovrascrivi};
+constexpr std::array command_keys{keys::lavoro, keys::relazione, keys::altitudini, keys::passaggi,
+                                  keys::illustrata};
 
 /// A text that a message box has room for: what a file holds may have any length.
 std::string shortened(const std::string& text, std::size_t most_characters = 300) {
@@ -131,19 +131,17 @@ Job read_job(std::string_view bytes, const std::string& ProgramDirectory) {
     for (const std::string& key : read.unknown_keys)
         job.not_taken.push_back("chiave sconosciuta " + in_quotes_shortened(key) +
                                 ", forse di una versione più recente");
-    for (const Key& key : command_keys)
+    const auto leave_to_command = [&](const Key& key) {
         if (request.value(key) != nullptr)
             job.not_taken.push_back("chiave " + in_quotes(key.name) + ", che serve soltanto al comando");
+    };
+    std::ranges::for_each(command_keys, leave_to_command);
+    std::ranges::for_each(keys::of_illustrated, leave_to_command);
     if (!read.id.empty()) job.not_taken.emplace_back("chiave «id», che serve soltanto al lotto");
     return job;
 }
 
-std::string job_file(Subject subject) {
-    EntryReader reader;
-    subject.outcome = {};
-    subject.outcome.entries =
-        reader.entries(subject.fields.kind, subject.fields.entries, subject.fields.decimal_separator);
-    subject.outcome.complete = !reader.stop();
+std::string job_file(const Subject& subject) {
     return request_line(subject) + '\n';
 }
 

@@ -35,6 +35,6 @@ Job read_job(std::string_view bytes, const std::string& ProgramDirectory);
 
 /// The bytes of the job file of a calculation, whether it was performed or not.
 /// @param subject  its site, its return period and its fields
-std::string job_file(Subject subject);
+std::string job_file(const Subject& subject);
 
 }  // namespace coltre

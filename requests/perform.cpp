@@ -63,11 +63,22 @@ void write_illustrated_report(const Request& request, Subject subject, Answer& r
     subject.request = request_line(subject);
     const Layout layout =
         layout_of(request.value_or(keys::impaginazione, "completa")).value_or(Layout::complete);
-    const TitleBlock title{.work = request.value_or(keys::lavoro, ""), .date = document_date()};
+    const std::string* const given_date = request.value(keys::data);
+    const DocumentDate date = given_date != nullptr ? DocumentDate{*given_date, ""} : document_date();
+    const TitleBlock title{.work = request.value_or(keys::lavoro, ""),
+                           .client = request.value_or(keys::committente, ""),
+                           .place = request.value_or(keys::ubicazione, ""),
+                           .designer = request.value_or(keys::progettista, ""),
+                           .sheet = request.value_or(keys::elaborato, ""),
+                           .revision = request.value_or(keys::revisione, ""),
+                           .date = date.text};
 
     Failure failure;
-    if (!request.flag(keys::sovrascrivi) && std::filesystem::exists(std::filesystem::symlink_status(path))) {
-        failure = "il file esiste già; con «sovrascrivi» viene sostituito";
+    if (!date.error.empty()) {
+        failure = date.error;
+    } else if (!request.flag(keys::sovrascrivi) &&
+               std::filesystem::exists(std::filesystem::symlink_status(path))) {
+        failure = "il file esiste già; --sovrascrivi, in un lotto «sovrascrivi», lo sostituisce";
     } else {
         FileReplacement file(path);
         file.write(to_html(illustrated_report(subject, title, layout)));
@@ -133,8 +144,11 @@ Answer perform(const Request& request, const Environment& environment, SiteMemor
     append(result.messages, outcome.messages);
     result.return_period = program.cells.confirmed_return_period;
     result.return_period_factor = program.cells.return_period_factor;
-    if (outcome.trace) keep_text("zona", request.value(keys::zona), *outcome.trace);
-    if (outcome.trace) keep_text("Tr", request.value(keys::periodo_ritorno), *outcome.trace);
+    if (outcome.trace) {
+        keep_text("zona", request.value(keys::provincia), *outcome.trace);
+        keep_text("zona", request.value(keys::zona), *outcome.trace);
+        keep_text("Tr", request.value(keys::periodo_ritorno), *outcome.trace);
+    }
     result.calculation = outcome.calculation;
     if (request.flag(keys::passaggi)) result.trace = outcome.trace;
     result.altitude = outcome.altitude;

@@ -15,9 +15,10 @@ namespace {
 
 using namespace keys;
 
-constexpr std::array common{provincia,  comune,   zona,       altitudine,    periodo_ritorno,
-                            ce,         ct,       unita,      lavoro,        relazione,
-                            altitudini, passaggi, illustrata, impaginazione, sovrascrivi};
+constexpr std::array common{provincia,  comune,        zona,        altitudine, periodo_ritorno, ce,
+                            ct,         unita,         lavoro,      relazione,  altitudini,      passaggi,
+                            illustrata, impaginazione, committente, ubicazione, progettista,     elaborato,
+                            revisione,  data,          sovrascrivi};
 
 std::string missing(const Key& key) {
     return "manca " + in_quotes(key.name);
@@ -45,14 +46,20 @@ std::string missing_value(const Request& request) {
 std::string illustrated_report_error(const Request& request) {
     const std::string* const file = request.value(illustrata);
     if (file == nullptr) {
-        const Key* const vain = request.value(impaginazione) != nullptr ? &impaginazione
-                                : request.flag(sovrascrivi)             ? &sovrascrivi
-                                                                        : nullptr;
-        return vain == nullptr ? "" : in_quotes(vain->name) + " serve solo con " + in_quotes(illustrata.name);
+        const auto* const vain = std::ranges::find_if(of_illustrated, [&](const Key& key) {
+            return key.type == KeyType::flag ? request.flag(key) : request.value(key) != nullptr;
+        });
+        return vain == of_illustrated.end()
+                   ? ""
+                   : in_quotes(vain->name) + " serve solo con " + in_quotes(illustrata.name);
     }
     if (file->empty()) return "manca il nome del file di " + in_quotes(illustrata.name);
-    if (!lower_case(*file).ends_with(".html"))
+    const std::string name = lower_case(file->substr(file->find_last_of("/\\") + 1));
+    if (!name.ends_with(".html"))
         return "il file di " + in_quotes(illustrata.name) + " deve finire in .html: " + in_quotes(*file);
+    if (name == ".html")
+        return "il file di " + in_quotes(illustrata.name) +
+               " non ha nome davanti a .html: " + in_quotes(*file);
     const std::string* const layout = request.value(impaginazione);
     if (layout != nullptr && !layout_of(*layout))
         return "l'impaginazione deve essere completa, sintetica o passaggi: " + in_quotes(*layout);

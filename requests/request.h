@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <span>
 #include <string>
@@ -58,9 +59,23 @@ inline constexpr Key illustrata{"illustrata", "FILE",
 inline constexpr Key impaginazione{"impaginazione", "I",
                                    "della relazione illustrata: completa, sintetica o passaggi", "completa",
                                    KeyType::text};
+inline constexpr Key committente{"committente", "NOME", "committente, nella relazione illustrata", "",
+                                 KeyType::text};
+inline constexpr Key ubicazione{"ubicazione", "LUOGO", "ubicazione dell'opera, nella relazione illustrata",
+                                "comune e provincia", KeyType::text};
+inline constexpr Key progettista{"progettista", "NOME", "progettista, nella relazione illustrata", "",
+                                 KeyType::text};
+inline constexpr Key elaborato{"elaborato", "SIGLA", "sigla dell'elaborato, nella relazione illustrata", "",
+                               KeyType::text};
+inline constexpr Key revisione{"revisione", "R", "revisione dell'elaborato, nella relazione illustrata", "",
+                               KeyType::text};
+inline constexpr Key data{"data", "DATA", "data della relazione illustrata", "oggi", KeyType::text};
 inline constexpr Key sovrascrivi{
     "sovrascrivi", "", "la relazione illustrata sostituisce un file che esiste già; senza, è un errore", "",
     KeyType::flag};
+/// Those that play no part without an illustrated report.
+inline constexpr std::array of_illustrated{impaginazione, committente, ubicazione, progettista,
+                                           elaborato,     revisione,   data,       sovrascrivi};
 }  // namespace keys
 
 /// In the order of the help.

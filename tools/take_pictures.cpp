@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPalette>
+#include <QPrinter>
 #include <QPushButton>
 #include <QStyleFactory>
 #include <QTabWidget>
@@ -20,9 +21,11 @@
 #include "ui/Form1.h"
 #include "ui/PeriododiRitorno.h"
 #include "ui/casipart.h"
+#include "ui/menus.h"
 #include "ui/place_finder.h"
 #include "ui/qt_dialogs.h"
 #include "ui/sketch_widget.h"
+#include "ui/steps_window.h"
 #include "ui/table_window.h"
 
 namespace {
@@ -65,7 +68,7 @@ class Pictures {
     void take(QWidget& window, const QString& name) {
         window.show();
         QApplication::processEvents();
-        const QString file = m_directory + "/" + name + ".png";
+        const QString file = path(name + ".png");
         constexpr int smallest_file = 0;
         if (!in_few_colours(window.grab().toImage()).save(file, "PNG", smallest_file))
             complain("cannot write " + file);
@@ -87,6 +90,8 @@ class Pictures {
         std::cerr << "take_pictures: " << what.toStdString() << '\n';
         complete = false;
     }
+    [[nodiscard]] QString path(const QString& file) const { return m_directory + "/" + file; }
+
     bool complete = true;
 
   private:
@@ -136,6 +141,31 @@ void take_tab(QWidget& window, const char* tabs, int tab, const char* calculate,
     pictures.take(window, name);
 }
 
+void choose_in_menu(QWidget& window, const QString& entry) {
+    for (QAction* const action : window.findChild<QMenuBar*>()->findChildren<QAction*>())
+        if (action->text() == entry) action->trigger();
+}
+
+/// Chooses an entry of the window's menus, which opens a window of this class.
+template <typename Window>
+Window& open_by_menu(QWidget& window, const QString& entry) {
+    choose_in_menu(window, entry);
+    return *window.findChildren<Window*>().constLast();
+}
+
+/// The steps of the last calculation, and the pages of its report as a PDF.
+void take_documents(Form1& window, Pictures& pictures) {
+    auto& steps = open_by_menu<StepsWindow>(window, "Passaggi del calcolo");
+    steps.resize(1180, 560);
+    pictures.take(steps, "passaggi");
+    steps.close();
+    window.findChild<Menus*>()->ask_printer = [&pictures](QPrinter& printer) {
+        printer.setOutputFileName(pictures.path("relazione-illustrata.pdf"));
+        return true;
+    };
+    choose_in_menu(window, "Stampa…");
+}
+
 void take_main_window(Form1& window, PicturedDialogs& dialogs, Pictures& pictures) {
     window.resize(960, 640);
     pictures.take(window, "finestra-avvio");
@@ -150,6 +180,7 @@ void take_main_window(Form1& window, PicturedDialogs& dialogs, Pictures& picture
         QContextMenuEvent right_click(QContextMenuEvent::Mouse, {}, {});
         QApplication::sendEvent(&sketch, &right_click);
     });
+    take_documents(window, pictures);
     take_tab(window, "SSTab1", 2, "Calcola", "finestra-piu-falde", pictures);
     take_tab(window, "SSTab1", 3, "Calcola", "finestra-cilindrica", pictures);
     take_tab(window, "SSTab1", 0, "Calcola", "finestra-una-falda", pictures);
@@ -175,14 +206,6 @@ void take_special_cases(Form1& window, Pictures& pictures) {
     take_tab(special_cases, "cartelle", 0, "Calcola2", "casi-discontinuita", pictures);
     take_tab(special_cases, "cartelle", 1, "Calcola2", "casi-pareti", pictures);
     take_tab(special_cases, "cartelle", 2, "Calcola2", "casi-ostacoli", pictures);
-}
-
-/// Chooses an entry of the window's menus, which opens a window of this class.
-template <typename Window>
-Window& open_by_menu(QWidget& window, const QString& entry) {
-    for (QAction* const action : window.findChild<QMenuBar*>()->findChildren<QAction*>())
-        if (action->text() == entry) action->trigger();
-    return *window.findChildren<Window*>().constLast();
 }
 
 void take_side_windows(Form1& window, Pictures& pictures) {

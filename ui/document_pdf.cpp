@@ -80,8 +80,15 @@ struct TableFrame {
 class PdfPages {
   public:
     explicit PdfPages(const Document& document) : m_document(document) {
-        for (const Block& block : document.blocks)
-            std::visit(*this, block);
+        const auto& blocks = document.blocks;
+        for (std::size_t i = 0; i < blocks.size(); ++i) {
+            std::visit(*this, blocks[i]);
+            // What leads to a table or to lines to be copied stays with the first of them.
+            if (std::holds_alternative<Paragraph>(blocks[i]) && i + 1 < blocks.size() &&
+                (std::holds_alternative<Table>(blocks[i + 1]) ||
+                 std::holds_alternative<CodeBlock>(blocks[i + 1])))
+                m_flow.back().keep_with_next = true;
+        }
     }
 
     void operator()(const Heading& heading) {
@@ -266,17 +273,24 @@ class PdfPages {
         QFont font = m_look.font;
         font.setPixelSize(qRound(8.5 * point));
         const QFontMetricsF metrics(font, painter.device());
-        const auto one_line = [&metrics](const std::string& text, double width) {
-            return metrics.elidedText(QString::fromStdString(text), Qt::ElideMiddle, width);
+        // In smaller letters where it is long, and cut where it is too long for these.
+        const auto write_line = [&](QPointF at, const std::string& line, double width) {
+            const QString text = QString::fromStdString(line);
+            QFont fitted = font;
+            const double part = std::min(1.0, width / metrics.horizontalAdvance(text));
+            fitted.setPixelSize(static_cast<int>(std::max(7 * point, part * 8.5 * point)));
+            painter.setFont(fitted);
+            const QFontMetricsF fitted_metrics(fitted, painter.device());
+            painter.drawText(at, fitted_metrics.elidedText(text, Qt::ElideMiddle, width));
         };
-        painter.setFont(font);
         painter.setPen(QColor(85, 85, 85));
         const QString number = QStringLiteral("pagina %1 di %2").arg(page + 1).arg(pages);
         const double room = text_width_a_page - metrics.horizontalAdvance(number) - between_columns;
         const double footer = footer_line + 1.2 * mm + metrics.ascent();
-        painter.drawText(QPointF(side_margin, header_line - 1.2 * mm - metrics.descent()),
-                         one_line(m_document.page_header, text_width_a_page));
-        painter.drawText(QPointF(side_margin, footer), one_line(m_document.page_footer, room));
+        write_line({side_margin, header_line - 1.2 * mm - metrics.descent()}, m_document.page_header,
+                   text_width_a_page);
+        write_line({side_margin, footer}, m_document.page_footer, room);
+        painter.setFont(font);
         painter.drawText(QPointF(page_width - side_margin - metrics.horizontalAdvance(number), footer),
                          number);
         for (const double line : {header_line, footer_line})

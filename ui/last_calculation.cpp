@@ -11,13 +11,13 @@ namespace coltre {
 
 LastCalculation::LastCalculation(QWidget& main_window, UserDialogs& dialogs)
     : m_main_window(main_window), m_dialogs(dialogs) {
-    m_choices.title_block.date = document_date();
+    m_choices.title_block.date = document_date().text;
 }
 
 void LastCalculation::keep(Subject subject) {
     subject.last_roof_load = m_last_roof_load;
-    if (subject.is_roof() && subject.outcome.complete)
-        m_last_roof_load = worst_load(subject.outcome.calculation)->value;
+    const auto load = worst_load(subject.fields.kind, subject.outcome.calculation);
+    if (subject.is_roof() && load) m_last_roof_load = load->value;
     subject.program = "Coltre " + std::string(version_and_build());
     subject.request = request_line(subject);
     m_subject = std::move(subject);
@@ -43,6 +43,8 @@ std::optional<Document> LastCalculation::report() const {
 void LastCalculation::write_report(QWidget* parent, const std::string& job_name) {
     std::optional<ReportSource> source;
     if (m_subject) {
+        if (const std::string error = document_date().error; !error.empty())
+            m_dialogs.show(no_document_date(error));
         if (m_choices.title_block.work.empty()) m_choices.title_block.work = job_name;
         source = ReportSource{
             .document = [this](const TitleBlock& title_block,
@@ -51,7 +53,8 @@ void LastCalculation::write_report(QWidget* parent, const std::string& job_name)
             .suggested_path =
                 [this](const TitleBlock& title_block) {
                     return QString::fromStdString(suggested_file_name(*m_subject, title_block));
-                }};
+                },
+            .site = QString::fromStdString(m_subject->site())};
     }
     ask_for_report(std::move(source), m_choices, m_dialogs, parent);
 }

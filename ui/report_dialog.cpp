@@ -81,6 +81,7 @@ ReportDialog::ReportDialog(ReportSource source, ReportChoices& choices, UserDial
     show(m_ui->lavoro, block.work);
     show(m_ui->committente, block.client);
     show(m_ui->ubicazione, block.place);
+    m_ui->ubicazione->setPlaceholderText(m_source.site);
     show(m_ui->progettista, block.designer);
     show(m_ui->elaborato, block.sheet);
     show(m_ui->revisione, block.revision);
@@ -118,6 +119,8 @@ void ReportDialog::save_clicked() {
                  m_source.suggested_path(choices.title_block) + row.suffix, QString::fromUtf8(row.filter));
     if (chosen.isEmpty()) return;
     const QString path = with_suffix(chosen, choices.format);
+    if (QFileInfo(path).completeBaseName().isEmpty())
+        return m_dialogs.show(error("Il nome del file " + native(path) + " ha soltanto l'estensione."));
     if (QFileInfo::exists(path) && !m_dialogs.ask({Icon::warning, std::string(program_title),
                                                    "Il file " + native(path) + " esiste già.\rSostituirlo?"}))
         return;
@@ -149,6 +152,10 @@ bool ReportDialog::save(const ReportChoices& choices, const QString& path) {
     m_dialogs.show(error("Impossibile salvare la relazione nel file " + native(path) + ": " +
                          reason.toStdString() + "."));
     return false;
+}
+
+Message no_document_date(const std::string& error) {
+    return {Icon::warning, std::string(program_title), "Il documento non ha la data: " + error + "."};
 }
 
 void ask_for_report(std::optional<ReportSource> source, ReportChoices& choices, UserDialogs& dialogs,

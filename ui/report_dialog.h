@@ -32,6 +32,7 @@ struct ReportSource {
     std::function<std::string(const Document&)> html;  ///< bytes of the HTML file
     /// The file that saving suggests, without suffix.
     std::function<QString(const TitleBlock&)> suggested_path;
+    QString site{};  ///< that the report names where no other place is typed
 };
 
 /// The dialog "Relazione illustrata": fields of the heading, layout, format. "Salva" asks for the file, and
@@ -64,6 +65,9 @@ class ReportDialog : public QDialog {
     UserDialogs& m_dialogs;
     std::unique_ptr<Ui::ReportDialog> m_ui;
 };
+
+/// Says that a document has no date, and why.
+Message no_document_date(const std::string& error);
 
 /// Has the user save a report; returns when the dialog is closed.
 /// @param source  nothing before the first calculation: a message says so

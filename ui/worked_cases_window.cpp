@@ -5,6 +5,7 @@
 #include "ui/document_pdf.h"
 #include "ui/document_text.h"
 #include "ui/file_choice.h"
+#include "ui/report_dialog.h"
 #include "ui/sketch_export.h"
 #include "ui/window_setup.h"
 #include "ui_worked_cases_window.h"
@@ -15,8 +16,9 @@ namespace coltre {
 WorkedCasesWindow::WorkedCasesWindow(UserDialogs& dialogs, QWidget* parent)
     : QDialog(parent, Qt::Window), m_dialogs(dialogs), m_ui(std::make_unique<Ui::WorkedCasesWindow>()) {
     const std::vector<CaseOutcome> outcomes = run_worked_cases();
-    m_document =
-        worked_cases_document(outcomes, "Coltre " + std::string(version_and_build()), document_date());
+    const DocumentDate date = document_date();
+    if (!date.error.empty()) m_dialogs.show(no_document_date(date.error));
+    m_document = worked_cases_document(outcomes, "Coltre " + std::string(version_and_build()), date.text);
     m_ui->setupUi(this);
     m_ui->esito->setText(QString::fromStdString(summary(outcomes)));
     ask_file = [this](const QString& title, const QString& suggested, const QString& filter) {

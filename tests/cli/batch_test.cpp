@@ -45,7 +45,9 @@ TEST(Batch, TellsTheStepThatStoppedItAndWhatTheIllustratedReportLacks) {
     const CommandRun run =
         run_command({"lotto"}, {request(by_number, R"("alfa":15,"passaggi":true,"periodo-ritorno":1e17)"),
                                 request(R"("zona":0,"altitudine":-1e400)", R"("alfa":15,"passaggi":true)"),
-                                request(by_number, R"("alfa":15,"illustrata":"a.pdf")")});
+                                request(by_number, R"("alfa":15,"illustrata":"a.pdf")"),
+                                request(by_number, R"("alfa":15,"illustrata":"/.html")"),
+                                request(by_number, R"("alfa":15,"data":"1/3/2024")")});
     const std::vector<Json> results = run.results();
     for (const auto& [i, symbol] : {std::pair(0, "cT"), std::pair(1, "as")}) {
         const Json& last = results.at(static_cast<std::size_t>(i)).at("passaggi").back();
@@ -54,6 +56,27 @@ TEST(Batch, TellsTheStepThatStoppedItAndWhatTheIllustratedReportLacks) {
         EXPECT_EQ(last["errore"], "errore numerico");
     }
     EXPECT_EQ(error_of(results.at(2)), "il file di «illustrata» deve finire in .html: «a.pdf»");
+    EXPECT_EQ(error_of(results.at(3)), "il file di «illustrata» non ha nome davanti a .html: «/.html»");
+    EXPECT_EQ(error_of(results.at(4)), "«data» serve solo con «illustrata»");
+}
+
+TEST(Batch, WritesTheHeadingOfTheIllustratedReportAndTheDateThatTheEnvironmentGives) {
+    const TemporaryDirectory directory;
+    const std::string line =
+        request(by_number, R"("alfa":15,"progettista":"ing. Neve","sovrascrivi":true,"illustrata":")" +
+                               directory.name() + "/a.html\"");
+    const auto run_with = [&](char* setting) {
+        putenv(setting);
+        return run_command({"lotto"}, {line}).results().at(0);
+    };
+    static char wrong[] = "SOURCE_DATE_EPOCH=ieri", day[] = "SOURCE_DATE_EPOCH=1700000000",
+                none[] = "SOURCE_DATE_EPOCH=";
+    EXPECT_THAT(error_of(run_with(wrong)), testing::EndsWith("un numero di secondi: «ieri»."));
+    EXPECT_EQ(directory.content("a.html"), std::nullopt);
+    EXPECT_TRUE(run_with(day)["errore"].is_null());
+    putenv(none);
+    EXPECT_THAT(*directory.content("a.html"), testing::HasSubstr("ing. Neve"));
+    EXPECT_THAT(*directory.content("a.html"), testing::HasSubstr("14/11/2023"));
 }
 
 TEST(Batch, NamesTheFirstCharacterThatCannotStandWhereItIs) {

@@ -31,7 +31,7 @@ TEST(FormulaText, IsPrintedAsAnEngineerWritesIt) {
              {"qs * b * sin(alfa * pi / 180)", "q_{s} · b · sen(α · π/180)"},
              {"0.273 * (1 - 0.5 * ln(0 - ln(1 - 1 / Tr)))", "0,273 · (1 − 0,5 · ln(0 − ln(1 − 1/T_{r})))"},
              {"1.5398124282997221 * (-0.0001234567) + 2e+20", "1,5398 · (−0,0001235) + 2e+20"},
-             {"2 * R * cos(30 / 180 * 4 * arctan(1))", "2 · R · cos(30/180 · 4 · arctan(1))"},
+             {"2 * R * cos(30 / 180 * pi)", "2 · R · cos(30/180 · π)"},
          })
         EXPECT_EQ(marked(formula_text(formula)), printed);
 }

@@ -71,14 +71,18 @@ inline std::string flaw_of(const Outcome& outcome) {
     };
     if (outcome.qsk && !is_step("qsk", *outcome.qsk)) return "no step: qsk";
     for (const auto& [cell, value] : outcome.calculation.results) {
-        // One that its formula set and a later step could not set again stands under a name of its own.
-        if (!is_step(outcome.complete ? cell->name : "", value)) return "no step: " + std::string(cell->name);
+        if (!is_step(cell->name, value)) return "no step: " + std::string(cell->name);
     }
     for (const auto& [label, mu] : outcome.calculation.coefficients) {
         if (!is_step("", mu)) return "no step: " + std::string(label);
     }
-    if (outcome.calculation.end.stopped() && (trace.steps.empty() || trace.steps.back().value))
-        return "the stop is no step";
+    const CalculationEnd& end = outcome.calculation.end;
+    if (!end.stopped()) return {};
+    if (trace.steps.empty() || trace.steps.back().value) return "the stop is no step";
+    const Step& stop = trace.steps.back();
+    if (end.cell != nullptr && stop.symbol.starts_with(end.cell->name) &&
+        stop.quantity.unit != end.cell->quantity.unit)
+        return "the stop has no unit: " + stop.symbol;
     return {};
 }
 
