@@ -45,7 +45,7 @@ std::string remarks(const Answer& answer) {
     std::ranges::for_each(answer.partly_understood, add);
     std::ranges::for_each(answer.unusual, add);
     for (const Message& message : answer.messages)
-        if (message.icon != Icon::none && message.text != answer.error) add(message.text);
+        if (message.icon != Icon::none && answer.error != message.text) add(message.text);
     return text;
 }
 
@@ -77,7 +77,7 @@ void append_csv_answer(std::string& line, const Answer& answer, char separator, 
     line += separator;
     append_text(line, remarks(answer), separator, encoding);
     line += separator;
-    append_text(line, answer.error, separator, encoding);
+    append_text(line, answer.error.value_or(""), separator, encoding);
 }
 
 }  // namespace coltre::cli

@@ -118,10 +118,10 @@ std::string to_json(const Answer& answer) {
     if (!answer.partly_understood.empty()) append_texts(object.member("letture"), answer.partly_understood);
     if (!answer.unusual.empty()) append_texts(object.member("avvisi"), answer.unusual);
     append_messages(object.member("messaggi"), answer.messages);
-    if (answer.error.empty()) {
-        object.member("errore") += "null";
+    if (answer.error) {
+        object.text("errore", *answer.error);
     } else {
-        object.text("errore", answer.error);
+        object.member("errore") += "null";
     }
     if (answer.trace) {
         append_data(object.member("dati"), *answer.trace);

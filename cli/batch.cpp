@@ -60,11 +60,11 @@ Answer perform_line(const LineReader& reader, const Environment& environment, Si
     }
     JsonRequest line = read_json_request(reader.line());
     id = line.id;
-    if (line.error.empty()) {
+    if (!line.error) {
         result = perform(line.request, environment, memory);
     } else {
         result.kind = line.request.kind;
-        result.fail(End::wrong_request, std::move(line.error));
+        result.fail(End::wrong_request, *std::move(line.error));
     }
     result.id = line.id;
     return result;
@@ -87,9 +87,9 @@ std::string answer(const LineReader& reader, const Environment& environment, Sit
 Answer perform_record(const CsvReader& table, const std::vector<CsvColumn>& columns, CsvEncoding& encoding,
                       const Environment& environment, SiteMemory& memory) {
     CsvRequest record = read_csv_request(table, columns, encoding);
-    if (record.error.empty()) return perform(record.request, environment, memory);
+    if (!record.error) return perform(record.request, environment, memory);
     Answer result;
-    result.fail(End::wrong_request, std::move(record.error));
+    result.fail(End::wrong_request, *std::move(record.error));
     return result;
 }
 
@@ -138,7 +138,7 @@ BatchOutcome run_csv_batch(std::istream& in, std::ostream& out, const Environmen
     CsvReader table(in);
     const bool has_header = table.next();
     const CsvHeader header = read_csv_header(has_header ? &table : nullptr);
-    if (!header.error.empty()) {
+    if (header.error) {
         outcome.end = in.bad() ? BatchEnd::input_failed : BatchEnd::wrong_header;
         outcome.header_error = header.error;
         return outcome;

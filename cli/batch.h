@@ -5,6 +5,7 @@
 #include <ostream>
 #include <string>
 
+#include "platform/failure.h"
 #include "requests/perform.h"
 
 namespace coltre::cli {
@@ -16,8 +17,8 @@ enum class BatchEnd { all_well, some_failed, wrong_header, input_failed, output_
 struct BatchOutcome {
     BatchEnd end = BatchEnd::all_well;
     std::size_t requests = 0;
-    std::size_t failed = 0;    ///< of them
-    std::string header_error;  ///< Italian; of a table whose header cannot be used, where nothing is done
+    std::size_t failed = 0;  ///< of them
+    Failure header_error;    ///< of a table whose header cannot be used, where nothing is done
 };
 
 /// "120 richieste, 3 errori"

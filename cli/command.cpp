@@ -74,8 +74,8 @@ int run_calculation(const Request& request, bool json, const Environment& enviro
             print_message(streams.err, message);
         if (result.end != End::wrong_request) streams.out << to_table(result, request.flag(keys::passaggi));
         if (result.end == End::wrong_request)
-            return complain(streams.err, result.error, std::string(describe(*request.kind).name) + " ");
-        if (result.end == End::failed) streams.err << "Errore: " << result.error << '\n';
+            return complain(streams.err, *result.error, std::string(describe(*request.kind).name) + " ");
+        if (result.end == End::failed) streams.err << "Errore: " << *result.error << '\n';
     }
     return check_output(streams.out, streams.err, exit_status(result.end));
 }
@@ -86,7 +86,7 @@ int run_batch_command(const std::string& file, bool csv, const Environment& envi
         const BatchOutcome outcome =
             csv ? run_csv_batch(in, streams.out, environment) : run_batch(in, streams.out, environment);
         if (outcome.end == BatchEnd::wrong_header)
-            return complain(streams.err, outcome.header_error, "lotto ");
+            return complain(streams.err, *outcome.header_error, "lotto ");
         if (outcome.end == BatchEnd::input_failed)
             streams.err << "coltre-calcolo: impossibile leggere le richieste\n";
         if (streams.err_is_terminal) streams.err << summary(outcome) << '\n';

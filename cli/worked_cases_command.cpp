@@ -20,7 +20,7 @@ void list(std::ostream& out, const CaseOutcome& outcome) {
         if (!agrees)
             out << "  " << expected.name << ": atteso " << expected.value << ", trovato "
                 << (found.empty() ? "nessun valore" : found) << '\n';
-    if (!outcome.fault.empty()) out << "  " << outcome.fault << '\n';
+    if (outcome.fault) out << "  " << *outcome.fault << '\n';
 }
 
 }  // namespace
@@ -36,7 +36,7 @@ int worked_cases_command(const std::string& html, std::ostream& out, std::ostrea
     const std::filesystem::path path = find_path(suite_notation(to_path(html)));
     const DocumentDate date = document_date();
     Failure failure;
-    if (!date.error.empty()) {
+    if (date.error) {
         failure = date.error;
     } else {
         FileReplacement file(path);

@@ -44,14 +44,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const ProgramDirectory program;
 
     const Job job = read_job({reinterpret_cast<const char*>(data), size}, program.text());
-    if (!job.error.empty()) {
+    if (job.error) {
         require(job.not_taken.empty() && job.fields == Fields{}, "a file that is no job fills nothing");
         return 0;
     }
     const std::string written = saved(job);
     const Job again = read_job(written, program.text());
     if (written.size() > longest_job) return 0;
-    require(again.error.empty(), "what is saved can be opened");
+    require(!again.error, "what is saved can be opened");
     require(again.not_taken.empty(), "what is saved can be opened as a whole");
     require(again.province == job.province && again.municipality == job.municipality, "the site is kept");
     require(saved(again) == written, "saving what was opened changes nothing");

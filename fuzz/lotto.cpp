@@ -50,7 +50,7 @@ std::vector<std::string> lines_without_directories(const std::string& text) {
     std::istringstream stream(text);
     for (std::string line; std::getline(stream, line); lines.push_back(line)) {
         const JsonRequest read = read_json_request(line);
-        if (!read.error.empty()) continue;
+        if (read.error) continue;
         const bool names_directory =
             read.request.value(keys::relazione) != nullptr || read.request.value(keys::altitudini) != nullptr;
         if (!names_directory) continue;

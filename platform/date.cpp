@@ -22,7 +22,7 @@ DocumentDate document_date() {
         return {"", "la variabile d'ambiente SOURCE_DATE_EPOCH deve essere un numero di secondi: «" +
                         std::string(given) + "»"};
     std::array<char, 32> date{};
-    return {{date.data(), std::strftime(date.data(), date.size(), "%d/%m/%Y", day)}, ""};
+    return {{date.data(), std::strftime(date.data(), date.size(), "%d/%m/%Y", day)}, std::nullopt};
 }
 
 }  // namespace coltre

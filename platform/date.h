@@ -2,12 +2,14 @@
 
 #include <string>
 
+#include "platform/failure.h"
+
 namespace coltre {
 
 /// A day as documents print it, "21/11/2026".
 struct DocumentDate {
     std::string text;
-    std::string error;  ///< why there is none, in Italian; empty if there is one
+    Failure error;  ///< why there is none
 };
 
 /// Today. Where the environment sets SOURCE_DATE_EPOCH to a number of seconds, that day in UTC: the same

@@ -7,6 +7,7 @@
 
 #include "engine/calculation.h"
 #include "engine/program_cells.h"
+#include "platform/failure.h"
 #include "platform/messages.h"
 #include "requests/request.h"
 
@@ -39,7 +40,7 @@ struct Answer {
     std::vector<std::string> partly_understood;  ///< in Italian, one text an entry
     std::vector<std::string> unusual;            ///< coefficients, likewise
     End end = End::well;
-    std::string error;  ///< Italian; empty if all is well
+    Failure error;
 
     void fail(End how, std::string why) {
         end = how;

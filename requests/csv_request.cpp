@@ -74,8 +74,8 @@ std::string value_of(const Key& key, std::string text, char separator) {
 }
 
 /// Puts a cell into the request.
-/// @return what is wrong with it, in Italian; empty if nothing is
-std::string take(const CsvColumn& column, const std::string& text, char separator, Request& request) {
+/// @return what is wrong with it
+Failure take(const CsvColumn& column, const std::string& text, char separator, Request& request) {
     if (column.key) {
         std::string value = value_of(*column.key, text, separator);
         if (column.key->type == KeyType::flag && value != "true" && value != "false")
@@ -175,10 +175,9 @@ CsvRequest read_csv_request(const CsvReader& table, const std::vector<CsvColumn>
         const std::string value = csv_value(fields[i]);
         const auto text = std::string(trim_blanks(value));
         if (text.empty()) continue;
-        std::string error =
-            take(columns[i], encoding == CsvEncoding::windows_1252 ? from_code_page(text) : text,
-                 table.separator(), result.request);
-        if (result.error.empty()) result.error = std::move(error);
+        Failure error = take(columns[i], encoding == CsvEncoding::windows_1252 ? from_code_page(text) : text,
+                             table.separator(), result.request);
+        if (!result.error) result.error = std::move(error);
     }
     return result;
 }

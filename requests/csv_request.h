@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/failure.h"
 #include "requests/request.h"
 #include "text/csv.h"
 
@@ -33,7 +34,7 @@ struct CsvColumn {
 /// The columns that a header names, or what is wrong with it.
 struct CsvHeader {
     std::vector<CsvColumn> columns;
-    std::string error;  ///< Italian; empty if all is well
+    Failure error;
 };
 
 /// Reads the header. Names may differ in letter case; each stands once, "calcolo" among them.
@@ -43,7 +44,7 @@ CsvHeader read_csv_header(const CsvReader* table);
 /// A line of a table, read.
 struct CsvRequest {
     Request request;
-    std::string error;  ///< what is wrong with the line, in Italian; empty if nothing is
+    Failure error;  ///< what is wrong with the line
 };
 
 /// Reads the request of the record that the table stands at: an empty cell is an absent key, and where ";"

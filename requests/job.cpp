@@ -33,7 +33,7 @@ std::string in_quotes_shortened(const std::string& text) {
 bool is_batch(std::string_view bytes) {
     const std::size_t end = std::min(bytes.find('\n'), bytes.size());
     return bytes.find_first_not_of(json_blanks, end) != std::string_view::npos &&
-           read_json_request(bytes.substr(0, end)).error.empty();
+           read_json_request(bytes.substr(0, end)).error == std::nullopt;
 }
 
 /// Why a file that is no job of this version cannot be opened: cut, damaged, of another program or of a later
@@ -41,13 +41,13 @@ bool is_batch(std::string_view bytes) {
 std::string refusal(const JsonRequest& read, std::string_view bytes) {
     const bool is_object = bytes[bytes.find_first_not_of(json_blanks)] == '{';
     const bool later_calculation = read.fault == JsonFault::unknown_kind;
-    if (is_object && read.fault == JsonFault::cut) return "il file è incompleto: " + read.error;
-    if (is_object && read.fault == JsonFault::unreadable) return "il file è danneggiato: " + read.error;
+    if (is_object && read.fault == JsonFault::cut) return "il file è incompleto: " + *read.error;
+    if (is_object && read.fault == JsonFault::unreadable) return "il file è danneggiato: " + *read.error;
     if (!is_object || (!read.request.kind && !later_calculation))
         return "il file è di un altro programma, non è un lavoro di Coltre";
     if (later_calculation || !read.unknown_keys.empty())
-        return "il lavoro è forse di una versione più recente: " + read.error;
-    return "il lavoro è errato: " + read.error;
+        return "il lavoro è forse di una versione più recente: " + *read.error;
+    return "il lavoro è errato: " + *read.error;
 }
 
 JsonRequest refused(std::string error) {
@@ -64,8 +64,8 @@ JsonRequest read_request(std::string_view bytes) {
     if (bytes.find_first_not_of(json_blanks) == std::string_view::npos) return refused("il file è vuoto");
     if (is_batch(bytes)) return refused("il file contiene più richieste, è un lotto del comando");
     JsonRequest request = read_json_request(bytes, UnknownKeys::listed);
-    if (request.error.empty()) request.error = validation_error(request.request);
-    if (!request.error.empty()) request.error = refusal(request, bytes);
+    if (!request.error) request.error = validation_error(request.request);
+    if (request.error) request.error = refusal(request, bytes);
     return request;
 }
 
@@ -82,7 +82,7 @@ void take_site(const Request& request, const std::string& ProgramDirectory, Job&
             if (request.value(keys::altitudine) == nullptr) job.fields.asinput = site->altitude;
         } else {
             job.not_taken.push_back("sito " + in_quotes_shortened(*request.value(keys::comune)) + ", " +
-                                    in_quotes_shortened(*province) + ": " + shortened(answer.error));
+                                    in_quotes_shortened(*province) + ": " + shortened(*answer.error));
         }
         if (site || std::ranges::find(provinces(), *province) != provinces().end())
             job.zone = ZoneOfProvince(site ? site->province : *province).zone;
@@ -120,8 +120,10 @@ void take_return_period(const Request& request, Job& job) {
 Job read_job(std::string_view bytes, const std::string& ProgramDirectory) {
     Job job;
     const JsonRequest read = read_request(bytes);
-    job.error = shortened(read.error);
-    if (!job.error.empty()) return job;
+    if (read.error) {
+        job.error = shortened(*read.error);
+        return job;
+    }
 
     const Request& request = read.request;
     job.fields = fields_of(request, request.value_or(keys::altitudine, ""), '.');

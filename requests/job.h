@@ -7,6 +7,7 @@
 
 #include "calculate/click.h"
 #include "document/illustrated_report.h"
+#include "platform/failure.h"
 
 // Jobs: the entries of one calculation in a file of their own (".coltre"), which the windows save and open.
 // The file is a request of a batch, so that the command performs it.
@@ -14,8 +15,7 @@ namespace coltre {
 
 /// A job file, read.
 struct Job {
-    std::string
-        error;  ///< why it cannot be opened, in Italian, as part of a sentence; all else is empty then
+    Failure error;                       ///< why it cannot be opened; all else is empty then
     std::vector<std::string> not_taken;  ///< what the windows have no place for, in Italian, one text each
 
     Fields fields;

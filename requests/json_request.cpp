@@ -92,7 +92,7 @@ class RequestHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Re
     static constexpr std::string_view no_object = "la richiesta deve essere un oggetto JSON";
 
     void error(std::string_view text, JsonFault fault = JsonFault::wrong_entry) {
-        if (!m_result.error.empty()) return;
+        if (m_result.error) return;
         m_result.error = text;
         m_result.fault = fault;
     }

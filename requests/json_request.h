@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/failure.h"
 #include "requests/request.h"
 
 namespace coltre {
@@ -19,7 +20,7 @@ struct JsonRequest {
     Request request;
     std::string_view id;  ///< the value of "id" as it stands in the line; empty if there is no whole one
     JsonFault fault = JsonFault::none;
-    std::string error;                      ///< what is wrong with the line, in Italian; empty if nothing is
+    Failure error;                          ///< what is wrong with the line
     std::vector<std::string> unknown_keys;  ///< where they are no error
 };
 

@@ -64,7 +64,8 @@ void write_illustrated_report(const Request& request, Subject subject, Answer& r
     const Layout layout =
         layout_of(request.value_or(keys::impaginazione, "completa")).value_or(Layout::complete);
     const std::string* const given_date = request.value(keys::data);
-    const DocumentDate date = given_date != nullptr ? DocumentDate{*given_date, ""} : document_date();
+    const DocumentDate date =
+        given_date != nullptr ? DocumentDate{*given_date, std::nullopt} : document_date();
     const TitleBlock title{.work = request.value_or(keys::lavoro, ""),
                            .client = request.value_or(keys::committente, ""),
                            .place = request.value_or(keys::ubicazione, ""),
@@ -74,7 +75,7 @@ void write_illustrated_report(const Request& request, Subject subject, Answer& r
                            .date = date.text};
 
     Failure failure;
-    if (!date.error.empty()) {
+    if (date.error) {
         failure = date.error;
     } else if (!request.flag(keys::sovrascrivi) &&
                std::filesystem::exists(std::filesystem::symlink_status(path))) {
@@ -108,8 +109,8 @@ Fields fields_of(const Request& request, std::string altitude, char decimal_sepa
 Answer perform(const Request& request, const Environment& environment, SiteMemory& memory) {
     Answer result;
     result.kind = request.kind;
-    if (std::string error = validation_error(request); !error.empty()) {
-        result.fail(End::wrong_request, std::move(error));
+    if (Failure error = validation_error(request)) {
+        result.fail(End::wrong_request, *std::move(error));
         return result;
     }
     result.partly_understood = partly_understood(request);

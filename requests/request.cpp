@@ -24,8 +24,8 @@ std::string missing(const Key& key) {
     return "manca " + in_quotes(key.name);
 }
 
-/// What the request lacks, in Italian; empty if it is whole.
-std::string missing_value(const Request& request) {
+/// What the request lacks.
+Failure missing_value(const Request& request) {
     for (const Entry& entry : describe(*request.kind).entries) {
         if (request.value(entry.key) == nullptr) return missing(key_of(entry));
     }
@@ -42,16 +42,15 @@ std::string missing_value(const Request& request) {
     return {};
 }
 
-/// What is wrong with the illustrated report that is asked for, in Italian; empty if nothing is.
-std::string illustrated_report_error(const Request& request) {
+/// What is wrong with the illustrated report that is asked for.
+Failure illustrated_report_error(const Request& request) {
     const std::string* const file = request.value(illustrata);
     if (file == nullptr) {
         const auto* const vain = std::ranges::find_if(of_illustrated, [&](const Key& key) {
             return key.type == KeyType::flag ? request.flag(key) : request.value(key) != nullptr;
         });
-        return vain == of_illustrated.end()
-                   ? ""
-                   : in_quotes(vain->name) + " serve solo con " + in_quotes(illustrata.name);
+        if (vain == of_illustrated.end()) return std::nullopt;
+        return in_quotes(vain->name) + " serve solo con " + in_quotes(illustrata.name);
     }
     if (file->empty()) return "manca il nome del file di " + in_quotes(illustrata.name);
     const std::string name = lower_case(file->substr(file->find_last_of("/\\") + 1));
@@ -154,13 +153,13 @@ std::optional<Layout> layout_of(std::string_view text) {
     return std::nullopt;
 }
 
-std::string validation_error(const Request& request) {
+Failure validation_error(const Request& request) {
     if (!request.kind) return "manca " + in_quotes("calcolo");
     for (const auto& [key, text] : request.values()) {
         if (!takes(*request.kind, key))
             return in_quotes(key) + " non è del calcolo " + in_quotes(describe(*request.kind).name);
     }
-    if (std::string missing = missing_value(request); !missing.empty()) return missing;
+    if (Failure missing = missing_value(request)) return missing;
 
     if (const std::string* const zone = request.value(zona); zone != nullptr && !zone_of(*zone)) {
         return "la zona deve essere 0, 1, 2 o 3: " + in_quotes(*zone);

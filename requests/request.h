@@ -11,6 +11,7 @@
 #include "calculate/calculations.h"
 #include "document/illustrated_report.h"
 #include "engine/program_cells.h"
+#include "platform/failure.h"
 
 // What is asked of the command: one calculation, from its options or from a line of a batch.
 namespace coltre {
@@ -126,8 +127,8 @@ std::optional<SnowZone> zone_of(std::string_view text);
 std::optional<Layout> layout_of(std::string_view text);
 
 /// What is wrong with a request, in Italian: a key of another calculation, a missing one, no whole site, a
-/// zone outside 0 to 3, an unknown unit system. Empty if nothing is. Looks at no file.
-std::string validation_error(const Request& request);
+/// zone outside 0 to 3, an unknown unit system. Looks at no file.
+Failure validation_error(const Request& request);
 
 /// What a calculation takes from entries that it cannot wholly understand: "1,5" is 1. In Italian, one text
 /// an entry.

@@ -103,7 +103,7 @@ void append_case(const CaseOutcome& outcome, std::vector<Block>& blocks) {
                               agrees ? plain("riprodotto") : Pieces{{"DIVERSO", Style::strong}}});
     if (!table.rows.empty()) blocks.emplace_back(std::move(table));
     if (worked.stops) blocks.emplace_back(Paragraph{{{"Il calcolo deve fermarsi qui.", Style::emphasis}}});
-    if (!outcome.fault.empty()) blocks.emplace_back(Paragraph{{{outcome.fault, Style::strong}}});
+    if (outcome.fault) blocks.emplace_back(Paragraph{{{*outcome.fault, Style::strong}}});
     blocks.emplace_back(Paragraph{{{worked.source, Style::note}}});
 }
 
@@ -126,22 +126,22 @@ CaseOutcome run(const WorkedCase& worked) {
     CaseOutcome outcome{.worked = &worked, .numbers{}, .fault{}};
     const JsonRequest line = read_json_request(worked.request);
     SiteMemory memory;
-    const Answer answer = line.error.empty() ? perform(line.request, {}, memory) : Answer{};
+    const Answer answer = !line.error ? perform(line.request, {}, memory) : Answer{};
     const std::map<std::string, double> numbers = numbers_of(answer);
 
     for (const WorkedNumber& expected : worked.expected)
         outcome.numbers.push_back(compare(expected, numbers));
     const bool stopped = answer.end != End::well;
-    if (!line.error.empty()) {
-        outcome.fault = "Richiesta errata: " + line.error + ".";
+    if (line.error) {
+        outcome.fault = "Richiesta errata: " + *line.error + ".";
     } else if (stopped && !worked.stops) {
-        outcome.fault = "Il calcolo si è fermato: " + answer.error + ".";
+        outcome.fault = "Il calcolo si è fermato: " + *answer.error + ".";
     } else if (!stopped && worked.stops) {
         outcome.fault = "Il calcolo non si è fermato.";
     } else if (worked.stops && numbers.size() != worked.expected.size()) {
         outcome.fault = "Il calcolo è andato oltre il punto in cui deve fermarsi.";
     }
-    outcome.passed = outcome.fault.empty() && std::ranges::all_of(outcome.numbers, &FoundNumber::agrees);
+    outcome.passed = !outcome.fault && std::ranges::all_of(outcome.numbers, &FoundNumber::agrees);
     return outcome;
 }
 

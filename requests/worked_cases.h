@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "document/document.h"
+#include "platform/failure.h"
 
 // Cases that were worked without the program, formula by formula (data/casi-di-prova.jsonl, compiled in), and
 // what the program that is installed makes of them: what an office shows of a program that it relies on.
@@ -45,7 +46,7 @@ struct FoundNumber {
 struct CaseOutcome {
     const WorkedCase* worked = nullptr;
     std::vector<FoundNumber> numbers;
-    std::string fault;    ///< Italian: what is wrong besides the numbers; empty if nothing is
+    Failure fault;        ///< what is wrong besides the numbers: a whole sentence
     bool passed = false;  ///< all agrees, and it stopped where it must and nowhere else
 };
 

@@ -47,8 +47,8 @@ std::optional<Job> JobFile::open(const std::string& ProgramDirectory) {
     } else {
         job.error = file.end == ReadEnd::missing ? "il file non c'è" : file.reason;
     }
-    if (!job.error.empty()) {
-        show_error(tr("Impossibile aprire il lavoro %1: %2.").arg(shown, QString::fromStdString(job.error)));
+    if (job.error) {
+        show_error(tr("Impossibile aprire il lavoro %1: %2.").arg(shown, QString::fromStdString(*job.error)));
         return std::nullopt;
     }
     if (!job.not_taken.empty()) {

@@ -43,8 +43,7 @@ std::optional<Document> LastCalculation::report() const {
 void LastCalculation::write_report(QWidget* parent, const std::string& job_name) {
     std::optional<ReportSource> source;
     if (m_subject) {
-        if (const std::string error = document_date().error; !error.empty())
-            m_dialogs.show(no_document_date(error));
+        if (const Failure error = document_date().error) m_dialogs.show(no_document_date(*error));
         if (m_choices.title_block.work.empty()) m_choices.title_block.work = job_name;
         source = ReportSource{
             .document = [this](const TitleBlock& title_block,

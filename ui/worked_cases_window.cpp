@@ -17,7 +17,7 @@ WorkedCasesWindow::WorkedCasesWindow(UserDialogs& dialogs, QWidget* parent)
     : QDialog(parent, Qt::Window), m_dialogs(dialogs), m_ui(std::make_unique<Ui::WorkedCasesWindow>()) {
     const std::vector<CaseOutcome> outcomes = run_worked_cases();
     const DocumentDate date = document_date();
-    if (!date.error.empty()) m_dialogs.show(no_document_date(date.error));
+    if (date.error) m_dialogs.show(no_document_date(*date.error));
     m_document = worked_cases_document(outcomes, "Coltre " + std::string(version_and_build()), date.text);
     m_ui->setupUi(this);
     m_ui->esito->setText(QString::fromStdString(summary(outcomes)));

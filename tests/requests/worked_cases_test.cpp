@@ -13,7 +13,7 @@ TEST(WorkedCases, AreReproducedInAllCalculations) {
     std::set<Kind> kinds;
     std::set<std::string> ids;
     for (const CaseOutcome& outcome : run_worked_cases()) {
-        EXPECT_TRUE(outcome.passed) << outcome.worked->id << ": " << outcome.fault;
+        EXPECT_TRUE(outcome.passed) << outcome.worked->id << ": " << outcome.fault.value_or("");
         const JsonRequest line = read_json_request(outcome.worked->request);
         kinds.insert(line.request.kind.value());
         ids.insert(outcome.worked->id);
