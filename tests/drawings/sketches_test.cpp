@@ -200,6 +200,13 @@ TEST(DriftSketches, OrdinatesFollowTheResults) {
     }
 }
 
+TEST(WallSketch, WallAndDriftHaveOneScale) {
+    const Drawing drawing = sketch({.kind = Kind::wall, .h = 2.3}, nullptr);
+    const std::vector<Point> drift = shapes_of(drawing, Role::load_area).front().points;
+    const Rect top = extent(shapes_of(drawing, Role::wall).front());
+    EXPECT_NEAR((drift.back().y - top.y) / (drift[1].x - drift[0].x), 2.3 / 5, 1e-9);
+}
+
 TEST(SnowGuardSketch, ForceActsDownTheSlopeOnTheObstacle) {
     const Drawing drawing = sketch({.kind = Kind::snow_guard, .alfa = 25.001, .qs = 1.28, .b = 5}, nullptr);
     const auto force = std::ranges::find(drawing.arrows, Role::point_load, &Arrow::role);
