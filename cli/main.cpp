@@ -1,4 +1,6 @@
 #include <cstdio>
+#include <cstdlib>
+#include <exception>
 #include <iostream>
 #include <new>
 #include <string>
@@ -9,7 +11,25 @@
 #include "platform/interruption.h"
 #include "startup/own_files.h"
 
+namespace {
+
+void tell_lack_of_memory() {
+    static_cast<void>(std::fputs("coltre-calcolo: memoria esaurita\n", stderr));
+}
+
+/// The option parser has constants that are made before main() begins: nobody catches what they throw.
+struct BeforeMain {
+    std::terminate_handler usual = std::set_terminate([] {
+        tell_lack_of_memory();
+        std::_Exit(coltre::cli::failed);
+    });
+};
+const BeforeMain before_main [[gnu::init_priority(101)]];  // before those of all other sources
+
+}  // namespace
+
 int main(int argc, char** argv) try {
+    std::set_terminate(before_main.usual);
     coltre::take_file_size_limit_as_error();
     coltre::remove_temporary_files_when_interrupted();
     const coltre::PlainStreams plain_streams;
@@ -23,6 +43,6 @@ int main(int argc, char** argv) try {
     return coltre::cli::run(arguments, environment, std::cin, std::cout, std::cerr,
                             coltre::error_stream_is_terminal());
 } catch (const std::bad_alloc&) {
-    static_cast<void>(std::fputs("coltre-calcolo: memoria esaurita\n", stderr));
+    tell_lack_of_memory();
     return coltre::cli::failed;
 }

@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <nlohmann/json.hpp>
@@ -11,8 +13,8 @@
 #include "site/built_in_altitudes.h"
 #include "tests/support/temporary_directory.h"
 
-// Input: the lines of a batch. Their directories are left out, so that an execution writes no file; reports
-// are the business of the target report. Names are looked for in a table that stays as it is.
+// Input: the lines of a batch. Their files are left out, so that an execution writes none; reports are the
+// business of the target report. Names are looked for in a table that stays as it is.
 
 namespace {
 
@@ -44,21 +46,22 @@ Reading read(const std::string& text) {
     }
 }
 
-/// The lines, those that would be performed without their directories.
-std::vector<std::string> lines_without_directories(const std::string& text) {
+constexpr std::array file_keys{keys::relazione, keys::altitudini, keys::illustrata};
+
+/// The lines, those that would be performed without the files that they name.
+std::vector<std::string> lines_without_files(const std::string& text) {
     std::vector<std::string> lines;
     std::istringstream stream(text);
     for (std::string line; std::getline(stream, line); lines.push_back(line)) {
         const JsonRequest read = read_json_request(line);
         if (read.error) continue;
-        const bool names_directory =
-            read.request.value(keys::relazione) != nullptr || read.request.value(keys::altitudini) != nullptr;
-        if (!names_directory) continue;
+        const auto is_named = [&](const Key& key) { return read.request.value(key) != nullptr; };
+        if (std::ranges::none_of(file_keys, is_named)) continue;
         Json object = Json::parse(line, nullptr, false);
         line.clear();
         if (!object.is_object()) continue;
-        object.erase("relazione");
-        object.erase("altitudini");
+        for (const Key& key : file_keys)
+            object.erase(std::string(key.name));
         line = object.dump();
     }
     return lines;
@@ -104,7 +107,7 @@ void check_answer(const std::string& line, const std::string& text) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const ProgramDirectory program;
 
-    auto lines = lines_without_directories(std::string(reinterpret_cast<const char*>(data), size));
+    auto lines = lines_without_files(std::string(reinterpret_cast<const char*>(data), size));
     if (lines.empty()) return 0;
     lines.push_back(lines.front());
     const auto results = answers(lines, program.text());

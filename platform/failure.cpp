@@ -22,6 +22,8 @@ Failure system_failure(int error_number) {
         case EDQUOT:
             return "la quota disco dell'utente è esaurita";
 #endif
+        case EEXIST:
+            return "il file esiste già";
         case EISDIR:
             return "con questo nome esiste già una cartella o altro che non è un file";
         case EFBIG:

@@ -14,6 +14,7 @@
 #include "platform/date.h"
 #include "platform/file_replacement.h"
 #include "platform/files.h"
+#include "platform/system_files.h"
 #include "report/unit_systems.h"
 #include "requests/site_choice.h"
 #include "version/version.h"
@@ -54,6 +55,17 @@ Outcome calculate_fields(const Request& request, const Fields& fields, Program& 
     return Calcola(fields, program);
 }
 
+/// @param overwrite  a file that is there is replaced; else it is a failure, also one that has just appeared
+Failure write_page(const std::filesystem::path& path, std::string_view html, bool overwrite) {
+    system_files::Entry old;
+    if (const int error = system_files::look_at(path, old)) return system_failure(error);
+    if (!overwrite && old.kind != system_files::Entry::Kind::nothing)
+        return "il file esiste già; --sovrascrivi, in un lotto «sovrascrivi», lo sostituisce";
+    FileReplacement file(path);
+    file.write(html);
+    return overwrite ? file.commit() : file.commit_as_new();
+}
+
 /// Writes the illustrated report that the request asks for. What goes wrong is the request's error, unless
 /// the calculation has failed before.
 void write_illustrated_report(const Request& request, Subject subject, Answer& result) {
@@ -74,17 +86,9 @@ void write_illustrated_report(const Request& request, Subject subject, Answer& r
                            .revision = request.value_or(keys::revisione, ""),
                            .date = date.text};
 
-    Failure failure;
-    if (date.error) {
-        failure = date.error;
-    } else if (!request.flag(keys::sovrascrivi) &&
-               std::filesystem::exists(std::filesystem::symlink_status(path))) {
-        failure = "il file esiste già; --sovrascrivi, in un lotto «sovrascrivi», lo sostituisce";
-    } else {
-        FileReplacement file(path);
-        file.write(to_html(illustrated_report(subject, title, layout)));
-        failure = file.commit();
-    }
+    const Failure failure = date.error ? date.error
+                                       : write_page(path, to_html(illustrated_report(subject, title, layout)),
+                                                    request.flag(keys::sovrascrivi));
     if (!failure) {
         result.illustrated_report = path_text(path);
     } else if (result.end == End::well) {

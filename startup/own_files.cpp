@@ -5,6 +5,7 @@
 
 #include "platform/environment.h"
 #include "platform/files.h"
+#include "platform/system_files.h"
 #include "site/altitude_file.h"
 #include "text/characters.h"
 
@@ -12,9 +13,11 @@ namespace coltre {
 
 namespace {
 
-bool has_altitudes(std::string_view directory) {
-    std::error_code unknown;
-    return std::filesystem::exists(find_path(altitude_file_name(directory)), unknown) && !unknown;
+/// What the system does not tell counts as there: what reads it says why it cannot.
+bool may_have_altitudes(std::string_view directory) {
+    system_files::Entry file;
+    const int error = system_files::look_at(find_path(altitude_file_name(directory)), file);
+    return error != 0 || file.kind != system_files::Entry::Kind::nothing;
 }
 
 }  // namespace
@@ -28,7 +31,7 @@ OwnFiles own_files(std::string_view own_directory, std::string_view documents_di
     // A failure shows when something is written there, with the name of the file.
     std::error_code ignored;
     std::filesystem::create_directories(find_path(users), ignored);
-    return {!has_altitudes(users) && has_altitudes(own) ? own : users, users};
+    return {!may_have_altitudes(users) && may_have_altitudes(own) ? own : users, users};
 }
 
 }  // namespace coltre

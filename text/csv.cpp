@@ -14,7 +14,6 @@ constexpr std::size_t block = 1U << 16U;  // bytes that are read at once
 }  // namespace
 
 CsvReader::CsvReader(std::istream& in) : m_in(in) {
-    m_buffer.reserve(longest + block);
     m_fields.reserve(most_fields);
 }
 
@@ -160,22 +159,20 @@ void CsvReader::skip_long_line() {
 /// @return false at the end of the stream
 bool CsvReader::fill() {
     if (m_in.peek() == std::istream::traits_type::eof()) return false;
-    if (m_record > 0) {
-        const char* const old = m_buffer.data() + m_record;
-        m_buffer.erase(0, m_record);
-        for (std::string_view& field : m_fields)
-            field = {m_buffer.data() + (field.data() - old), field.size()};
-        m_position -= m_record;
-        m_field -= m_record;
-        if (m_first_line_end > 0) m_first_line_end -= m_record;
-        m_record = 0;
-    }
+    const char* const old = m_buffer.data() + m_record;
+    m_buffer.erase(0, m_record);
+    m_position -= m_record;
+    m_field -= m_record;
+    if (m_first_line_end > 0) m_first_line_end -= m_record;
+    m_record = 0;
     const std::size_t size = m_buffer.size();
     const auto at_hand = static_cast<std::size_t>(std::max<std::streamsize>(m_in.rdbuf()->in_avail(), 1));
     m_buffer.resize(size + std::min(at_hand, block));
     const std::streamsize count =
         m_in.readsome(m_buffer.data() + size, static_cast<std::streamsize>(m_buffer.size() - size));
     m_buffer.resize(size + static_cast<std::size_t>(count));
+    for (std::string_view& field : m_fields)
+        field = {m_buffer.data() + (field.data() - old), field.size()};
     return count > 0;
 }
 

@@ -40,6 +40,8 @@ std::vector<std::string> texts(const Drawing& drawing) {
 // 2.48815, at 1600 m 5.64037. The highest curve, zone I Mediterranea, ends at 5.98748: an axis up to 6.
 TEST(AltitudeDiagram, IsTheLoadThatTheCalculationComputes) {
     const Drawing drawing = ground_load_over_altitude(2, 0.5, 1.1, 1, 1000);
+    EXPECT_NE(std::ranges::find(drawing.texts, std::string("altitudine as [m]"), &Text::text),
+              drawing.texts.end());
     const Scale scale(drawing, 1600, 6);
     std::vector<Point> curve;
     for (const Shape& shape : drawing.shapes)

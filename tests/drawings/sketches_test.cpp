@@ -77,6 +77,23 @@ TEST(TwoPitchesSketch, ShowsTheThreeArrangementsInOneScale) {
     }
 }
 
+TEST(SketchOfEqualSides, IsItsOwnMirrorImage) {
+    for (const Drawing& drawing : {pitched(Kind::two_pitches, 20, 20), pitched(Kind::several_pitches, 20, 20),
+                                   sketch({.kind = Kind::cylindrical, .L = 10, .H = 2}, nullptr)})
+        for (const Role role : {Role::roof, Role::wall}) {
+            std::vector<Point> points;
+            for (const Shape& shape : shapes_of(drawing, role))
+                points.insert(points.end(), shape.points.begin(), shape.points.end());
+            const auto [left, right] = std::ranges::minmax(points, {}, &Point::x);
+            for (const Point p : points)
+                EXPECT_TRUE(std::ranges::any_of(points,
+                                                [&, l = left.x, r = right.x](Point q) {
+                                                    return std::hypot(l + r - p.x - q.x, p.y - q.y) < 1;
+                                                }))
+                    << p.x << ", " << p.y;
+        }
+}
+
 TEST(TwoPitchesSketch, EveryEavesArrowHasItsNumber) {
     const Drawing drawing = pitched(Kind::two_pitches, 20, 40);
     std::vector<Arrow> eaves;
@@ -181,6 +198,13 @@ TEST(DriftSketches, OrdinatesFollowTheResults) {
         const double base = area.back().y;
         EXPECT_NEAR((base - area[1].y) / (base - area[0].y), 0.4, 1e-9);
     }
+}
+
+TEST(WallSketch, WallAndDriftHaveOneScale) {
+    const Drawing drawing = sketch({.kind = Kind::wall, .h = 2.3}, nullptr);
+    const std::vector<Point> drift = shapes_of(drawing, Role::load_area).front().points;
+    const Rect top = extent(shapes_of(drawing, Role::wall).front());
+    EXPECT_NEAR((drift.back().y - top.y) / (drift[1].x - drift[0].x), 2.3 / 5, 1e-9);
 }
 
 TEST(SnowGuardSketch, ForceActsDownTheSlopeOnTheObstacle) {

@@ -36,7 +36,11 @@ TEST(OwnFiles, StayBesideTheProgramUnlessItsUserMayNotWriteThere) {
     fs::permissions(program.path(), fs::perms::owner_write, fs::perm_options::remove);
     expect(own, users);
 
-    std::ofstream(documents.path() / "Coltre/altitudini.txt") << "corrected";
+    const fs::path corrected = documents.path() / "Coltre/altitudini.txt";
+    fs::create_symlink(corrected, corrected);
+    expect(users, users);  // nothing can be told of it: the common one does not take its place
+    fs::remove(corrected);
+    std::ofstream(corrected) << "corrected";
     expect(users, users);
     fs::permissions(program.path(), fs::perms::owner_write, fs::perm_options::add);
     expect(own, own);

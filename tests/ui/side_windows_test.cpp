@@ -101,6 +101,7 @@ TEST_F(SideWindowsTest, WhatIfFollowsTheCalculationOnShow) {
     EXPECT_EQ(heading(table), "Copertura ad una falda: qs max = 1,2000 kN/m²");
     type("asinput", "239");
     EXPECT_EQ(heading(table), "Copertura ad una falda: qs max = 1,2318 kN/m²");
+    EXPECT_TRUE(control(table, "diagramma").isVisible());
     EXPECT_EQ(rows(cells)[1], "altitudine 289 m (+ 50 m)|1,2872|+4,5 %");
     type("TextCTermico", "1e999");
     EXPECT_EQ(heading(table), "Un dato del calcolo non è un numero: i carichi non si calcolano.");
