@@ -38,7 +38,7 @@ int main(int argc, char** argv) try {
     const std::vector<std::string> arguments = coltre::arguments_of(argc, argv);
     const std::string own = coltre::own_directory(argc > 0 ? argv[0] : "");
     const coltre::Environment environment{
-        .own_directory = coltre::own_files(own, coltre::documents_directory()).altitudes,
+        .own_directory = coltre::own_files(own, coltre::users_directory()).altitudes,
         .decimal_separator = coltre::user_decimal_separator()};
     return coltre::cli::run(arguments, environment, std::cin, std::cout, std::cerr,
                             coltre::error_stream_is_terminal());

@@ -15,6 +15,8 @@ install(FILES ${COLTRE_QT_FOR_WINDOWS}/plugins/platforms/qwindows.dll DESTINATIO
 install(FILES ${COLTRE_QT_FOR_WINDOWS}/plugins/styles/qwindowsvistastyle.dll DESTINATION plugins/styles)
 install(FILES /usr/share/qt6/translations/qtbase_it.qm DESTINATION translations)
 
+configure_file(coltre.nsi.in coltre.nsi @ONLY)
+
 # Texts for that system's own editor: CR LF at the end of a line, and a mark that says UTF-8.
 string(ASCII 239 187 191 utf8_mark)
 function(install_text source name directory)

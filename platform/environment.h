@@ -29,8 +29,15 @@ std::string own_directory(const char* invoked_as);
 /// The user's directory for documents, in the suite's notation; empty where the system does not tell.
 std::string documents_directory();
 
+/// Where the program keeps the user's files when its own directory is closed to him: "Coltre" among his
+/// documents. Empty where there are none. It comes into being with its first file (FileReplacement).
+inline std::string users_directory() {
+    const std::string documents = documents_directory();
+    return documents.empty() ? documents : documents + "\\Coltre";
+}
+
 /// True where the user may create files in the directory. Writes nothing to find out.
-/// @param directory  in the suite's notation
+/// @param directory  one that is there, in the suite's notation
 bool may_write_in(std::string_view directory);
 
 /// Has a write beyond the user's limit on the size of files fail, instead of killing the program in the

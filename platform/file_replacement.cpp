@@ -6,6 +6,7 @@
 #include <thread>
 #include <utility>
 
+#include "platform/environment.h"
 #include "platform/files.h"
 #include "platform/interruption.h"
 
@@ -39,6 +40,17 @@ int follow(fs::path& path, const Entry& link) {
     return 0;
 }
 
+/// Creates the directory if it is the user's own.
+/// @return an error number; 0 if it is there now
+int create_if_users_own(const fs::path& directory) {
+    const fs::path users = find_path(users_directory());
+    std::error_code error;
+    const fs::path named = fs::weakly_canonical(fs::absolute(directory, error), error);
+    if (error || named.empty() || named != fs::weakly_canonical(users, error)) return ENOENT;
+    fs::create_directories(users, error);
+    return error.default_error_condition().value();
+}
+
 }  // namespace
 
 DirectoryLock::DirectoryLock(const fs::path& directory) {
@@ -67,7 +79,10 @@ int FileReplacement::open() {
     if (old.kind != Entry::Kind::nothing) {
         if (const int error = system_files::refusal(m_target, old)) return error;
     }
-    return create_temporary(old);
+    int error = create_temporary(old);
+    if (error == ENOENT && (error = create_if_users_own(m_target.parent_path())) == 0)
+        error = create_temporary(old);
+    return error;
 }
 
 int FileReplacement::create_temporary(const Entry& old) {

@@ -31,6 +31,8 @@ enum class Outlives { program_crash, power_failure };
 /// The temporary file is named after the target: "coltre.txt.1.tmp", with the first number that is free. It
 /// is never open to more users than the file that it replaces. An interruption removes it; one that a killed
 /// program left behind is removed when it is a day old and the next file is written.
+///
+/// users_directory() is created for its first file. Any other directory must be there.
 class FileReplacement {
   public:
     /// Creates the temporary file; failure() says whether that was possible.

@@ -62,10 +62,13 @@ std::string documents_directory() {
 }
 
 bool may_write_in(std::string_view directory) {
-    const HANDLE opened =
-        ::CreateFileW(find_path(directory).c_str(), FILE_ADD_FILE, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-    return opened != INVALID_HANDLE_VALUE && ::CloseHandle(opened) != 0;
+    const HANDLE opened = ::CreateFileW(find_path(directory).c_str(), FILE_ADD_FILE,
+                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                        OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (opened != INVALID_HANDLE_VALUE) return ::CloseHandle(opened) != 0;
+    // What may pass, a directory that another program holds, say, is no lack of permission.
+    const DWORD error = ::GetLastError();
+    return error != ERROR_ACCESS_DENIED && error != ERROR_WRITE_PROTECT;
 }
 
 bool error_stream_is_terminal() {

@@ -14,6 +14,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr DWORD disk_quota_exceeded = 1295;  // its name is missing in the compiler's headers
+
 int error_number(DWORD error) {
     switch (error) {
         case ERROR_SUCCESS:
@@ -35,6 +37,7 @@ int error_number(DWORD error) {
             return EEXIST;
         case ERROR_DISK_FULL:
         case ERROR_HANDLE_DISK_FULL:
+        case disk_quota_exceeded:
             return ENOSPC;
         case ERROR_FILE_TOO_LARGE:
             return EFBIG;

@@ -1,8 +1,5 @@
 #include "startup/own_files.h"
 
-#include <filesystem>
-#include <system_error>
-
 #include "platform/environment.h"
 #include "platform/files.h"
 #include "platform/system_files.h"
@@ -22,15 +19,11 @@ bool may_have_altitudes(std::string_view directory) {
 
 }  // namespace
 
-OwnFiles own_files(std::string_view own_directory, std::string_view documents_directory) {
+OwnFiles own_files(std::string_view own_directory, std::string_view users_directory) {
     const std::string own(trim_blanks(own_directory));
     // A directory that cannot be found is not the mark of a common installation: what follows reports it.
-    if (documents_directory.empty() || !is_directory(own) || may_write_in(own)) return {own, own};
-
-    const std::string users = std::string(documents_directory) + "\\Coltre";
-    // A failure shows when something is written there, with the name of the file.
-    std::error_code ignored;
-    std::filesystem::create_directories(find_path(users), ignored);
+    if (users_directory.empty() || !is_directory(own) || may_write_in(own)) return {own, own};
+    const std::string users(users_directory);
     return {!may_have_altitudes(users) && may_have_altitudes(own) ? own : users, users};
 }
 

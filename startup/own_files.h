@@ -12,11 +12,10 @@ struct OwnFiles {
 };
 
 /// Both stand beside the program where the user may write there. Where he may not, because it is installed
-/// for all users, reports go into the directory "Coltre" among his documents, which is created, and
-/// altitudini.txt is his own there if there is one; else the common one beside the program; else his own is
-/// yet to be written.
-/// @param own_directory        of the program
-/// @param documents_directory  of the user; empty where there is none: then all stays beside the program
-OwnFiles own_files(std::string_view own_directory, std::string_view documents_directory);
+/// for all users, reports go into his own directory, and altitudini.txt is his there if there is one; else
+/// the common one beside the program; else his own is yet to be written. Writes nothing.
+/// @param own_directory    of the program
+/// @param users_directory  empty where there is none: then all stays beside the program
+OwnFiles own_files(std::string_view own_directory, std::string_view users_directory);
 
 }  // namespace coltre

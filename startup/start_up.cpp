@@ -15,7 +15,7 @@ namespace {
 /// Everything lives in the program's own directory, but for what its user may not write there; what only the
 /// suite has stays empty.
 Directories standalone_directories(std::string_view own_directory) {
-    OwnFiles files = own_files(own_directory, documents_directory());
+    OwnFiles files = own_files(own_directory, users_directory());
     Directories directories;
     directories.SuiteRoot = trim_blanks(own_directory);
     directories.WorkDirectory = std::move(files.reports);

@@ -26,7 +26,7 @@ struct StartUp {
 /// Stores the command line, settles whether the suite started the program, sets the directory values, and
 /// gives the return period, its factor and the zone their start values. The suite's directory check may have
 /// the program end. Reads the suite's settings files
-/// alone and writes nothing, but for the directory that own_files() may create.
+/// alone and writes nothing.
 /// @param command_line   the arguments of the process as one text
 /// @param own_directory  the directory that holds the program
 StartUp start_up(std::string_view command_line, std::string_view own_directory, Program& program,

@@ -14,8 +14,8 @@ fuzz_packages=(clang libclang-rt-14-dev nlohmann-json3-dev)
 # For tools/benchmark, besides those of the program: speedcrunch is what the windows are compared with.
 bench_packages=(libbenchmark-dev nlohmann-json3-dev python3 libx11-6 xvfb speedcrunch)
 
-# For tools/package, besides those of the program.
-debian_packages=(lintian dpkg-dev)
+# For tools/package and tools/test_debian_package, besides those of the program.
+debian_packages=(lintian dpkg-dev mmdebstrap)
 
 # To build the core and the command for Windows and to test them under Wine, besides those of the program.
 cross_packages=(g++-mingw-w64-x86-64-posix wine64 wine googletest nlohmann-json3-dev librsvg2-bin imagemagick)

@@ -95,7 +95,8 @@ int run(int argc, char** argv) {
 
     QApplication::setApplicationName("coltre");
     // Nothing is kept between runs: file dialogs would leave the files last saved in
-    // ~/.config/QtProject.conf.
+    // ~/.config/QtProject.conf. (On Windows they do leave the directory last visited, in the registry, as
+    // the system's own dialogs do: the path is of no effect there.)
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     // Menus of text fields and file dialogs in Italian, whatever the locale. Where Qt's translations are not
     // installed these stay English; the message boxes bring their own words.

@@ -76,6 +76,19 @@ TEST_F(Replacement, KeepsTheOldFileUntilTheCommit) {
     }
 }
 
+TEST_F(Replacement, OfOneFileByTwoWritersHasATemporaryEach) {
+    {
+        FileReplacement first(at("Coltre.txt"));
+        FileReplacement second(at("Coltre.txt"));
+        first.write("first");
+        second.write("second");
+        EXPECT_THAT(directory.files(), testing::SizeIs(3));
+        EXPECT_EQ(second.commit(), std::nullopt);
+        EXPECT_EQ(first.commit(), std::nullopt);
+    }
+    expect_left("first");
+}
+
 TEST_F(Replacement, WaitsItsTurnInADirectory) {
     auto first = std::make_optional<DirectoryLock>(directory.path());
     std::atomic<bool> held = true;

@@ -18,24 +18,23 @@ TEST(OwnFiles, StayBesideTheProgramUnlessItsUserMayNotWriteThere) {
     const std::string own = program.text();
     const std::string users = documents.text() + "\\Coltre";
     const auto expect = [&](const std::string& altitudes, const std::string& reports) {
-        const OwnFiles files = own_files(own, documents.text());
+        const OwnFiles files = own_files(own, users);
         EXPECT_EQ(files.altitudes, altitudes);
         EXPECT_EQ(files.reports, reports);
     };
 
     expect(own, own);
-    EXPECT_TRUE(fs::is_empty(documents.path()));
-
     fs::permissions(program.path(), fs::perms::owner_write, fs::perm_options::remove);
     EXPECT_EQ(own_files(own, "").reports, own) << "no documents directory";
     expect(users, users);  // no table yet: it is written where it may be
-    EXPECT_TRUE(fs::is_directory(documents.path() / "Coltre"));
+    EXPECT_TRUE(fs::is_empty(documents.path()));
 
     fs::permissions(program.path(), fs::perms::owner_write, fs::perm_options::add);
     std::ofstream(program.path() / "altitudini.txt") << "common";
     fs::permissions(program.path(), fs::perms::owner_write, fs::perm_options::remove);
     expect(own, users);
 
+    fs::create_directory(documents.path() / "Coltre");
     const fs::path corrected = documents.path() / "Coltre/altitudini.txt";
     fs::create_symlink(corrected, corrected);
     expect(users, users);  // nothing can be told of it: the common one does not take its place
