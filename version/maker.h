@@ -4,7 +4,8 @@
 #include <string>
 #include <string_view>
 
-// Read by release.cmake as well, line by line, for what stands in the packages and in the programs' properties.
+// Read by release.cmake as well, line by line, for what stands in the packages and in the programs'
+// properties.
 namespace coltre {
 
 /// What the information box says of the maker, a line each: name, business in two lines, address, telephone
