@@ -40,8 +40,10 @@ QString html_words(const Pieces& pieces) {
 }
 
 /// The parts of a formula line: symbol, how it is computed, value, unit, remark.
-using Parts = std::array<Pieces, 5>;
-enum Part : std::size_t { symbol, computed, value, unit, remark };
+struct Part {
+    enum Index : std::size_t { symbol, computed, value, unit, remark, count };
+};
+using Parts = std::array<Pieces, Part::count>;
 
 constexpr std::string_view equals = " = ";
 
@@ -72,18 +74,19 @@ bool take_value(const Pieces& side, Parts& parts) {
     if (text.find_first_of("0123456789") >= blank) return false;
     if (text.find_first_not_of("0123456789,e+-−") < blank) return false;
     if (text.find_first_of("0123456789", blank) != std::string::npos) return false;
-    parts[value] = {{text.substr(0, blank), side.front().style}};
-    if (blank < text.size()) parts[unit] = {{text.substr(blank + (blank == degree ? 0 : 1)), Style::plain}};
+    parts[Part::value] = {{text.substr(0, blank), side.front().style}};
+    if (blank < text.size())
+        parts[Part::unit] = {{text.substr(blank + (blank == degree ? 0 : 1)), Style::plain}};
     return true;
 }
 
 Parts parts_of(const FormulaLine& line) {
     Parts parts;
-    parts[remark] = line.remark;
+    parts[Part::remark] = line.remark;
     std::vector<Pieces> sides = sides_of(line.formula);
     if (sides.size() > 1 && take_value(sides.back(), parts)) sides.pop_back();
-    parts[symbol] = sides.front();
-    Pieces& rest = parts[computed];
+    parts[Part::symbol] = sides.front();
+    Pieces& rest = parts[Part::computed];
     for (std::size_t i = 1; i < sides.size(); ++i) {
         if (i > 1) rest.push_back({std::string(equals), Style::plain});
         rest.insert(rest.end(), sides[i].begin(), sides[i].end());

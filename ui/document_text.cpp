@@ -22,10 +22,10 @@ namespace {
 
 constexpr double screen_dpi = 96;
 constexpr double twips_a_pixel = 1440 / screen_dpi;
-constexpr double mm = screen_dpi / 25.4;
-constexpr double cell_padding = 1.2 * mm;
-constexpr double between_columns = 4 * mm;
-constexpr double paper_width = 170 * mm;  // of an A4 page as word processors set it up
+constexpr double screen_mm = screen_dpi / 25.4;
+constexpr double cell_padding = 1.2 * screen_mm;
+constexpr double column_gap = 4 * screen_mm;
+constexpr double paper_width = 170 * screen_mm;  // of an A4 page as word processors set it up
 
 /// Writes the blocks one after the other.
 class TextWriter {
@@ -56,7 +56,7 @@ class TextWriter {
         Pieces both = formula;
         both.insert(both.end(), line.remark.begin(), line.remark.end());
         const bool side_by_side =
-            !line.remark.empty() && natural_width(both, m_metrics) + between_columns <= m_flow.width;
+            !line.remark.empty() && natural_width(both, m_metrics) + column_gap <= m_flow.width;
         QTextBlockFormat format = margins(0.1, 0.1);
         if (side_by_side) format.setTabPositions({QTextOption::Tab(m_flow.width, QTextOption::RightTab)});
         begin_block(format);
@@ -80,8 +80,8 @@ class TextWriter {
         QTextTableFormat format;
         format.setCellSpacing(0);
         format.setCellPadding(cell_padding);
-        format.setTopMargin(2 * mm);
-        format.setBottomMargin(2 * mm);
+        format.setTopMargin(2 * screen_mm);
+        format.setBottomMargin(2 * screen_mm);
         format.setBorder(1);
         format.setBorderCollapse(true);
         format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
@@ -131,7 +131,7 @@ class TextWriter {
 
     void operator()(const CodeBlock& code) {
         QTextBlockFormat format = margins(0.3, 0.3);
-        format.setLeftMargin(3 * mm);
+        format.setLeftMargin(3 * screen_mm);
         const QTextCharFormat& letters = format_of(Style::code);
         begin_block(format, letters);
         QString text = QString::fromStdString(code.text);

@@ -23,12 +23,12 @@ double line_width(const QTextBrowser& page) {
 }
 
 /// A document with its figures apart.
-struct Parts {
+struct FiguresApart {
     Document steps, figures;
 };
 
-Parts parts_of(const Document& document) {
-    Parts parts;
+FiguresApart apart(const Document& document) {
+    FiguresApart parts;
     for (const Block& block : document.blocks)
         (std::holds_alternative<Figure>(block) ? parts.figures : parts.steps).blocks.push_back(block);
     return parts;
@@ -61,7 +61,7 @@ void StepsWindow::show_document(const Document& document) {
 void StepsWindow::redraw() {
     if (!m_document) return;
     const DocumentLook look{font(), palette().color(QPalette::Text), palette().color(QPalette::Base)};
-    const Parts parts = parts_of(*m_document);
+    const FiguresApart parts = apart(*m_document);
     const bool beside = width() >= least_width_for_figure_beside && !parts.figures.blocks.empty();
     m_ui->figura->setVisible(beside);
     layout()->activate();  // the text is as wide as the figure leaves it
