@@ -10,8 +10,8 @@ namespace coltre {
 
 namespace {
 
-constexpr double step = 2580;       // x of the step
-constexpr double load_room = 1250;  // of the load ordinates
+constexpr double step = 2580;        // x of the step
+constexpr double room_above = 1250;  // of the load ordinates
 
 /// What is drawn: the entries, or usual ones where they make no roof, brought to the room of the sketch.
 struct LevelChange {
@@ -36,7 +36,7 @@ void fit_to_page(LevelChange& shape, const Rect& page) {
     shape.rise = shape.upper_width.twips * slope;
     // The drawing stands halfway up the page, with its labels and dimensions.
     constexpr double below = 1210;
-    const double above = std::max(load_room + 420, shape.height.twips + shape.rise + 340);
+    const double above = std::max(room_above + 420, shape.height.twips + shape.rise + 340);
     shape.lower_level = page.y + (page.height + above - below) / 2;
 }
 
@@ -104,8 +104,8 @@ Drawing level_change_sketch(const Entries& entries, const ProgramCells* loads, b
     const double qs2 = results.level_qs2;
     const double qs1 = results.level_qs1;
     const double largest = std::max(qs1, qs2);
-    const double top2 = level - ordinate(qs2, largest, load_room);
-    const double top1 = level - ordinate(qs1, largest, load_room);
+    const double top2 = level - ordinate(qs2, largest, room_above);
+    const double top1 = level - ordinate(qs1, largest, room_above);
 
     add_load(drawing, {{step, top2}, {drift_end, top1}}, level, Role::drift_line);
     if (!cut) add_load(drawing, {{drift_end, top1}, {roof_end, top1}}, level);
@@ -125,7 +125,7 @@ Drawing level_change_sketch(const Entries& entries, const ProgramCells* loads, b
     }
 
     const double beside_step = step + 60 + slot_width("qs2 =", "kN/m²") + 20;
-    add_slot(drawing, "carico_14", {step + 60, level - load_room - 260}, Align::left, "qs2 =", "kN/m²");
+    add_slot(drawing, "carico_14", {step + 60, level - room_above - 260}, Align::left, "qs2 =", "kN/m²");
     add_slot(drawing, "carico_15", {std::max(drift_end + 60, beside_step), top1 - 260}, Align::left,
              "qs1 =", "kN/m²");
     add_slot(drawing, "lsoutput", {(step + drift_end) / 2, drift_row + 210}, Align::centre, "ls =", "m");
