@@ -82,8 +82,14 @@ std::pair<double, double> StepsWindow::line_widths() const {
     return {line_width(*m_ui->passaggi), line_width(*m_ui->figura)};
 }
 
+void StepsWindow::follow_widths() {
+    if (m_drawn_widths != line_widths()) redraw();
+}
+
 bool StepsWindow::eventFilter(QObject* object, QEvent* event) {
-    if (event->type() == QEvent::Resize && m_drawn_widths != line_widths()) redraw();
+    // Later, not now: the page is in the middle of laying out what would be written anew.
+    if (event->type() == QEvent::Resize)
+        QMetaObject::invokeMethod(this, &StepsWindow::follow_widths, Qt::QueuedConnection);
     return QDialog::eventFilter(object, event);
 }
 

@@ -41,6 +41,7 @@ class StepsWindow : public QDialog {
 
   private:
     void redraw();
+    void follow_widths();
     [[nodiscard]] std::pair<double, double> line_widths() const;
     void copy_as_text() const;
     void copy_as_table() const;

@@ -123,6 +123,10 @@ class StepsWindowTest : public testing::Test {
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     }
     [[nodiscard]] QString shown() { return control<QTextBrowser>(window, "passaggi").toPlainText(); }
+    void resize(int width) {
+        window.resize(width, 500);
+        QCoreApplication::processEvents();  // the text follows
+    }
 
     StepsWindow window;
 };
@@ -151,14 +155,14 @@ TEST_F(StepsWindowTest, FollowsEachCalculation) {
 // A narrow window has no room for remarks beside their formulas, and nothing is lost at its edge.
 TEST_F(StepsWindowTest, RemarksGoBelowWhereTheWindowIsNarrow) {
     window.show_document(sample_steps());
-    window.resize(window.minimumSizeHint().width(), 500);
+    resize(window.minimumSizeHint().width());
     EXPECT_TRUE(shown().contains("\n0 ≤ α1 ≤ 30"));
     EXPECT_LE(control<QTextBrowser>(window, "passaggi").horizontalScrollBar()->maximum(), 1)
         << "but rounding";
-    window.resize(1000, 500);
+    resize(1000);
     EXPECT_TRUE(shown().contains("\t0 ≤ α1 ≤ 30"));
     EXPECT_FALSE(control(window, "figura").isVisible());
-    window.resize(1200, 500);
+    resize(1200);
     EXPECT_TRUE(control(window, "figura").isVisible()) << "the figure stands beside its steps";
     EXPECT_FALSE(shown().contains(QChar::ObjectReplacementCharacter));
     const auto& page = control<QTextBrowser>(window, "figura");
@@ -167,6 +171,7 @@ TEST_F(StepsWindowTest, RemarksGoBelowWhereTheWindowIsNarrow) {
 }
 
 TEST_F(StepsWindowTest, IsReadableOnDark) {
+    resize(1000);
     window.show_document(sample_steps());
     QPalette dark(QColor(40, 40, 40));
     dark.setColor(QPalette::Base, Qt::black);
