@@ -41,7 +41,7 @@ std::string reason(const CalculationEnd& end, const Entries& entries, const Prog
 }
 
 void calculate_entries(const Fields& fields, ProgramCells& cells, Outcome& outcome) {
-    EntryReader reader(trace_of(outcome));
+    EntryReader reader(trace_of(outcome), Stage::loads);
     outcome.entries = reader.entries(fields.kind, fields.entries, fields.decimal_separator);
     if (reader.stop()) return outcome.stop(*reader.stop());
     outcome.calculation = calculate(cells, outcome.entries, trace_of(outcome));

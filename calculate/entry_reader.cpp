@@ -105,7 +105,8 @@ void EntryReader::stop_beyond_range(std::string_view name, std::string_view symb
                               .fault = Fault::numeric_error,
                               .quantity = {unit, 0},
                               .source = "dato scritto",
-                              .words = "numero troppo grande"});
+                              .words = "numero troppo grande",
+                              .stage = m_stage});
 }
 
 }  // namespace coltre

@@ -28,7 +28,9 @@ class EntryReader {
   public:
     /// @param trace  takes each number that was read, and as a step without a value one that is beyond the
     ///               range of numbers; null if nobody asks for them
-    explicit EntryReader(Trace* trace = nullptr) : m_trace(trace) {}
+    /// @param stage  of that step: what the numbers are read for
+    explicit EntryReader(Trace* trace = nullptr, Stage stage = Stage::ground_load)
+        : m_trace(trace), m_stage(stage) {}
 
     /// @param name    what the explanation of a fault calls the field
     /// @param symbol  what formulas call the number
@@ -50,6 +52,7 @@ class EntryReader {
                            std::string_view text);
 
     Trace* m_trace;
+    Stage m_stage;
     std::optional<Stop> m_stop;
 };
 

@@ -97,8 +97,7 @@ Remarks remarks_on(const Subject& subject) {
         case Kind::several_pitches:
             remarks.on_loads.emplace_back(
                 "Condizione aggiuntiva: va affiancata alle disposizioni delle due falde. L'andamento è "
-                "lineare tra "
-                "colmo e compluvio. La neve sporgente non si calcola per questo tipo.");
+                "lineare tra colmo e compluvio. La neve sporgente non si calcola per questo tipo.");
             break;
         case Kind::cylindrical:
             remark_on_springing(subject, remarks.on_coefficients);

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
 
 #include "calculate/Calcola.h"
 #include "document/formula_text.h"
@@ -17,22 +18,6 @@ namespace {
 
 using namespace results;
 
-/// The chapters that the steps of a calculation fall into.
-enum class Chapter { ground, coefficients, loads, further };
-
-Chapter chapter_of(const Step& step, Kind kind) {
-    const std::string_view symbol = step.symbol;
-    for (const std::string_view ground : {"q0", "cT", "qsk", "as", "CE", "Ct", "Tr"})
-        if (symbol == ground) return Chapter::ground;
-    for (const std::string_view start : {"mu", "alfa", "R", "L", "H"})
-        if (symbol.starts_with(start)) return Chapter::coefficients;
-    for (const std::string_view start : {"d_", "k_", "qe_", "ls"})
-        if (symbol.starts_with(start)) return Chapter::further;
-    // The cut of a drift needs its length.
-    const bool cut = kind == Kind::level_change && symbol.starts_with("qs1") && symbol != "qs1_intero";
-    return cut ? Chapter::further : Chapter::loads;
-}
-
 /// What the site and the return period add to a step.
 std::string more_on(const Step& step, const Subject& subject) {
     if (step.symbol == "q0" && !step.words.empty()) return " della " + std::string(zone_name(subject.zone));
@@ -43,12 +28,12 @@ std::string more_on(const Step& step, const Subject& subject) {
            ") = " + fixed_text(factor.value(), 4);
 }
 
-void write_chapter(Composer& write, const Subject& subject, Chapter chapter, std::string_view heading,
+void write_chapter(Composer& write, const Subject& subject, Stage stage, std::string_view heading,
                    const std::vector<std::string>& remarks) {
     bool begun = false;
     std::string_view source;  // named once as long as it stays the same
     for (Step step : subject.trace().steps) {
-        if (chapter_of(step, subject.fields.kind) != chapter) continue;
+        if (step.stage != stage) continue;
         if (!begun) write.section(heading);
         begun = true;
         if (step.source == source) {
@@ -96,40 +81,74 @@ void write_coefficient_diagram(Composer& write, const Subject& subject) {
                  "coefficienti di forma in funzione dell'inclinazione");
 }
 
+/// The load on a side of two pitches, whole or halved.
+struct SideLoad {
+    double mu, qs;
+    std::optional<double> qe;  ///< nothing on a pitch so steep that no snow stays on it
+};
+
+/// The three arrangements of two pitches, of four loads: side 1, side 1 halved, side 2, side 2 halved.
+struct Arrangement {
+    std::string_view number, name;
+    const SideLoad &side1, &side2;
+
+    [[nodiscard]] double difference() const { return std::abs(side1.qs - side2.qs); }
+};
+
+/// The numbers of the arrangements in which a load is the greatest: "I e III".
+template <typename Load>
+std::string worst_arrangements(std::span<const Arrangement> all, Load load) {
+    const double greatest = load(*std::ranges::max_element(all, {}, load));
+    std::vector<std::string_view> worst;
+    for (const Arrangement& it : all)
+        if (load(it) == greatest) worst.push_back(it.number);
+    std::string text(worst.front());
+    for (std::size_t i = 1; i < worst.size(); ++i)
+        text.append(i + 1 < worst.size() ? ", " : " e ").append(worst[i]);
+    return text;
+}
+
 void write_arrangements(Composer& write, const Subject& subject) {
-    const auto a = subject.computed(qs_2a), b = subject.computed(qs_2b), c = subject.computed(qs_2c),
-               d = subject.computed(qs_2d);
-    if (!a || !b || !c || !d) return;
-    struct Arrangement {
-        std::string_view number, name;
-        double side1, side2;
-    };
-    const std::array<Arrangement, 3> all{{{"I", "entrambe le falde cariche", *a, *c},
-                                          {"II", "falda 1 dimezzata", *b, *c},
-                                          {"III", "falda 2 dimezzata", *a, *d}}};
-    const double most1 = std::max(*a, *b);
-    const double most2 = std::max(*c, *d);
-    const Arrangement* most_uneven = &all[0];
-    Table rows{{ColumnAlign::left, ColumnAlign::right, ColumnAlign::right, ColumnAlign::right},
-               {plain("Disposizione di carico"), plain("qs falda 1 [kN/m²]"), plain("qs falda 2 [kN/m²]"),
-                plain("differenza [kN/m²]")},
+    constexpr std::array roof_loads{&qs_2a, &qs_2b, &qs_2c, &qs_2d};
+    constexpr std::array eaves_loads{&qe_2a, &qe_2b, &qe_2c, &qe_2d};
+    std::array<SideLoad, 4> loads{};
+    for (std::size_t i = 0; i < loads.size(); ++i) {
+        const auto qs = subject.computed(*roof_loads[i]);
+        if (!qs) return;
+        loads[i] = {subject.outcome.calculation.coefficients[i].mu, *qs, subject.computed(*eaves_loads[i])};
+    }
+    const std::array<Arrangement, 3> all{{{"I", "entrambe le falde cariche", loads[0], loads[2]},
+                                          {"II", "falda 1 dimezzata", loads[1], loads[2]},
+                                          {"III", "falda 2 dimezzata", loads[0], loads[3]}}};
+    const std::array most{std::max(loads[0].qs, loads[1].qs), std::max(loads[2].qs, loads[3].qs)};
+
+    using enum ColumnAlign;
+    Table rows{{left, right, right, right, right},
+               {plain("Disposizione di carico"), plain("falda"), plain("µ"), plain("qs = µ · qsk [kN/m²]"),
+                plain("qe [kN/m]")},
                {}};
-    const auto number = [](double value, bool worst) {
-        return Pieces{{fixed_text(value, area_load.decimals), worst ? Style::strong : Style::plain}};
-    };
-    const auto difference = [](const Arrangement& it) { return std::abs(it.side1 - it.side2); };
     for (const Arrangement& it : all) {
-        if (difference(it) > difference(*most_uneven)) most_uneven = &it;
-        rows.rows.push_back({plain(std::string(it.number) + " — " + std::string(it.name)),
-                             number(it.side1, it.side1 == most1), number(it.side2, it.side2 == most2),
-                             number(difference(it), false)});
+        const auto add = [&](std::string text, std::string_view side, const SideLoad& load, double greatest) {
+            const Style style = load.qs == greatest ? Style::strong : Style::plain;
+            rows.rows.push_back({plain(std::move(text)),
+                                 plain(std::string(side)),
+                                 plain(fixed_text(load.mu, coefficient.decimals)),
+                                 {{fixed_text(load.qs, area_load.decimals), style}},
+                                 plain(load.qe ? fixed_text(*load.qe, line_load.decimals) : "—")});
+        };
+        add(std::string(it.number) + " — " + std::string(it.name), "1", it.side1, most[0]);
+        add({}, "2", it.side2, most[1]);
     }
     write.table(std::move(rows));
-    write.paragraph(
-        "In grassetto il massimo su ciascuna falda. La massima differenza tra le falde si ha con la "
-        "disposizione " +
-        std::string(most_uneven->number) + ": " +
-        with_unit(fixed_text(difference(*most_uneven), area_load.decimals), area_load.unit) + ".");
+
+    const double difference = std::ranges::max_element(all, {}, &Arrangement::difference)->difference();
+    write.paragraph("In grassetto il massimo su ciascuna falda. Più gravosa per il massimo sulla falda 1: " +
+                    worst_arrangements(all, [](const Arrangement& it) { return it.side1.qs; }) +
+                    "; per il massimo sulla falda 2: " +
+                    worst_arrangements(all, [](const Arrangement& it) { return it.side2.qs; }) +
+                    "; massima differenza tra le falde: " +
+                    worst_arrangements(all, [](const Arrangement& it) { return it.difference(); }) + " (" +
+                    with_unit(fixed_text(difference, area_load.decimals), area_load.unit) + ").");
 }
 
 /// Windows have the decimal point in their sketches, as in their fields.
@@ -176,13 +195,13 @@ void write_load_figure(Composer& write, const Subject& subject) {
 
 /// The load arrangements with their figure, and what follows from the loads.
 void write_loads(Composer& write, const Subject& subject, const Remarks& remarks) {
-    write_chapter(write, subject, Chapter::loads,
+    write_chapter(write, subject, Stage::loads,
                   subject.fields.kind == Kind::snow_guard ? "Forza sull'ostacolo" : "Carico sulla copertura",
                   remarks.on_loads);
     write_load_figure(write, subject);
     const std::string_view quotation = describe(subject.fields.kind).quotation;
     if (!quotation.empty()) write.note(std::string(quotation));
-    write_chapter(write, subject, Chapter::further,
+    write_chapter(write, subject, Stage::overhang_and_drift,
                   subject.is_roof() ? "Neve sporgente" : "Lunghezza di accumulo", remarks.on_length);
 }
 
@@ -201,11 +220,11 @@ void write_steps(Composer& write, const Subject& subject, bool diagrams) {
     const Remarks remarks = remarks_on(subject);
     // A ground load that plays no part is told of where it has stopped the calculation.
     if (subject.calculation().needs_ground_load || !subject.outcome.qsk) {
-        write_chapter(write, subject, Chapter::ground, "Carico neve al suolo", {});
+        write_chapter(write, subject, Stage::ground_load, "Carico neve al suolo", {});
         write_altitude_remark(write, subject);
         if (diagrams) write_ground_load_diagram(write, subject);
     }
-    write_chapter(write, subject, Chapter::coefficients,
+    write_chapter(write, subject, Stage::coefficients,
                   kind == Kind::cylindrical ? "Geometria e coefficienti di forma" : "Coefficienti di forma",
                   remarks.on_coefficients);
     if (diagrams) write_coefficient_diagram(write, subject);

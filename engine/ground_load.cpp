@@ -63,6 +63,7 @@ template <typename Formulas>
 Fault run_formulas(ProgramCells& cells, Trace* trace, Formulas formulas) {
     if (trace != nullptr) {
         Run<Traced> run(cells, trace);
+        run.stage(Stage::ground_load);
         formulas(run);
         return run.calculation().end.fault;
     }

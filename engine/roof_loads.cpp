@@ -13,6 +13,7 @@ using namespace results;
 template <typename Number, typename Function>
 Number set_coefficient(Run<Number>& run, double ProgramCells::*cell, Symbol symbol, Symbol previous,
                        const Number& alfa, Function mu) {
+    run.stage(Stage::coefficients);
     const bool kept = alfa.value() < 0;
     if (kept) run.source("regola del programma: un'inclinazione negativa lascia il coefficiente com'era");
     const Number before = kept ? run.stored(cell, previous) : Number(0);
@@ -33,6 +34,7 @@ Number set_mu1(Run<Number>& run, Symbol symbol, const Number& alfa) {
 /// The roof load of a coefficient, and the coefficient under the label of its load case.
 template <typename Number>
 Number set_roof_load(Run<Number>& run, std::string_view label, const ResultCell& result, const Number& mu) {
+    run.stage(Stage::loads);
     Number qs = run.set(result, mu * run.stored(&ProgramCells::qsk, "qsk"));
     run.coefficient(label, mu);
     return qs;
@@ -60,6 +62,7 @@ template <typename Number>
 void set_side(Run<Number>& run, const Side& side, const Number& alfa) {
     const Number mu = set_mu1(run, side.mu, alfa);
     const Number qs = set_roof_load(run, side.label, side.qs, mu);
+    run.stage(Stage::coefficients);
     const Number halved_mu = run.let(side.halved_mu, coefficient, 0.5 * mu);
     const Number halved_qs = set_roof_load(run, side.halved_label, side.halved_qs, halved_mu);
     const Number qe = set_overhang_load(run, side.qe, qs, side.qs);
@@ -72,6 +75,7 @@ void set_side(Run<Number>& run, const Side& side, const Number& alfa) {
 
 template <typename Number>
 Number qe(Run<Number>& run, const Number& qs, std::string_view qs_name) {
+    run.stage(Stage::overhang_and_drift);
     const Number d = run.let({"d", qs_name}, exact_length, qs / 3);
     const Number k = run.let({"k", qs_name}, coefficient,
                              min(in_words(3 / d, "qs ≥ 3 kN/m²"), in_words(3 * d, "qs < 3 kN/m²")));
@@ -106,6 +110,7 @@ void several_pitches(Run<Number>& run, const Entries& entries) {
     run.load_case("mu1(alfa2)", mu_side2, set_roof_load(run, "mu1(alfa2)", qs_3b, mu_side2));
 
     constexpr std::string_view valley = "mu2((alfa1+alfa2)/2)";
+    run.stage(Stage::coefficients);
     const Number mean = run.let("alfa_m", slope, (alfa1 + alfa2) / 2);
     if (run.stops(mean, "mu2", coefficient)) return;
     const Number mu_valley = set_coefficient(
@@ -117,6 +122,7 @@ void several_pitches(Run<Number>& run, const Entries& entries) {
 template <typename Number>
 void cylindrical(Run<Number>& run, const Entries& entries) {
     run.source(circular);
+    run.stage(Stage::coefficients);
     const Number L = run.entry("L", entries.L);
     const Number H = run.entry("H", entries.H);
 

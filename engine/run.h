@@ -39,6 +39,7 @@ class NoTracer {
     static Checked step(Symbol /*symbol*/, Quantity /*quantity*/, Checked value) { return value; }
     static void remember(double ProgramCells::* /*cell*/, const Checked& /*value*/) {}
     static void remember(const ResultCell& /*result*/, const Checked& /*value*/) {}
+    static void stage(Stage /*stage*/) {}
     static void source(std::string_view /*source*/) {}
     static void words(std::string_view /*words*/) {}
 };
@@ -73,6 +74,7 @@ class Tracer {
     }
     /// The step that was added last has set the result, perhaps to be set again.
     void remember(const ResultCell& result, const Traced& value);
+    void stage(Stage stage) { m_stage = stage; }
     void source(std::string_view source) { m_source = source; }
     void words(std::string_view words) { m_words = words; }
 
@@ -83,6 +85,7 @@ class Tracer {
     Trace& m_trace;
     Condition m_condition{};
     std::string_view m_words;  // of the next step, unless a limit has some
+    Stage m_stage{};
     std::string_view m_source;
     std::vector<std::pair<const ResultCell*, Traced>> m_results;          // set by this run, the last value
     std::vector<std::pair<double ProgramCells::*, std::string>> m_cells;  // set by this run, and as what
@@ -96,6 +99,9 @@ class Run {
     using Tracing = std::conditional_t<std::is_same_v<Number, Checked>, NoTracer, Tracer>;
 
     Run(ProgramCells& cells, Trace* trace) : m_cells(cells), m_tracing(trace) {}
+
+    /// What the formulas that follow are for.
+    void stage(Stage stage) { m_tracing.stage(stage); }
 
     /// Where the formulas that follow come from.
     void source(std::string_view source) { m_tracing.source(source); }

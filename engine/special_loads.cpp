@@ -17,6 +17,7 @@ Number least_mu2() {
 
 template <typename Number>
 Number traced_drift_length(Run<Number>& run, const Number& h) {
+    run.stage(Stage::overhang_and_drift);
     return drift_length(h, [&run](const Number& twice) { return run.let("ls_formula", length, twice); });
 }
 
@@ -25,6 +26,7 @@ Number traced_drift_length(Run<Number>& run, const Number& h) {
 template <typename Number>
 void level_change(Run<Number>& run, const Entries& entries) {
     run.source("Circ. 4 luglio 1996, C.6.4");
+    run.stage(Stage::coefficients);
     const Number G = run.stored(&ProgramCells::qsk, "qsk");
     const Number b1 = run.entry("b1", entries.b1);
     const Number b2 = run.entry("b2", entries.b2);
@@ -49,6 +51,7 @@ void level_change(Run<Number>& run, const Entries& entries) {
     const Number mu_s = run.let("mu_s", coefficient, Number(0));
 
     const Number mu2 = run.set(level_mu2, mu_s + mu_w);
+    run.stage(Stage::loads);
     const Number qs2 = run.set(level_qs2, mu2 * G);
     const Number whole_qs1 = run.set(level_qs1, mu1_flat * G, "qs1_intero");
     const Number whole_ls = run.set(level_ls, traced_drift_length(run, h), "ls_intero");
@@ -71,10 +74,13 @@ void wall(Run<Number>& run, const Entries& entries) {
     run.source(circular);
     const Number G = run.stored(&ProgramCells::qsk, "qsk");
     const Number h = run.entry("h", entries.h);
+    run.stage(Stage::loads);
     run.set(wall_qs1, mu1_flat * G);
+    run.stage(Stage::coefficients);
     const Number free_mu2 = run.let("mu2_formula", coefficient, 2 * h / G);
     const Number mu2 =
         run.set(wall_mu2, clamp(free_mu2, least_mu2<Number>(), in_words(Number(2), "limite superiore 2,0")));
+    run.stage(Stage::loads);
     run.set(wall_qs2, mu2 * G);
     run.set(wall_ls, traced_drift_length(run, h));
 }
@@ -82,6 +88,7 @@ void wall(Run<Number>& run, const Entries& entries) {
 template <typename Number>
 void snow_guard(Run<Number>& run, const Entries& entries) {
     run.source("Circ. 4 luglio 1996, C.6.6");
+    run.stage(Stage::loads);
     const Number qs = run.entry("qs", entries.qs);
     const Number b = run.entry("b", entries.b);
     const Number alfa = run.entry("alfa", entries.alfa);

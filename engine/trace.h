@@ -23,6 +23,9 @@ struct Datum {
     std::string text;       ///< what it was read from; empty for one that an earlier calculation left
 };
 
+/// What a step is for, as the chapters of a document go.
+enum class Stage { ground_load, coefficients, loads, overhang_and_drift };
+
 /// One quantity of a calculation: how it came about.
 struct Step {
     std::string symbol{};         ///< once in a trace
@@ -36,6 +39,7 @@ struct Step {
     Quantity quantity{};
     std::string_view source{};  ///< where the formula comes from
     std::string_view words{};   ///< Italian: what the branch or the limit that governed means
+    Stage stage{};
 };
 
 /// How a calculation came about: what it started from and its steps, in their order.

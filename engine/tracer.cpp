@@ -37,7 +37,8 @@ void Tracer::name_results() {
                                  .value = value.value(),
                                  .quantity = result->quantity,
                                  .source = m_source,
-                                 .words = "resta il valore già calcolato"});
+                                 .words = "resta il valore già calcolato",
+                                 .stage = m_stage});
     }
 }
 
@@ -59,7 +60,8 @@ Traced Tracer::step(Symbol symbol, Quantity quantity, const Traced& value) {
               .governs = {},
               .quantity = quantity,
               .source = m_source,
-              .words = m_words};
+              .words = m_words,
+              .stage = m_stage};
     if (value.fault() == Fault::none) {
         step.value = value.value();
         step.governs = value.governs();

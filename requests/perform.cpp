@@ -146,7 +146,6 @@ Answer perform(const Request& request, const Environment& environment, SiteMemor
 
     const Fields fields = fields_of(request, std::move(altitude), environment.decimal_separator);
     Outcome outcome = calculate_fields(request, fields, program, result.messages);
-    append(result.messages, outcome.messages);
     result.return_period = program.cells.confirmed_return_period;
     result.return_period_factor = program.cells.return_period_factor;
     if (outcome.trace) {
@@ -154,8 +153,6 @@ Answer perform(const Request& request, const Environment& environment, SiteMemor
         keep_text("zona", request.value(keys::zona), *outcome.trace);
         keep_text("Tr", request.value(keys::periodo_ritorno), *outcome.trace);
     }
-    result.calculation = outcome.calculation;
-    if (request.flag(keys::passaggi)) result.trace = outcome.trace;
     result.altitude = outcome.altitude;
     result.qsk = outcome.qsk;
     if (outcome.fault != Fault::none) {
@@ -166,7 +163,7 @@ Answer perform(const Request& request, const Environment& environment, SiteMemor
     if (!outcome.report.empty()) result.report = path_text(find_path(outcome.report));
     if (request.value(keys::illustrata) != nullptr) {
         subject.fields = fields;
-        subject.outcome = std::move(outcome);
+        subject.outcome = outcome;
         subject.job_name = program.directories.JobName;
         subject.zone = program.cells.zone;
         subject.return_period = program.cells.return_period;
@@ -174,6 +171,9 @@ Answer perform(const Request& request, const Environment& environment, SiteMemor
         subject.confirmed_return_period = program.cells.confirmed_return_period;
         write_illustrated_report(request, std::move(subject), result);
     }
+    append(result.messages, std::move(outcome.messages));
+    result.calculation = std::move(outcome.calculation);
+    if (request.flag(keys::passaggi)) result.trace = std::move(outcome.trace);
     return result;
 }
 

@@ -69,6 +69,7 @@ SketchPainter SketchWidget::painter_of_size() const {
 }
 
 void SketchWidget::place_labels() {
+    if (!isVisible()) return;  // most sketches stay behind another tab
     const SketchPainter sketch = painter_of_size();
     QFont letters = sketch.text_font();
     if (letters.pixelSize() < QFontInfo(font()).pixelSize()) letters = font();
@@ -107,6 +108,10 @@ bool SketchWidget::event(QEvent* event) {
             break;
     }
     return QWidget::event(event);
+}
+
+void SketchWidget::showEvent(QShowEvent* /*event*/) {
+    place_labels();
 }
 
 void SketchWidget::resizeEvent(QResizeEvent* /*event*/) {

@@ -61,6 +61,8 @@ class SketchWidget : public QWidget {
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    /// Labels take their places when the sketch comes into sight.
+    void showEvent(QShowEvent* event) override;
 
   private:
     struct HostedLabel {

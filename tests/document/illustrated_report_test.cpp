@@ -29,7 +29,13 @@ TEST(IllustratedReport, TellsTheStepsAndWhatGovernedOfEachCalculation) {
                   {"35"},
                   {"0,6667", "0,361 kN/m", "30 &lt; <i>α</i> ≤ 60", "ramo discendente", "(50) = 0,8056",
                    "Normale: Aree"}},
-             Case{Kind::two_pitches, {"20", "40"}, {"disposizione III: 0,8212 kN/m²", "0,623 kN/m"}},
+             Case{Kind::two_pitches,
+                  {"20", "40"},
+                  {"falda 1: I e III; per il massimo sulla falda 2: I e II; "
+                   "massima differenza tra le falde: III (0,8212 kN/m²)",
+                   "<td class=\"right\">2</td><td class=\"right\">0,2667</td><td class=\"right\">0,4106</td>"
+                   "<td class=\"right\">0,023</td>",
+                   "0,623 kN/m"}},
              Case{Kind::several_pitches, {"20", "40"}, {"2,4637 kN/m²", "nel compluvio"}},
              Case{Kind::cylindrical,
                   {"20", "4"},
