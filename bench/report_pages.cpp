@@ -9,9 +9,9 @@
 #include <QTextBrowser>
 #include <QTextDocument>
 #include <algorithm>
-#include <ctime>
 #include <vector>
 
+#include "bench/action_time.h"
 #include "bench/figure.h"
 #include "calculate/Calcola.h"
 #include "document/html.h"
@@ -28,14 +28,6 @@ using namespace coltre;
 constexpr double at_most_of_plain_text = 4;
 constexpr double steps_at_most_ms = 5;
 constexpr double html_at_most_ms = 3;
-
-/// Milliseconds of processor time: what other programs take meanwhile does not count.
-template <typename Action>
-double time_of(const Action& act) {
-    const std::clock_t begin = std::clock();
-    act();
-    return 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
-}
 
 void print_plain_text(const QString& text) {
     QTextDocument document;
@@ -90,15 +82,10 @@ void measure_steps() {
     window.show_document(steps);  // loads the fonts
     QApplication::processEvents();
     auto* const page = window.findChild<QTextBrowser*>("passaggi")->viewport();
-    constexpr int runs = 101;
-    double slowest = 0;
-    for (int i = 0; i < runs; ++i) {
-        slowest = std::max(slowest, time_of([&] {
-                               window.show_document(steps);
-                               page->repaint();
-                           }));
-        QApplication::processEvents();
-    }
+    const double slowest = slowest_time_of([&] {
+        window.show_document(steps);
+        page->repaint();
+    });
     print({"steps shown anew, slowest", "ms", slowest, std::nullopt, steps_at_most_ms});
 }
 

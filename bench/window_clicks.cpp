@@ -8,10 +8,9 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QTest>
-#include <algorithm>
-#include <ctime>
 #include <functional>
 
+#include "bench/action_time.h"
 #include "bench/figure.h"
 #include "tests/support/temporary_directory.h"
 #include "ui/Form1.h"
@@ -23,7 +22,6 @@ namespace {
 using namespace coltre;
 
 constexpr double at_most_ms = 5;
-constexpr int runs = 101;
 
 /// A user who closes every message box at once.
 class QuickUser : public UserDialogs {
@@ -33,16 +31,8 @@ class QuickUser : public UserDialogs {
     void end() override {}
 };
 
-/// Prints the slowest of the runs, in processor time: what other programs take meanwhile does not count.
 void measure(const char* what, const std::function<void()>& act) {
-    double slowest = 0;
-    for (int i = 0; i < runs; ++i) {
-        const std::clock_t begin = std::clock();
-        act();
-        slowest = std::max(slowest, 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC);
-        QApplication::processEvents();
-    }
-    print({what, "ms", slowest, std::nullopt, at_most_ms});
+    print({what, "ms", slowest_time_of(act), std::nullopt, at_most_ms});
 }
 
 }  // namespace

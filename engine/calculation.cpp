@@ -12,6 +12,7 @@ namespace {
 template <typename Number>
 Calculation calculate_with(ProgramCells& cells, const Entries& entries, Trace* trace) {
     Run<Number> run(cells, trace);
+    run.make_room();
     switch (entries.kind) {
         case Kind::one_pitch:
             one_pitch(run, entries);

@@ -100,6 +100,13 @@ class Run {
 
     Run(ProgramCells& cells, Trace* trace) : m_cells(cells), m_tracing(trace) {}
 
+    /// Sets memory aside for the record of a calculation, which few need more of.
+    void make_room() {
+        m_calculation.results.reserve(8);
+        m_calculation.coefficients.reserve(4);
+        m_calculation.load_cases.reserve(4);
+    }
+
     /// What the formulas that follow are for.
     void stage(Stage stage) { m_tracing.stage(stage); }
 

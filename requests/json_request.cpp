@@ -163,7 +163,7 @@ std::optional<std::size_t> read_once(std::string_view line, std::string_view par
                                rapidjson::kParseIterativeFlag;
     rapidjson::MemoryStream stream(parsed.data(), parsed.size());
     RequestHandler handler(line, stream, unknown, result);
-    rapidjson::Reader reader;
+    thread_local rapidjson::Reader reader;  // keeps its memory for the next line
     const rapidjson::ParseResult end = reader.Parse<flags>(stream, handler);
     // The parser takes a null character for the end of the text.
     if (!end.IsError() && stream.Tell() == line.size()) return std::nullopt;

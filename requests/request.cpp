@@ -97,15 +97,15 @@ std::optional<Key> find_key(std::string_view name) {
 
 bool takes(Kind kind, std::string_view key) {
     const auto entries = describe(kind).entries;
-    return std::ranges::find(common, key, &Key::name) != common.end() ||
-           std::ranges::find(entries, key, &Entry::key) != entries.end();
+    return std::ranges::find(entries, key, &Entry::key) != entries.end() ||
+           std::ranges::find(common, key, &Key::name) != common.end();
 }
 
 std::string in_quotes(std::string_view text) {
     return "«" + std::string(text) + "»";
 }
 
-const std::string* Request::value(std::string_view key) const {
+const std::string* Request::find(std::string_view key) const {
     const auto found = std::ranges::find(m_values, key, &std::pair<std::string_view, std::string>::first);
     return found == m_values.end() ? nullptr : &found->second;
 }
@@ -126,13 +126,18 @@ void Request::set(const Key& key, std::string text) {
     if (found != m_values.end()) {
         found->second = std::move(text);
     } else {
+        constexpr std::size_t usual = 8;
+        if (m_values.empty()) m_values.reserve(usual);
         m_values.emplace_back(key.name, std::move(text));
+        m_marks |= mark(key.name);
     }
 }
 
 std::vector<std::string> entry_texts(const Request& request) {
+    const auto entries = describe(*request.kind).entries;
     std::vector<std::string> texts;
-    for (const Entry& entry : describe(*request.kind).entries) {
+    texts.reserve(entries.size());
+    for (const Entry& entry : entries) {
         const std::string* const text = request.value(entry.key);
         texts.push_back(text != nullptr ? *text : std::string());
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -99,7 +100,9 @@ class Request {
     std::optional<Kind> kind;
 
     /// The text given for the key; null if there is none.
-    [[nodiscard]] const std::string* value(std::string_view key) const;
+    [[nodiscard]] const std::string* value(std::string_view key) const {
+        return (m_marks & mark(key)) == 0 ? nullptr : find(key);
+    }
     [[nodiscard]] const std::string* value(const Key& key) const { return value(key.name); }
     /// Whether the flag is given and true.
     [[nodiscard]] bool flag(const Key& key) const;
@@ -114,7 +117,14 @@ class Request {
     }
 
   private:
+    /// A bit by length and first letter: few names share it.
+    static std::uint64_t mark(std::string_view key) {
+        return std::uint64_t{1} << ((5 * key.size() + static_cast<unsigned char>(key.front())) % 64);
+    }
+    [[nodiscard]] const std::string* find(std::string_view key) const;
+
     std::vector<std::pair<std::string_view, std::string>> m_values;  // by the names of keys
+    std::uint64_t m_marks = 0;  // of those names: most that are looked for are not there
 };
 
 /// The texts of the calculation's entries in the order of its row; empty where none was given.

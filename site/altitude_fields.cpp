@@ -1,6 +1,7 @@
 #include "site/altitude_fields.h"
 
 #include <algorithm>
+#include <experimental/simd>
 
 #include "text/characters.h"
 
@@ -10,6 +11,19 @@ namespace {
 
 /// An object, not a function, so that the search for one is compiled as one loop.
 constexpr auto ends_field = [](char c) { return c == ',' || c == '\r' || c == '\n'; };
+
+/// The first character that ends a field, or the end of the text; several are looked at in one step.
+const char* find_field_end(const char* first, const char* last) {
+    namespace simd = std::experimental;
+    using Block = simd::native_simd<char>;
+    constexpr auto size = static_cast<std::ptrdiff_t>(Block::size());
+    for (; last - first >= size; first += size) {
+        const Block block(first, simd::element_aligned);
+        const auto ends = block == ',' || block == '\r' || block == '\n';
+        if (any_of(ends)) return first + find_first_set(ends);
+    }
+    return std::find_if(first, last, ends_field);
+}
 
 /// Whether a field begins at the position, or only blanks lie between its beginning and the position.
 bool is_field_start(std::string_view bytes, std::size_t position) {
@@ -24,7 +38,7 @@ bool FieldReader::next() {
     if (at_end()) return false;
     const char* const first = m_bytes.data() + m_position;
     const char* const last = m_bytes.data() + m_bytes.size();
-    const char* const end = std::find_if(first, last, ends_field);
+    const char* const end = find_field_end(first, last);
     m_raw = std::string_view(first, end);
     m_field = m_raw.substr(std::min(m_raw.find_first_not_of(' '), m_raw.size()));
     m_position += m_raw.size();

@@ -78,12 +78,14 @@ class TextWriter {
         const int rows = header_rows + static_cast<int>(table.rows.size());
         if (rows == 0 || columns == 0) return;
         QTextTableFormat format;
-        format.setCellSpacing(0);
         format.setCellPadding(cell_padding);
         format.setTopMargin(2 * screen_mm);
         format.setBottomMargin(2 * screen_mm);
         format.setBorder(1);
-        format.setBorderCollapse(true);
+        // On a screen borders lie on each other: they look like joined ones, which are drawn many times as
+        // slowly.
+        format.setBorderCollapse(m_flow.into_file);
+        format.setCellSpacing(m_flow.into_file ? 0 : -1);
         format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
         format.setBorderBrush(QColor(150, 150, 150));
         format.setHeaderRowCount(header_rows);
