@@ -69,7 +69,8 @@ SketchPainter SketchWidget::painter_of_size() const {
 }
 
 void SketchWidget::place_labels() {
-    if (!isVisible()) return;  // most sketches stay behind another tab
+    m_labels_in_place = isVisible();
+    if (!m_labels_in_place) return;  // most sketches stay behind another tab
     const SketchPainter sketch = painter_of_size();
     QFont letters = sketch.text_font();
     if (letters.pixelSize() < QFontInfo(font()).pixelSize()) letters = font();
@@ -111,7 +112,7 @@ bool SketchWidget::event(QEvent* event) {
 }
 
 void SketchWidget::showEvent(QShowEvent* /*event*/) {
-    place_labels();
+    if (!m_labels_in_place) place_labels();
 }
 
 void SketchWidget::resizeEvent(QResizeEvent* /*event*/) {

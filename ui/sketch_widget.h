@@ -80,6 +80,7 @@ class SketchWidget : public QWidget {
 
     Drawing m_drawing;
     std::vector<HostedLabel> m_labels;
+    bool m_labels_in_place = false;
     QString m_suggested_name = QStringLiteral("schizzo");
     QPixmap m_picture;  // the drawing without its labels, at the widget's size; null: to be painted anew
 };
