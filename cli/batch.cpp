@@ -1,10 +1,11 @@
 #include "cli/batch.h"
 
+#include <algorithm>
 #include <limits>
-#include <memory>
 #include <new>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "cli/answers.h"
 #include "requests/csv_request.h"
@@ -14,26 +15,33 @@ namespace coltre::cli {
 
 namespace {
 
-/// Lines of a stream, in memory that does not grow with the length of a line.
+/// Lines of a stream, in memory that grows up to the longest line that a request may have.
 class LineReader {
   public:
-    explicit LineReader(std::istream& in)
-        : m_in(in), m_buffer(std::make_unique_for_overwrite<char[]>(longest + 1)) {}
+    explicit LineReader(std::istream& in) : m_in(in), m_buffer(4096) {}
 
     /// Reads the next line.
     /// @return false at the end of the stream
     bool next() {
-        m_in.getline(m_buffer.get(), static_cast<std::streamsize>(longest + 1));
-        const auto taken = static_cast<std::size_t>(m_in.gcount());
-        m_too_long = m_in.fail() && taken == longest;
+        std::size_t taken = 0;
+        for (;;) {
+            const std::size_t room = m_buffer.size() - taken;
+            m_in.getline(m_buffer.data() + taken, static_cast<std::streamsize>(room));
+            const auto count = static_cast<std::size_t>(m_in.gcount());
+            taken += count;
+            m_too_long = m_in.fail() && count + 1 == room;  // so far
+            if (!m_too_long || m_buffer.size() > longest) break;
+            m_in.clear();
+            m_buffer.resize(std::min(2 * m_buffer.size(), longest + 1));
+        }
         if (m_too_long) {
             m_in.clear();
             m_in.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
-        } else if (m_in.fail()) {
+        } else if (m_in.fail() && taken == 0) {
             return false;
         }
         // getline counts the line end that it takes away; the last line may have none.
-        m_line = {m_buffer.get(), m_in.eof() || m_too_long ? taken : taken - 1};
+        m_line = {m_buffer.data(), m_in.eof() || m_too_long ? taken : taken - 1};
         return true;
     }
 
@@ -44,7 +52,7 @@ class LineReader {
 
   private:
     std::istream& m_in;
-    std::unique_ptr<char[]> m_buffer;
+    std::vector<char> m_buffer;
     std::string_view m_line;
     bool m_too_long = false;
 };

@@ -4,6 +4,7 @@
 #include <optional>
 #include <unordered_set>
 #include <utility>
+#include <vector>
 
 #include "platform/code_page.h"
 #include "platform/files.h"
@@ -32,6 +33,9 @@ class Inspection {
     /// Where the field stands: outside the blocks that count, inside one, or behind the empty line of one.
     enum class Place { outside, inside, behind };
 
+    static std::size_t number_of(const AltitudeBlock& block) {
+        return static_cast<std::size_t>(&block - built_in_blocks().data());
+    }
     void outside();
     void inside();
     void municipality();
@@ -51,7 +55,7 @@ class Inspection {
     std::size_t m_comma_line = 0;  ///< the last line whose comma was reported
 
     Place m_place = Place::outside;
-    std::unordered_set<const AltitudeBlock*> m_seen;
+    std::vector<bool> m_seen = std::vector<bool>(built_in_blocks().size());  ///< of the built-in blocks
     // The block that was opened last.
     const AltitudeBlock* m_block = nullptr;
     std::size_t m_header_line = 0;
@@ -80,7 +84,9 @@ void Inspection::outside() {
     const AltitudeBlock* const block = find_built_in_block(m_reader.field());
     if (block != nullptr) {
         leave();
-        if (m_seen.insert(block).second) {
+        const auto seen = m_seen[number_of(*block)];
+        if (!seen) {
+            m_seen[number_of(*block)] = true;
             open(*block);
         } else {
             put_field();
@@ -178,7 +184,7 @@ void Inspection::finish() {
     }
     leave();
     for (const AltitudeBlock& block : built_in_blocks()) {
-        if (m_seen.contains(&block)) continue;
+        if (m_seen[number_of(block)]) continue;
         faults.push_back({0, block.province, "manca la riga con il nome della provincia"});
         put(block.header);
         put(line_end);

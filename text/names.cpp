@@ -51,8 +51,12 @@ std::string fold_name(std::string_view name) {
         const std::string_view letter = first_character(rest);
         rest.remove_prefix(letter.size());
         if (letter == " " || letter == "'" || letter == "`") continue;
+        if (letter.size() == 1) {
+            folded += letter;
+            continue;
+        }
         const auto accented = std::ranges::find(accented_letters, letter, &Accented::letter);
-        folded += letter.size() > 1 && accented != accented_letters.end() ? accented->plain : letter;
+        folded += accented != accented_letters.end() ? accented->plain : letter;
     }
     return folded;
 }
@@ -68,7 +72,10 @@ std::vector<std::string> nearest_names(std::string_view typed, std::span<const s
     std::vector<std::pair<std::size_t, std::size_t>> ranked;  // distance, place in the list
     for (std::size_t i = 0; i < names.size(); ++i) {
         const std::string folded = fold_name(names[i]);
-        const std::size_t distance = folded.starts_with(sought) ? 0 : edit_distance(sought, folded);
+        const bool begins_so = folded.starts_with(sought);
+        const auto [shorter, longer] = std::minmax({folded.size(), sought.size()});
+        if (!begins_so && longer - shorter > most_changes) continue;  // so many letters at least are changed
+        const std::size_t distance = begins_so ? 0 : edit_distance(sought, folded);
         if (distance <= most_changes) ranked.emplace_back(distance, i);
     }
     std::ranges::sort(ranked);
