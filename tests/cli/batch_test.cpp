@@ -1,4 +1,8 @@
+#include "cli/batch.h"
+
 #include <gmock/gmock.h>
+
+#include <sstream>
 
 #include "tests/cli/run_command.h"
 #include "tests/support/temporary_directory.h"
@@ -39,6 +43,21 @@ TEST(Batch, GoesOnAfterALineThatIsNoRequest) {
     const std::string no_object = "la richiesta deve essere un oggetto JSON";
     EXPECT_THAT(errors, ElementsAre("riga vuota", HasSubstr("JSON illeggibile"), "errore numerico", no_object,
                                     no_object, HasSubstr("più lunga"), ""));
+}
+
+TEST(Batch, ReadsLinesWholeUpToTheLongest) {
+    for (const std::size_t length : {4095U, 4096U, 4097U, 8192U, 1'048'576U, 1'048'577U}) {
+        std::string line = request(by_number);
+        line.insert(0, length - line.size(), ' ');
+        const std::size_t failures = length > 1'048'576 ? 2 : 0;
+        for (const std::string end : {"\n", ""}) {
+            std::istringstream in(line + "\n" + line + end);
+            std::ostringstream out;
+            const BatchOutcome outcome = run_batch(in, out, {});
+            EXPECT_EQ(outcome.requests, 2) << length;
+            EXPECT_EQ(outcome.failed, failures) << length;
+        }
+    }
 }
 
 TEST(Batch, TellsTheStepThatStoppedItAndWhatTheIllustratedReportLacks) {
