@@ -119,18 +119,21 @@ void Form1::changeEvent(QEvent* event) {
 }
 
 void Form1::set_up_hints(QWidget& ground) {
-    m_hints->show_over(*m_ui->asinput,
-                       tr("Quota del suolo sul livello del mare nel sito di realizzazione dell' edificio, "
-                          "ininfluente se minore di 200 m."));
+    m_hints->show_over(
+        *m_ui->asinput,
+        QStringLiteral("Quota del suolo sul livello del mare nel sito di realizzazione dell' edificio, "
+                       "ininfluente se minore di 200 m."));
     for (ResultLabel* label : findChildren<ResultLabel*>()) {
         if (label->objectName().startsWith("carico_"))
-            m_hints->show_over(*label, tr("Il carico agisce in direzione verticale ed è riferito alla "
-                                          "proiezione orizzontale della superficie della copertura. "
-                                          "Considerare la più gravosa delle condizioni sopra riportate."));
+            m_hints->show_over(
+                *label, QStringLiteral("Il carico agisce in direzione verticale ed è riferito alla "
+                                       "proiezione orizzontale della superficie della copertura. "
+                                       "Considerare la più gravosa delle condizioni sopra riportate."));
         if (label->objectName().startsWith("spor_"))
-            m_hints->show_over(*label, tr("Il carico distribuito in punta dovuto a neve sporgente va "
-                                          "considerato in caso di copertura aggettante sulle pareti "
-                                          "perimetrali."));
+            m_hints->show_over(*label,
+                               QStringLiteral("Il carico distribuito in punta dovuto a neve sporgente va "
+                                              "considerato in caso di copertura aggettante sulle pareti "
+                                              "perimetrali."));
     }
     m_hints->hide_over(ground);
     m_hints->hide_over(*m_ui->Frame1);

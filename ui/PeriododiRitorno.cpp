@@ -8,8 +8,8 @@ namespace coltre {
 
 QString return_period_factor_line(const ProgramCells& cells) {
     const double factor = round_half_even(cells.return_period_factor, 4);
-    const QString text = QObject::tr("coefficiente") + QString::fromStdString(display_number_text(factor));
-    return cells.confirmed_return_period ? text : text + QObject::tr(", non confermato");
+    const QString text = QStringLiteral("coefficiente") + QString::fromStdString(display_number_text(factor));
+    return cells.confirmed_return_period ? text : text + QStringLiteral(", non confermato");
 }
 
 PeriododiRitorno::PeriododiRitorno(ProgramCells& cells, UserDialogs& dialogs, const QString& in_force,
@@ -31,7 +31,7 @@ void PeriododiRitorno::show_factor() {
     ProgramCells trial = m_cells;
     const ReturnPeriodOutcome outcome = confirm_return_period(m_ui->InputPerRIT->utf8(), trial);
     m_ui->typed_factor->setText(outcome.OutputPerRit ? return_period_factor_line(trial)
-                                                     : tr("coefficiente –"));
+                                                     : QStringLiteral("coefficiente –"));
 }
 
 void PeriododiRitorno::confirm_clicked() {

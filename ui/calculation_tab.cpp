@@ -38,7 +38,7 @@ CalculationTab::CalculationTab(Kind kind, QWidget& window, UserDialogs& dialogs)
     for (const ResultPlace& place : m_description.places)
         m_labels.push_back(find<ResultLabel>(window, place.label));
 
-    m_sketch.setAccessibleName(tr("Schizzo: %1").arg(qt(m_description.meaning)));
+    m_sketch.setAccessibleName(QStringLiteral("Schizzo: %1").arg(qt(m_description.meaning)));
     m_sketch.set_suggested_name(qt(m_description.picture));
     m_sketch.report_error = [&dialogs](const QString& text) {
         dialogs.show({Icon::error, std::string(program_title), text.toStdString()});
@@ -100,7 +100,8 @@ std::vector<ShownResult> CalculationTab::shown_results() const {
     if (!m_last) return {};
     std::vector<ShownResult> shown;
     if (m_description.needs_ground_load)
-        shown.push_back({tr("Carico neve al suolo qsk"), m_last->results.qsk, quantities::area_load});
+        shown.push_back(
+            {QStringLiteral("Carico neve al suolo qsk"), m_last->results.qsk, quantities::area_load});
     for (std::size_t i = 0; i < m_labels.size(); ++i) {
         const ResultCell& cell = *m_description.places[i].result;
         const QString description = m_labels[i]->accessibleDescription();  // ends with ", in kN/m²"

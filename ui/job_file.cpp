@@ -37,7 +37,7 @@ std::optional<Job> JobFile::open(const std::string& ProgramDirectory) {
     if (m_unsaved && !m_dialogs.ask(question("I dati dell'ultimo calcolo non sono salvati in un lavoro.\r"
                                              "Aprire un altro lavoro?")))
         return std::nullopt;
-    const QString path = ask_file_to_open(tr("Apri lavoro"), m_path, filter);
+    const QString path = ask_file_to_open(QStringLiteral("Apri lavoro"), m_path, filter);
     if (path.isEmpty()) return std::nullopt;
     const QString shown = QDir::toNativeSeparators(path);
     const FileContent file = read_content(path.toStdString());
@@ -48,7 +48,8 @@ std::optional<Job> JobFile::open(const std::string& ProgramDirectory) {
         job.error = file.end == ReadEnd::missing ? "il file non c'è" : file.reason;
     }
     if (job.error) {
-        show_error(tr("Impossibile aprire il lavoro %1: %2.").arg(shown, QString::fromStdString(*job.error)));
+        show_error(QStringLiteral("Impossibile aprire il lavoro %1: %2.")
+                       .arg(shown, QString::fromStdString(*job.error)));
         return std::nullopt;
     }
     if (!job.not_taken.empty()) {
@@ -67,12 +68,12 @@ void JobFile::opened(std::string content) {
 
 void JobFile::save(std::string content) {
     const QString begin = m_path.isEmpty() ? QStringLiteral("lavoro.coltre") : m_path;
-    const QString path = ask_file_to_save(tr("Salva lavoro"), begin, filter);
+    const QString path = ask_file_to_save(QStringLiteral("Salva lavoro"), begin, filter);
     if (path.isEmpty()) return;
     const QString reason = replace_file(path, QByteArray::fromStdString(content));
     if (!reason.isEmpty())
-        return show_error(
-            tr("Impossibile salvare il lavoro nel file %1: %2.").arg(QDir::toNativeSeparators(path), reason));
+        return show_error(QStringLiteral("Impossibile salvare il lavoro nel file %1: %2.")
+                              .arg(QDir::toNativeSeparators(path), reason));
     m_path = path;
     m_content = std::move(content);
     m_unsaved = false;

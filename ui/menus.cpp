@@ -93,8 +93,9 @@ void Menus::show_error(const QString& text) {
 
 void Menus::open(const QUrl& file) {
     if (!open_file(file))
-        show_error(tr("Impossibile aprire il file %1: il sistema non ha un programma per aprirlo.")
-                       .arg(QDir::toNativeSeparators(file.toLocalFile())));
+        show_error(
+            QStringLiteral("Impossibile aprire il file %1: il sistema non ha un programma per aprirlo.")
+                .arg(QDir::toNativeSeparators(file.toLocalFile())));
 }
 
 void Menus::write_illustrated_report(const CalculationTab& /*open_tab*/) {
@@ -113,15 +114,17 @@ void Menus::print_report(const CalculationTab& /*open_tab*/) {
     const QString file = printer.outputFileName();
     if (file.isEmpty()) {
         if (!printed)
-            show_error(tr("La stampante %1 non accetta il documento: controllare che sia accesa e collegata.")
-                           .arg(printer.printerName()));
+            show_error(
+                QStringLiteral(
+                    "La stampante %1 non accetta il documento: controllare che sia accesa e collegata.")
+                    .arg(printer.printerName()));
         return;
     }
     const QString path = QDir::toNativeSeparators(QFileInfo(file).absoluteFilePath());
-    if (!printed) return show_error(tr("Impossibile stampare nel file %1.").arg(path));
+    if (!printed) return show_error(QStringLiteral("Impossibile stampare nel file %1.").arg(path));
     // The print dialog has a file name of its own, which is easily overlooked.
     m_dialogs.show({Icon::information, std::string(program_title),
-                    tr("La relazione illustrata è nel file %1.").arg(path).toStdString()});
+                    QStringLiteral("La relazione illustrata è nel file %1.").arg(path).toStdString()});
 }
 
 void Menus::check_altitudes(const CalculationTab& /*open_tab*/) {
@@ -139,11 +142,11 @@ void Menus::show_steps(const CalculationTab& /*open_tab*/) {
 
 void Menus::open_last_report(const CalculationTab& /*open_tab*/) {
     if (m_last_report.empty())
-        return show_error(
-            tr("Nessuna relazione è stata scritta da quando il programma è aperto: selezionare «Crea "
-               "relazione» e premere «Calcola»."));
+        return show_error(QStringLiteral(
+            "Nessuna relazione è stata scritta da quando il programma è aperto: selezionare «Crea "
+            "relazione» e premere «Calcola»."));
     const QString path = path_of(m_last_report);
-    if (!QFileInfo::exists(path)) return show_error(tr("La relazione %1 non c'è più.").arg(path));
+    if (!QFileInfo::exists(path)) return show_error(QStringLiteral("La relazione %1 non c'è più.").arg(path));
     open(QUrl::fromLocalFile(path));
 }
 
@@ -153,7 +156,8 @@ void Menus::end_program(const CalculationTab& /*open_tab*/) {
 
 void Menus::copy_results(const CalculationTab& open_tab) {
     const std::vector<ShownResult> results = open_tab.shown_results();
-    if (results.empty()) return show_error(tr("Non ci sono risultati da copiare: premere «Calcola»."));
+    if (results.empty())
+        return show_error(QStringLiteral("Non ci sono risultati da copiare: premere «Calcola»."));
     if (!put_on_clipboard(
             copied(results, open_tab.results_are_stale() ? QString(pending_results) : QString())))
         show_error(clipboard_refuses);
@@ -175,7 +179,8 @@ void Menus::open_manual(const CalculationTab& open_tab) {
         return open(url);
     }
     show_error(
-        tr("Il manuale non è installato: il file manuale.html non è né in %1 né in %1/../share/doc/coltre.")
+        QStringLiteral(
+            "Il manuale non è installato: il file manuale.html non è né in %1 né in %1/../share/doc/coltre.")
             .arg(program));
 }
 

@@ -33,13 +33,15 @@ QString NumberField::reading() const {
     if (m_reading == Reading::strict) {
         const StrictNumber number = read_strictly(utf8(), user_decimal_separator());
         if (number.verdict == StrictNumber::Verdict::number) return {};
-        return number.verdict == StrictNumber::Verdict::not_a_number ? tr("non è un numero")
-                                                                     : tr("è un numero troppo grande");
+        return number.verdict == StrictNumber::Verdict::not_a_number
+                   ? QStringLiteral("non è un numero")
+                   : QStringLiteral("è un numero troppo grande");
     }
     const LenientNumber number = read_leniently(utf8());
-    if (number.beyond_range) return tr("è un numero troppo grande");
+    if (number.beyond_range) return QStringLiteral("è un numero troppo grande");
     if (number.wholly_understood) return {};
-    return tr("letto come %1").arg(QString::fromStdString(display_number_text(number.value)).trimmed());
+    return QStringLiteral("letto come %1")
+        .arg(QString::fromStdString(display_number_text(number.value)).trimmed());
 }
 
 bool NumberField::reads_comma() const {

@@ -54,9 +54,10 @@ void PlaceFinder::read_places() {
     m_model->set_places(std::move(places));
     m_ui->avviso->setVisible(failure.has_value());
     if (failure)
-        m_ui->avviso->setText(tr("Impossibile leggere il file altitudini.txt: %1. Le altitudini sono quelle "
-                                 "della tabella del programma.")
-                                  .arg(QString::fromStdString(*failure)));
+        m_ui->avviso->setText(
+            QStringLiteral("Impossibile leggere il file altitudini.txt: %1. Le altitudini sono quelle "
+                           "della tabella del programma.")
+                .arg(QString::fromStdString(*failure)));
     show_hits();
     if (row > 0 && row < m_model->rowCount())
         m_ui->comuni->setCurrentIndex(m_model->index(row, PlaceModel::name));
@@ -69,9 +70,9 @@ void PlaceFinder::search() {
 
 void PlaceFinder::show_hits() {
     const int count = m_model->rowCount();
-    m_ui->quanti->setText(count == 0   ? tr("Nessun comune")
-                          : count == 1 ? tr("1 comune")
-                                       : tr("%1 comuni").arg(count));
+    m_ui->quanti->setText(count == 0   ? QStringLiteral("Nessun comune")
+                          : count == 1 ? QStringLiteral("1 comune")
+                                       : QStringLiteral("%1 comuni").arg(count));
     m_ui->imposta->setEnabled(count > 0);
     m_ui->segna->setEnabled(count > 0);
     if (count > 0) m_ui->comuni->setCurrentIndex(m_model->index(0, PlaceModel::name));
@@ -102,7 +103,8 @@ void PlaceFinder::mark() {
 void PlaceFinder::show_marks() {
     const std::size_t count = m_model->marked_places().size();
     m_ui->confronta->setEnabled(count > 0);
-    m_ui->confronta->setText(count == 0 ? tr("Con&fronta siti") : tr("Con&fronta siti (%1)").arg(count));
+    m_ui->confronta->setText(count == 0 ? QStringLiteral("Con&fronta siti")
+                                        : QStringLiteral("Con&fronta siti (%1)").arg(count));
 }
 
 bool PlaceFinder::eventFilter(QObject* object, QEvent* event) {

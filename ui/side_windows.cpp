@@ -22,8 +22,8 @@ QString name_of(const LoadInputs& calculation) {
 QString heading_of(const LoadInputs& calculation) {
     const auto& [symbol, quantity] = greatest_load_name(calculation.entries.kind);
     const auto load = worst_load(calculation);
-    if (!load) return name_of(calculation) + QObject::tr(": il carico non si calcola con questi dati");
-    return QObject::tr("%1: %2 max = %3 %4")
+    if (!load) return name_of(calculation) + QStringLiteral(": il carico non si calcola con questi dati");
+    return QStringLiteral("%1: %2 max = %3 %4")
         .arg(name_of(calculation), qt(symbol), qt(fixed_text(*load, quantity.decimals)), qt(quantity.unit));
 }
 
@@ -61,15 +61,16 @@ void SideWindows::find_place() {
 
 void SideWindows::compare_sites() {
     if (m_comparison == nullptr)
-        m_comparison = new TableWindow(tr("Confronta siti"), "confronto-siti", m_dialogs, &m_main_window);
+        m_comparison =
+            new TableWindow(QStringLiteral("Confronta siti"), "confronto-siti", m_dialogs, &m_main_window);
     bring_to_front(*m_comparison);
     follow_in_comparison();
 }
 
 void SideWindows::show_what_if() {
     if (m_what_if == nullptr)
-        m_what_if =
-            new TableWindow(tr("Che cosa succede se"), "che-cosa-succede-se", m_dialogs, &m_main_window);
+        m_what_if = new TableWindow(QStringLiteral("Che cosa succede se"), "che-cosa-succede-se", m_dialogs,
+                                    &m_main_window);
     bring_to_front(*m_what_if);
     follow_in_what_if();
 }
@@ -85,15 +86,16 @@ void SideWindows::follow_in_comparison() {
     const auto places = finder().marked_places();
     const auto now = calculation();
     if (places.empty()) {
-        m_comparison->show_table(tr("Nessun comune segnato: in «Trova comune» (Ctrl+F) la barra spaziatrice "
-                                    "segna i comuni da confrontare."),
-                                 {}, {});
+        m_comparison->show_table(
+            QStringLiteral("Nessun comune segnato: in «Trova comune» (Ctrl+F) la barra spaziatrice "
+                           "segna i comuni da confrontare."),
+            {}, {});
     } else if (!now) {
-        m_comparison->show_table(tr(no_calculation), {}, {});
+        m_comparison->show_table(no_calculation, {}, {});
     } else {
         m_comparison->show_table(name_of(*now) + (describe(now->entries.kind).needs_ground_load
-                                                      ? tr(": dal sito più gravoso")
-                                                      : tr(": il carico non dipende dal sito")),
+                                                      ? QStringLiteral(": dal sito più gravoso")
+                                                      : QStringLiteral(": il carico non dipende dal sito")),
                                  site_comparison(places, *now), {});
     }
 }
@@ -103,7 +105,7 @@ void SideWindows::follow_in_what_if() {
     if (const auto now = calculation()) {
         m_what_if->show_table(heading_of(*now), variation_table(*now), load_over_altitude(*now));
     } else {
-        m_what_if->show_table(tr(no_calculation), {}, {});
+        m_what_if->show_table(no_calculation, {}, {});
     }
 }
 

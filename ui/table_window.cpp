@@ -55,7 +55,7 @@ TableWindow::TableWindow(const QString& name, const QString& file_name, UserDial
     m_ui->setupUi(this);
     setWindowTitle("Coltre - " + name);
     m_ui->tabella->setAccessibleName(name);
-    m_ui->diagramma->setAccessibleName(tr("Diagramma: carico massimo secondo l'altitudine"));
+    m_ui->diagramma->setAccessibleName(QStringLiteral("Diagramma: carico massimo secondo l'altitudine"));
     m_ui->diagramma->set_suggested_name(file_name);
     m_ui->diagramma->hide();
     set_row_height(*m_ui->tabella);
@@ -113,12 +113,13 @@ void TableWindow::copy() const {
 }
 
 void TableWindow::save() {
-    const QString path = ask_file(tr("Salva come CSV"), m_file_name + ".csv", tr("Fogli CSV (*.csv)"));
+    const QString path =
+        ask_file(QStringLiteral("Salva come CSV"), m_file_name + ".csv", QStringLiteral("Fogli CSV (*.csv)"));
     if (path.isEmpty()) return;
     const QString reason = replace_file(path, to_csv(m_table));
     if (reason.isEmpty()) return;
     m_dialogs.show({Icon::error, std::string(program_title),
-                    tr("Impossibile salvare il file %1: %2").arg(path, reason).toStdString()});
+                    QStringLiteral("Impossibile salvare il file %1: %2").arg(path, reason).toStdString()});
 }
 
 }  // namespace coltre

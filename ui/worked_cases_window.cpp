@@ -57,16 +57,17 @@ void WorkedCasesWindow::showEvent(QShowEvent* event) {
 }
 
 void WorkedCasesWindow::save() {
-    const QString path =
-        ask_file(tr("Salva i casi di prova"), "casi-di-prova.pdf", tr("Documenti PDF (*.pdf)"));
+    const QString path = ask_file(QStringLiteral("Salva i casi di prova"), "casi-di-prova.pdf",
+                                  QStringLiteral("Documenti PDF (*.pdf)"));
     if (path.isEmpty()) return;
     const QByteArray content = to_pdf(m_document);
     const QString reason =
-        content.isEmpty() ? tr("il documento non è stato creato") : replace_file(path, content);
+        content.isEmpty() ? QStringLiteral("il documento non è stato creato") : replace_file(path, content);
     if (reason.isEmpty()) return;
-    m_dialogs.show(
-        {Icon::error, std::string(program_title),
-         tr("Impossibile salvare i casi di prova nel file %1: %2.").arg(path, reason).toStdString()});
+    m_dialogs.show({Icon::error, std::string(program_title),
+                    QStringLiteral("Impossibile salvare i casi di prova nel file %1: %2.")
+                        .arg(path, reason)
+                        .toStdString()});
 }
 
 }  // namespace coltre
