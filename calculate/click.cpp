@@ -41,7 +41,9 @@ std::string reason(const CalculationEnd& end, const Entries& entries, const Prog
 }
 
 void calculate_entries(const Fields& fields, ProgramCells& cells, Outcome& outcome) {
-    EntryReader reader(trace_of(outcome), Stage::loads);
+    // A snow guard has no coefficients.
+    const Stage first = fields.kind == Kind::snow_guard ? Stage::loads : Stage::coefficients;
+    EntryReader reader(trace_of(outcome), first);
     outcome.entries = reader.entries(fields.kind, fields.entries, fields.decimal_separator);
     if (reader.stop()) return outcome.stop(*reader.stop());
     outcome.calculation = calculate(cells, outcome.entries, trace_of(outcome));

@@ -23,45 +23,60 @@ class LineReader {
     /// Reads the next line.
     /// @return false at the end of the stream
     bool next() {
+        m_fault = Fault::none;
         std::size_t taken = 0;
         for (;;) {
             const std::size_t room = m_buffer.size() - taken;
             m_in.getline(m_buffer.data() + taken, static_cast<std::streamsize>(room));
             const auto count = static_cast<std::size_t>(m_in.gcount());
             taken += count;
-            m_too_long = m_in.fail() && count + 1 == room;  // so far
-            if (!m_too_long || m_buffer.size() > longest) break;
+            const bool goes_on = m_in.fail() && count + 1 == room;
+            if (!goes_on) break;
             m_in.clear();
-            m_buffer.resize(std::min(2 * m_buffer.size(), longest + 1));
+            if (!grow()) {
+                m_in.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+                return true;
+            }
         }
-        if (m_too_long) {
-            m_in.clear();
-            m_in.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
-        } else if (m_in.fail() && taken == 0) {
-            return false;
-        }
+        if (m_in.fail() && taken == 0) return false;
         // getline counts the line end that it takes away; the last line may have none.
-        m_line = {m_buffer.data(), m_in.eof() || m_too_long ? taken : taken - 1};
+        m_line = {m_buffer.data(), m_in.eof() ? taken : taken - 1};
         return true;
     }
 
+    enum class Fault { none, too_long, no_memory };
+    /// Of a line with a fault nothing is kept.
+    [[nodiscard]] Fault fault() const { return m_fault; }
     [[nodiscard]] std::string_view line() const { return m_line; }
-    [[nodiscard]] bool too_long() const { return m_too_long; }
 
     static constexpr std::size_t longest = 1U << 20U;  // bytes: far beyond any request
 
   private:
+    bool grow() {
+        if (m_buffer.size() > longest) {
+            m_fault = Fault::too_long;
+            return false;
+        }
+        try {
+            m_buffer.resize(std::min(2 * m_buffer.size(), longest + 1));
+        } catch (const std::bad_alloc&) {
+            m_fault = Fault::no_memory;
+        }
+        return m_fault == Fault::none;
+    }
+
     std::istream& m_in;
     std::vector<char> m_buffer;
     std::string_view m_line;
-    bool m_too_long = false;
+    Fault m_fault = Fault::none;
 };
 
 /// @param id  the request's, as soon as it is known
 Answer perform_line(const LineReader& reader, const Environment& environment, SiteMemory& memory,
                     std::string& id) {
     Answer result;
-    if (reader.too_long()) {
+    if (reader.fault() == LineReader::Fault::no_memory) throw std::bad_alloc();
+    if (reader.fault() == LineReader::Fault::too_long) {
         result.fail(End::wrong_request,
                     "la riga è più lunga di " + std::to_string(LineReader::longest) + " byte");
         return result;
@@ -94,6 +109,7 @@ std::string answer(const LineReader& reader, const Environment& environment, Sit
 
 Answer perform_record(const CsvReader& table, const std::vector<CsvColumn>& columns, CsvEncoding& encoding,
                       const Environment& environment, SiteMemory& memory) {
+    if (table.fault() == CsvFault::no_memory) throw std::bad_alloc();
     CsvRequest record = read_csv_request(table, columns, encoding);
     if (!record.error) return perform(record.request, environment, memory);
     Answer result;

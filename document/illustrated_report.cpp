@@ -31,7 +31,7 @@ Document illustrated_report(const Subject& subject, const TitleBlock& title_bloc
     }
     write_title(write, subject, title_block);
     write_summary(write, subject);
-    write_references(write, subject);
+    write_references(write, subject, layout == Layout::complete);
     write_data(write, subject);
     if (layout == Layout::brief) {
         write_loads_alone(write, subject);

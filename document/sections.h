@@ -12,7 +12,8 @@ void write_title(Composer& write, const Subject& subject, const TitleBlock& titl
 /// Why the calculation stopped, and that no error is where a steep pitch keeps no snow.
 void write_stop(Composer& write, const Subject& subject);
 void write_summary(Composer& write, const Subject& subject);
-void write_references(Composer& write, const Subject& subject);
+/// @param formulas_follow  in the document, all of them
+void write_references(Composer& write, const Subject& subject, bool formulas_follow);
 void write_data(Composer& write, const Subject& subject);
 
 // sections_of_steps.cpp: the formulas, in chapters with their figures

@@ -129,7 +129,8 @@ void write_arrangements(Composer& write, const Subject& subject) {
                {}};
     for (const Arrangement& it : all) {
         const auto add = [&](std::string text, std::string_view side, const SideLoad& load, double greatest) {
-            const Style style = load.qs == greatest ? Style::strong : Style::plain;
+            const bool worst = load.qs == greatest && load.qs > 0;
+            const Style style = worst ? Style::strong : Style::plain;
             rows.rows.push_back({plain(std::move(text)),
                                  plain(std::string(side)),
                                  plain(fixed_text(load.mu, coefficient.decimals)),
@@ -208,10 +209,10 @@ void write_loads(Composer& write, const Subject& subject, const Remarks& remarks
 }  // namespace
 
 void write_loads_alone(Composer& write, const Subject& subject) {
-    const Remarks remarks = remarks_on(subject);
     write_altitude_remark(write, subject);
-    for (const std::string& remark : remarks.on_coefficients)
-        write.paragraph(remark);
+    Remarks remarks = remarks_on(subject);
+    remarks.on_loads.insert(remarks.on_loads.begin(), remarks.on_coefficients.begin(),
+                            remarks.on_coefficients.end());
     write_loads(write, subject, remarks);
 }
 

@@ -7,6 +7,7 @@
 #include "document/sections.h"
 #include "engine/exposure.h"
 #include "engine/ground_load.h"
+#include "engine/special_loads.h"
 #include "site/regions.h"
 #include "text/number_reading.h"
 
@@ -101,10 +102,10 @@ const Result* worst_overhang(const Subject& subject) {
     return worst;
 }
 
-/// Whether the drift of a level change is longer than the lower roof.
-bool is_cut(const Subject& subject, double ls) {
+/// Whether the drift of a level change is cut at the end of the lower roof.
+bool is_cut(const Subject& subject) {
     const Step* const whole = subject.step("ls_intero");
-    return whole != nullptr && whole->value && ls < *whole->value;
+    return whole != nullptr && whole->value && drift_is_cut(*whole->value, subject.outcome.entries.b2);
 }
 
 /// The limits that governed, each with the quantities that it governed.
@@ -210,8 +211,7 @@ void write_summary(Composer& write, const Subject& subject) {
     row_of("Carico massimo in gronda: ", worst_overhang(subject));
     for (const ResultCell* drift : {&level_ls, &wall_ls})
         if (const auto value = subject.computed(*drift))
-            row(std::string("Lunghezza di accumulo ls") +
-                    (is_cut(subject, *value) ? ", tagliata al bordo" : ""),
+            row(std::string("Lunghezza di accumulo ls") + (is_cut(subject) ? ", tagliata al bordo" : ""),
                 *value, drift->quantity);
     if (const auto force = subject.computed(Fs))
         row("Forza Fs sull'ostacolo, per unità di lunghezza", *force, Fs.quantity);
@@ -227,14 +227,13 @@ void write_summary(Composer& write, const Subject& subject) {
               "copertura.");
 }
 
-void write_references(Composer& write, const Subject& subject) {
+void write_references(Composer& write, const Subject& subject, bool formulas_follow) {
     write.section("Riferimenti e ipotesi");
     write.paragraph(
-        "Formule applicate: D.M. 16 gennaio 1996 e circolare 4 luglio 1996, nella forma riportata per esteso "
-        "nei "
-        "paragrafi che seguono. Il progettista verifica che siano applicabili all'opera; la normativa "
-        "vigente alla "
-        "data della relazione può essere un'altra.");
+        "Formule applicate: D.M. 16 gennaio 1996 e circolare 4 luglio 1996" +
+        std::string(formulas_follow ? ", nella forma riportata per esteso nei paragrafi che seguono" : "") +
+        ". Il progettista verifica che siano applicabili all'opera; la normativa vigente alla data della "
+        "relazione può essere un'altra.");
     if (subject.calculation().needs_ground_load)
         write.paragraph(
             "Le formule del carico al suolo in funzione dell'altitudine hanno la forma che si trova anche "

@@ -77,8 +77,10 @@ template <typename Number>
 Number qe(Run<Number>& run, const Number& qs, std::string_view qs_name) {
     run.stage(Stage::overhang_and_drift);
     const Number d = run.let({"d", qs_name}, exact_length, qs / 3);
+    const bool negative = qs.value() < 0;
     const Number k = run.let({"k", qs_name}, coefficient,
-                             min(in_words(3 / d, "qs ≥ 3 kN/m²"), in_words(3 * d, "qs < 3 kN/m²")));
+                             min(in_words(3 / d, negative ? "qs negativo" : "qs ≥ 3 kN/m²"),
+                                 in_words(3 * d, negative ? "qs negativo" : "qs < 3 kN/m²")));
     return squared(qs) * k / 3;
 }
 

@@ -47,6 +47,8 @@ std::string fault_text(CsvFault fault) {
             return "dopo le virgolette chiuse manca il separatore";
         case CsvFault::too_many_fields:
             return "ha più di " + std::to_string(CsvReader::most_fields) + " colonne";
+        case CsvFault::no_memory:
+            return "non sta in memoria";
         case CsvFault::too_long:
             return "è più lunga di " + std::to_string(CsvReader::longest) + " byte";
         case CsvFault::none:

@@ -3,6 +3,9 @@
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
+#include <algorithm>
+
+#include "requests/json_memory.h"
 #include "text/characters.h"
 
 namespace coltre {
@@ -156,17 +159,16 @@ class RequestHandler : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Re
 
 /// Reads the line once.
 /// @param parsed  what the parser sees of it, of the same length
-/// @return the start of a number that the parser refuses because it is beyond the range of doubles
-std::optional<std::size_t> read_once(std::string_view line, std::string_view parsed, UnknownKeys unknown,
-                                     JsonRequest& result) {
+/// @return false where the parser refuses a number because it is beyond the range of doubles
+bool read_once(std::string_view line, std::string_view parsed, UnknownKeys unknown, JsonRequest& result) {
     constexpr unsigned flags = rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseValidateEncodingFlag |
                                rapidjson::kParseIterativeFlag;
     rapidjson::MemoryStream stream(parsed.data(), parsed.size());
     RequestHandler handler(line, stream, unknown, result);
-    thread_local rapidjson::Reader reader;  // keeps its memory for the next line
+    rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, JsonMemory> reader;
     const rapidjson::ParseResult end = reader.Parse<flags>(stream, handler);
     // The parser takes a null character for the end of the text.
-    if (!end.IsError() && stream.Tell() == line.size()) return std::nullopt;
+    if (!end.IsError() && stream.Tell() == line.size()) return true;
     const std::size_t position = end.IsError() ? end.Offset() : stream.Tell();
     const bool is_cut = line.find_first_not_of(json_blanks, position) == std::string_view::npos;
     result.fault = is_cut ? JsonFault::cut : JsonFault::unreadable;
@@ -176,8 +178,41 @@ std::optional<std::size_t> read_once(std::string_view line, std::string_view par
     const bool ends_there = result.id.data() + result.id.size() == line.data() + position;
     if (!result.id.empty() && ends_there && result.id.back() >= '0' && result.id.back() <= '9')
         result.id = {};
-    if (end.Code() != rapidjson::kParseErrorNumberTooBig) return std::nullopt;
-    return position;
+    return end.Code() != rapidjson::kParseErrorNumberTooBig;
+}
+
+std::size_t digits_length(std::string_view text) {
+    return std::min(text.find_first_not_of("0123456789"), text.size());
+}
+
+/// Length of the number at the front of the text, as JSON writes numbers; 0 if there is none.
+std::size_t number_length(std::string_view text) {
+    std::size_t length = text.starts_with('-') ? 1 : 0;
+    const std::size_t whole = digits_length(text.substr(length));
+    if (whole == 0) return 0;
+    length += text[length] == '0' ? 1 : whole;
+    const auto take = [&](std::size_t sign) {
+        const std::size_t digits = digits_length(text.substr(std::min(length + sign, text.size())));
+        if (digits > 0) length += sign + digits;
+    };
+    const auto at = [&](std::size_t i) { return i < text.size() ? text[i] : '\0'; };
+    if (at(length) == '.') take(1);
+    if (at(length) == 'e' || at(length) == 'E') take(at(length + 1) == '+' || at(length + 1) == '-' ? 2 : 1);
+    return length;
+}
+
+/// The line with zeros as long in place of its numbers.
+std::string without_numbers(std::string_view line) {
+    std::string text(line);
+    bool in_string = false;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '"') in_string = !in_string;
+        if (in_string && text[i] == '\\') ++i;
+        const std::size_t length = in_string ? 0 : number_length(std::string_view(text).substr(i));
+        if (length > 2) text.replace(i, length, "0." + std::string(length - 2, '0'));
+        if (length > 0) i += length - 1;
+    }
+    return text;
 }
 
 }  // namespace
@@ -192,21 +227,11 @@ JsonRequest read_json_request(std::string_view line, UnknownKeys unknown) {
         result.error = "riga vuota";
         return result;
     }
-    auto refused = read_once(line, line, unknown, result);
-    if (!refused) return result;
-
-    // A number beyond the range is a text like others: the field that reads it finds it too large. A zero as
-    // long takes its place before the parser.
-    constexpr int most_numbers = 32;  // more than any request has
-    std::string parsed(line);
-    for (int tries = 0; refused && tries < most_numbers; ++tries) {
-        const std::size_t end = parsed.find_first_not_of("+-.0123456789Ee", *refused);
-        const std::size_t length = std::min(end, parsed.size()) - *refused;
-        parsed.replace(*refused, length, length, '0');
-        parsed[*refused + 1] = '.';
-        result = {};
-        refused = read_once(line, parsed, unknown, result);
-    }
+    if (read_once(line, line, unknown, result)) return result;
+    // A number beyond the range is a text like others: the field that reads it finds it too large. The parser
+    // sees zeros, the request takes the numbers from the line.
+    result = {};
+    read_once(line, without_numbers(line), unknown, result);
     return result;
 }
 

@@ -10,6 +10,7 @@
 #include <map>
 #include <optional>
 
+#include "requests/json_memory.h"
 #include "requests/json_request.h"
 #include "requests/perform.h"
 #include "text/number_text.h"
@@ -18,7 +19,9 @@ namespace coltre {
 
 namespace {
 
-using Value = rapidjson::Value;
+using Pool = rapidjson::MemoryPoolAllocator<JsonMemory>;
+using Value = rapidjson::GenericValue<rapidjson::UTF8<>, Pool>;
+using Text = rapidjson::GenericStringBuffer<rapidjson::UTF8<>, JsonMemory>;
 
 std::string text_of(const Value& value) {
     return {value.GetString(), value.GetStringLength()};
@@ -26,7 +29,7 @@ std::string text_of(const Value& value) {
 
 /// @param line  of the file that is compiled in: its form is the project's own
 WorkedCase case_of(std::string_view line) {
-    rapidjson::Document read;
+    rapidjson::GenericDocument<rapidjson::UTF8<>, Pool, JsonMemory> read;
     read.Parse(line.data(), line.size());
     WorkedCase worked{.id = text_of(read["id"]),
                       .title = text_of(read["titolo"]),
@@ -36,8 +39,8 @@ WorkedCase case_of(std::string_view line) {
                       .expected{}};
     for (const Value& text : read["passaggi"].GetArray())
         worked.working.push_back(text_of(text));
-    rapidjson::StringBuffer request;
-    rapidjson::Writer writer(request);
+    Text request;
+    rapidjson::Writer<Text, rapidjson::UTF8<>, rapidjson::UTF8<>, JsonMemory> writer(request);
     read["richiesta"].Accept(writer);
     worked.request = std::string(request.GetString(), request.GetSize());
     const Value& expected = read["attesi"];

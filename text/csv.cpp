@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <new>
 
 namespace coltre {
 
@@ -37,7 +38,14 @@ bool CsvReader::next() {
             skip_long_line();
             break;
         }
-        if (fill()) continue;
+        try {
+            if (fill()) continue;
+        } catch (const std::bad_alloc&) {
+            m_fields.clear();
+            skip_long_line();
+            m_fault = CsvFault::no_memory;
+            break;
+        }
         if (m_position == m_record) return false;
         if (m_state == State::quoted) break_record(CsvFault::open_quotes);
         if (m_fault == CsvFault::none) end_field();

@@ -13,7 +13,7 @@
 namespace coltre {
 
 /// What is wrong with a record.
-enum class CsvFault { none, open_quotes, text_after_quotes, too_many_fields, too_long };
+enum class CsvFault { none, open_quotes, text_after_quotes, too_many_fields, too_long, no_memory };
 
 /// The records of a stream, in memory that does not grow with it. The first of the separators that stands in
 /// the first line, outside of quotation marks, separates all fields. Of a record with a fault only the first

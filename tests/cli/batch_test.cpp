@@ -105,8 +105,9 @@ TEST(Batch, NamesTheFirstCharacterThatCannotStandWhereItIs) {
         {R"({"a":1,})", 8},        {R"([1,])", 4},
         {R"({} {})", 4},           {"{}\0"s, 3},
         {R"({"a":tru})", 9},       {R"({"a":01})", 7},
-        {R"({"a":1.})", 8},        {R"({"è":+1})", 6},  // characters, no bytes
-        {"{\"a\":\"b\xC3(\"}", 8},                      // no UTF-8
+        {R"({"a":1e400-7})", 11},  {R"({"a":-1e400.5})", 12},  // numbers beyond the range
+        {R"({"a":1.})", 8},        {R"({"è":+1})", 6},         // characters, no bytes
+        {"{\"a\":\"b\xC3(\"}", 8},                             // no UTF-8
         {R"({"a":"b\q"})", 8},     {R"({"a":"b\ud800"})", 8},
         {R"({"a":"\udc00"})", 14},  // known behind the text alone
         {R"({"\udc00":1})", 10},
@@ -119,9 +120,13 @@ TEST(Batch, NamesTheFirstCharacterThatCannotStandWhereItIs) {
 
 TEST(Batch, IdComesBackWhateverItIs) {
     const std::string deep = std::string(50'000, '[') + std::string(50'000, ']');
+    std::string many = "[-1e400";
+    for (int i = 0; i < 100; ++i)
+        many += R"(, 1e999, "\" 1e400", 12E+500, 0.5)";
+    many += ']';
     for (const std::string& id :
          {"1"s, "-0.50"s, "18446744073709551616"s, "null"s, "false"s, R"("è \"\u00e8\"\n")"s,
-          R"([1, {"a":[]} ,"b"])"s, R"({"id":{"d":-2.5e3}})"s, deep}) {
+          R"([1, {"a":[]} ,"b"])"s, R"({"id":{"d":-2.5e3}})"s, deep, many}) {
         for (const std::string& line :
              {request(by_number, R"("alfa":15,"id":)" + id), R"({"id" : )" + id + R"( ,"alfa":{"id":2}})"})
             EXPECT_THAT(run_command({"lotto"}, {line}).out, StartsWith(R"({"id": )" + id + ", "))
