@@ -117,12 +117,12 @@ Answer perform_record(const CsvReader& table, const std::vector<CsvColumn>& colu
     return result;
 }
 
-/// The cells of the request as they were: as many as the header has.
-void append_cells(std::string& line, const CsvReader& table, std::size_t columns) {
+/// Writes the cells of the request as they were: as many as the header has.
+void write_cells(std::ostream& out, const CsvReader& table, std::size_t columns) {
     const auto fields = table.fields();
     for (std::size_t i = 0; i < columns; ++i) {
-        if (i > 0) line += table.separator();
-        if (i < fields.size()) line += fields[i];
+        if (i > 0) out << table.separator();
+        if (i < fields.size()) out << fields[i];
     }
 }
 
@@ -167,29 +167,35 @@ BatchOutcome run_csv_batch(std::istream& in, std::ostream& out, const Environmen
         outcome.header_error = header.error;
         return outcome;
     }
-    std::string line = table.has_byte_order_mark() ? "\xEF\xBB\xBF" : "";
-    if (!line.empty()) encoding = CsvEncoding::utf8;
-    append_cells(line, table, header.columns.size());
-    append_csv_columns(line, table.separator());
-    out << line << table.line_end();
+    if (table.has_byte_order_mark()) {
+        encoding = CsvEncoding::utf8;
+        out << "\xEF\xBB\xBF";
+    }
+    std::string cells;
+    cells.reserve(4096);  // usual answers need no more, also where memory is short
+    append_csv_columns(cells, table.separator());
+    write_cells(out, table, header.columns.size());
+    out << cells << table.line_end();
 
     SiteMemory memory;
     while (out) {
         if (!table.more_at_hand()) out.flush();
         if (!table.next()) break;
         ++outcome.requests;
-        Answer answer;
+        const auto put = [&](const Answer& answer) {
+            cells.clear();
+            append_csv_answer(cells, answer, table.separator(), encoding);
+            outcome.failed += answer.end == End::well ? 0 : 1;
+        };
         try {
-            answer = perform_record(table, header.columns, encoding, environment, memory);
+            put(perform_record(table, header.columns, encoding, environment, memory));
         } catch (const std::bad_alloc&) {
-            answer = {};  // a lack of memory ends this request alone
+            Answer answer;  // a lack of memory ends this request alone
             answer.fail(End::failed, "memoria esaurita");
+            put(answer);
         }
-        outcome.failed += answer.end == End::well ? 0 : 1;
-        line.clear();
-        append_cells(line, table, header.columns.size());
-        append_csv_answer(line, answer, table.separator(), encoding);
-        out << line << table.line_end();
+        write_cells(out, table, header.columns.size());
+        out << cells << table.line_end();
     }
     out.flush();
     outcome.end = end_of(outcome, in, out);
