@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <optional>
+#include <vector>
 
 #include "calculate/entry_reader.h"
 #include "text/number_text.h"
@@ -25,7 +26,7 @@ struct Word {
     std::string_view written;
     std::string_view printed;
 };
-constexpr std::array<Word, 14> words{{
+constexpr std::array<Word, 15> words{{
     {" * ", " · "},
     {" / ", "/"},
     {" - ", " − "},
@@ -38,6 +39,7 @@ constexpr std::array<Word, 14> words{{
     {" + ", " + "},
     {" < ", " < "},
     {" > ", " > "},
+    {"(0 - ", "(−"},
     {"(", "("},
     {")", ")"},
 }};
@@ -216,6 +218,46 @@ Pieces governing_text(const Step& step) {
     return pieces;
 }
 
+namespace {
+
+std::vector<std::string_view> split_at_blanks(std::string_view text) {
+    std::vector<std::string_view> tokens;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(' '), text.size());
+        tokens.push_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return tokens;
+}
+
+/// The condition with the numbers of its symbols, "30 < alfa = 35 <= 60", but for the zone: words name it.
+Pieces condition_text(const Step& step) {
+    const auto symbols = split_at_blanks(step.condition);
+    const auto numbers = split_at_blanks(step.condition_numbers);
+    // Both are written alike, token by token. Beside a computed side, L / 2, a number would be read with it.
+    const bool computes = step.condition.find_first_of("+-*/") != std::string::npos;
+    if (computes || numbers.size() != symbols.size()) return formula_text(step.condition);
+    const auto compares = [&](std::size_t i) {
+        if (i >= symbols.size()) return true;
+        const std::string_view token = symbols[i];
+        return token == "and" || token.front() == '<' || token.front() == '>';
+    };
+    std::string text;
+    for (std::size_t i = 0; i < symbols.size(); ++i) {
+        text.append(text.empty() ? "" : " ").append(symbols[i]);
+        const bool alone = (i == 0 || compares(i - 1)) && compares(i + 1);
+        if (alone && !compares(i) && symbols[i] != numbers[i]) text.append(" == ").append(numbers[i]);
+        const bool names_zone = i > 0 && symbols[i - 1] == "==" && i + 1 < symbols.size();
+        if (names_zone && symbols[i + 1] == "and") {
+            text.clear();
+            ++i;
+        }
+    }
+    return formula_text(text);
+}
+
+}  // namespace
+
 FormulaLine step_line(const Step& step, std::string_view more) {
     FormulaLine line;
     Pieces& formula = line.formula;
@@ -241,7 +283,7 @@ FormulaLine step_line(const Step& step, std::string_view more) {
         if (!line.remark.empty()) append(line.remark, "; ", Style::note);
         append(line.remark, pieces);
     };
-    remark(formula_text(step.condition));
+    remark(condition_text(step));
     if (step.governs.empty() && !step.words.empty())
         remark({{std::string(step.words) + std::string(more), Style::emphasis}});
     remark(governing_text(step));

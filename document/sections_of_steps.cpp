@@ -166,7 +166,7 @@ void write_sketch(Composer& write, const Subject& subject) {
     std::map<std::string, std::string> labels;
     const auto label = [&](std::string_view name, const ResultCell& result, std::string_view unit = {}) {
         if (const auto value = subject.computed(result))
-            labels[std::string(name)] = fixed_text(*value, result.quantity.decimals) + std::string(unit);
+            labels[std::string(name)] = value_text(*value, result.quantity) + std::string(unit);
     };
     for (const ResultPlace& place : subject.calculation().places)
         label(place.label, *place.result);

@@ -205,7 +205,7 @@ void write_summary(Composer& write, const Subject& subject) {
     const auto worst = worst_load(subject.fields.kind, subject.outcome.calculation);
     for (const Result& result : subject.outcome.calculation.results) {
         if (result.cell->quantity.unit != area_load.unit) continue;
-        if (!worst) row_of("Carico" + std::string(load), &result);
+        if (!worst) row_of(subject.is_roof() ? "Carico sulla copertura: " : "Calcolato: ", &result);
         if (worst && worst->cell == result.cell) row_of("Carico massimo" + std::string(load), &result);
     }
     row_of("Carico massimo in gronda: ", worst_overhang(subject));

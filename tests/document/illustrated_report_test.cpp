@@ -27,7 +27,7 @@ TEST(IllustratedReport, TellsTheStepsAndWhatGovernedOfEachCalculation) {
     for (const Case& c : {
              Case{Kind::one_pitch,
                   {"35"},
-                  {"0,6667", "0,361 kN/m", "30 &lt; <i>α</i> ≤ 60", "ramo discendente", "(50) = 0,8056",
+                  {"0,6667", "0,361 kN/m", "30 &lt; <i>α</i> = 35 ≤ 60", "ramo discendente", "(50) = 0,8056",
                    "Normale: Aree"}},
              Case{Kind::two_pitches,
                   {"20", "40"},
