@@ -105,6 +105,8 @@ class PicturedDialogs : public UserDialogs {
     explicit PicturedDialogs(Pictures& pictures) : m_pictures(pictures) {}
 
     void expect(const QString& name) { m_name = name; }
+    /// The next message is expected, and no picture is taken of it.
+    void let_pass() { m_lets_pass = true; }
     void show(const Message& message) override {
         take(message, [&] { m_boxes.show(message); });
     }
@@ -116,12 +118,14 @@ class PicturedDialogs : public UserDialogs {
 
   private:
     void take(const Message& message, const std::function<void()>& box) {
+        if (std::exchange(m_lets_pass, false)) return;
         if (m_name.isEmpty()) return m_pictures.complain(QString::fromStdString(message.text));
         m_pictures.take_opened(std::exchange(m_name, {}), box);
     }
 
     Pictures& m_pictures;
     QtDialogs m_boxes;
+    bool m_lets_pass = false;
     QString m_name;
 };
 
@@ -154,7 +158,7 @@ Window& open_by_menu(QWidget& window, const QString& entry) {
 }
 
 /// The steps of the last calculation, and the pages of its report as a PDF.
-void take_documents(Form1& window, Pictures& pictures) {
+void take_documents(Form1& window, PicturedDialogs& dialogs, Pictures& pictures) {
     auto& steps = open_by_menu<StepsWindow>(window, "Passaggi del calcolo");
     steps.resize(1180, 560);
     pictures.take(steps, "passaggi");
@@ -163,6 +167,7 @@ void take_documents(Form1& window, Pictures& pictures) {
         printer.setOutputFileName(pictures.path("relazione-illustrata.pdf"));
         return true;
     };
+    dialogs.let_pass();
     choose_in_menu(window, "Stampa…");
 }
 
@@ -180,7 +185,7 @@ void take_main_window(Form1& window, PicturedDialogs& dialogs, Pictures& picture
         QContextMenuEvent right_click(QContextMenuEvent::Mouse, {}, {});
         QApplication::sendEvent(&sketch, &right_click);
     });
-    take_documents(window, pictures);
+    take_documents(window, dialogs, pictures);
     take_tab(window, "SSTab1", 2, "Calcola", "finestra-piu-falde", pictures);
     take_tab(window, "SSTab1", 3, "Calcola", "finestra-cilindrica", pictures);
     take_tab(window, "SSTab1", 0, "Calcola", "finestra-una-falda", pictures);
