@@ -95,10 +95,11 @@ struct Arrangement {
     [[nodiscard]] double difference() const { return std::abs(side1.qs - side2.qs); }
 };
 
-/// The numbers of the arrangements in which a load is the greatest: "I e III".
+/// The numbers of the arrangements in which a load is the greatest: "I e III"; "nessuna" where there is none.
 template <typename Load>
 std::string worst_arrangements(std::span<const Arrangement> all, Load load) {
     const double greatest = load(*std::ranges::max_element(all, {}, load));
+    if (greatest <= 0) return "nessuna";
     std::vector<std::string_view> worst;
     for (const Arrangement& it : all)
         if (load(it) == greatest) worst.push_back(it.number);
